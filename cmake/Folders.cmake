@@ -1,0 +1,22 @@
+# norlaplan_folder(NAME [LINKS above...]): one static library for src/NAME.
+# The links say which folders it may include; a wrong include does not build,
+# because each folder's headers are only reachable through its own include root.
+function(norlaplan_folder name)
+  cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${name}/*.cpp)
+  file(GLOB headers CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/src/${name}/*.h)
+  set(root ${PROJECT_BINARY_DIR}/include/${name})
+  file(MAKE_DIRECTORY ${root})
+  file(CREATE_LINK ${PROJECT_SOURCE_DIR}/src/${name} ${root}/${name} SYMBOLIC)
+  if(sources)
+    add_library(norlaplan_${name} STATIC ${sources})
+    set(scope PUBLIC)
+  else()
+    add_library(norlaplan_${name} INTERFACE)
+    set(scope INTERFACE)
+  endif()
+  target_include_directories(norlaplan_${name} ${scope} ${root})
+  foreach(link IN LISTS ARG_LINKS)
+    target_link_libraries(norlaplan_${name} ${scope} norlaplan_${link})
+  endforeach()
+endfunction()

@@ -1,0 +1,28 @@
+# The program folder is the folder of the executable: everything that the
+# program reads at run time is laid out there under the names it reads.
+file(GLOB_RECURSE data_files CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}/data ${PROJECT_SOURCE_DIR}/data/*)
+set(staged)
+foreach(file IN LISTS data_files)
+  set(target "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${file}")
+  add_custom_command(
+    OUTPUT "${target}"
+    COMMAND ${CMAKE_COMMAND} -E copy "${PROJECT_SOURCE_DIR}/data/${file}" "${target}"
+    DEPENDS "${PROJECT_SOURCE_DIR}/data/${file}"
+    VERBATIM)
+  list(APPEND staged "${target}")
+endforeach()
+add_custom_target(program-folder ALL DEPENDS ${staged})
+file(MAKE_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/save)
+
+if(TARGET style-pictures)
+  # The style pictures are drawn from the bearings' geometry at build time.
+  set(pictures ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/bkground)
+  add_custom_command(
+    OUTPUT ${pictures}/.drawn
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${pictures}
+    COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen $<TARGET_FILE:style-pictures> ${pictures}
+    COMMAND ${CMAKE_COMMAND} -E touch ${pictures}/.drawn
+    DEPENDS style-pictures
+    VERBATIM)
+  add_custom_target(program-pictures ALL DEPENDS ${pictures}/.drawn)
+endif()

@@ -1,0 +1,43 @@
+#include "numbers/RuntimeError.h"
+
+namespace norlaplan {
+
+RuntimeError::RuntimeError(int number) : std::runtime_error(runtimeErrorText(number)), number_(number) {}
+
+RuntimeError::RuntimeError(int number, const std::string& description)
+    : std::runtime_error(description), number_(number) {}
+
+std::string runtimeErrorText(int number) {
+    switch (number) {
+        case fault::kInvalidCall:
+            return "Invalid procedure call or argument";
+        case fault::kOverflow:
+            return "Overflow";
+        case fault::kSubscript:
+            return "Subscript out of range";
+        case fault::kDivisionByZero:
+            return "Division by zero";
+        case fault::kTypeMismatch:
+            return "Type mismatch";
+        case fault::kFileNotFound:
+            return "File not found";
+        case fault::kDeviceIo:
+            return "Device I/O error";
+        case fault::kDiskFull:
+            return "Disk full";
+        case fault::kPastEnd:
+            return "Input past end of file";
+        case fault::kPermissionDenied:
+            return "Permission denied";
+        case fault::kPathAccess:
+            return "Path/File access error";
+        default:
+            return "Application-defined or object-defined error";
+    }
+}
+
+void raise(int number) {
+    throw RuntimeError(number);
+}
+
+}  // namespace norlaplan

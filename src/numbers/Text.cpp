@@ -1,0 +1,178 @@
+#include "numbers/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "numbers/RuntimeError.h"
+
+namespace norlaplan {
+namespace {
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+bool isBlank(char c) {
+    return c == ' ' || c == '\t';
+}
+
+char asciiUpper(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+char asciiLower(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+/// How many characters of `text` make up digits, a point and more digits; 0 when no digit is among them.
+std::size_t mantissaLength(std::string_view text) {
+    std::size_t at = 0;
+    std::size_t digits = 0;
+    bool point = false;
+    while (at < text.size() && (isDigit(text[at]) || (text[at] == '.' && !point))) {
+        if (text[at] == '.') {
+            point = true;
+        } else {
+            ++digits;
+        }
+        ++at;
+    }
+    return digits == 0 ? 0 : at;
+}
+
+/// How many characters behind a mantissa make up an exponent such as "E+06"; 0 when they are none.
+std::size_t exponentLength(std::string_view text) {
+    if (text.empty() || asciiUpper(text[0]) != 'E') return 0;
+    std::size_t at = 1;
+    if (at < text.size() && (text[at] == '+' || text[at] == '-')) ++at;
+    const std::size_t first = at;
+    while (at < text.size() && isDigit(text[at]))
+        ++at;
+    return at == first ? 0 : at;
+}
+
+struct ScannedNumber {
+    double value = 0.0;
+    std::size_t length = 0;  ///< characters that belong to the number; 0 when there is none
+    bool tooLarge = false;
+};
+
+ScannedNumber scanNumber(std::string_view text) {
+    ScannedNumber scanned;
+    std::size_t at = 0;
+    const bool negative = !text.empty() && text[0] == '-';
+    if (!text.empty() && (text[0] == '-' || text[0] == '+')) at = 1;
+    const std::size_t mantissa = mantissaLength(text.substr(at));
+    if (mantissa == 0) return scanned;
+    const std::size_t length = mantissa + exponentLength(text.substr(at + mantissa));
+    const char* first = text.data() + at;
+    double value = 0.0;
+    const auto result = std::from_chars(first, first + length, value);
+    if (result.ec == std::errc::result_out_of_range) {
+        // Either far too large or too small to be told from zero: the exponent's sign says which.
+        const std::string_view number(first, length);
+        scanned.tooLarge =
+            number.find("e-") == std::string_view::npos && number.find("E-") == std::string_view::npos;
+        value = 0.0;
+    }
+    scanned.value = negative ? -value : value;
+    scanned.length = at + length;
+    return scanned;
+}
+
+/// The digits and decimal exponent of the shortest text that reads back to `value` (> 0).
+template <typename Real>
+std::string shortestFixed(Real value) {
+    if (value == Real{0}) return "0";
+    std::array<char, 64> buffer{};
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::scientific).ptr;
+    const std::string_view text(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
+    const std::size_t mark = text.find('e');
+    std::string digits(text.substr(0, mark));
+    const bool negative = digits.front() == '-';
+    if (negative) digits.erase(0, 1);
+    std::erase(digits, '.');
+    const std::string_view exponentText = text.substr(mark + 1);
+    int exponent = 0;
+    std::from_chars(exponentText.data() + (exponentText.front() == '+' ? 1 : 0),
+                    exponentText.data() + exponentText.size(), exponent);
+    const int whole = exponent + 1;
+    std::string plain;
+    if (whole <= 0) {
+        plain = "0." + std::string(static_cast<std::size_t>(-whole), '0') + digits;
+    } else if (static_cast<std::size_t>(whole) >= digits.size()) {
+        plain = digits + std::string(static_cast<std::size_t>(whole) - digits.size(), '0');
+    } else {
+        const auto split = static_cast<std::size_t>(whole);
+        plain = digits.substr(0, split) + "." + digits.substr(split);
+    }
+    return negative ? "-" + plain : plain;
+}
+
+template <typename Real>
+std::string shortest(Real value) {
+    std::array<char, 64> buffer{};
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
+    return std::string(buffer.data(), end);
+}
+
+}  // namespace
+
+std::string upperCase(std::string_view text) {
+    std::string upper(text);
+    std::transform(upper.begin(), upper.end(), upper.begin(), asciiUpper);
+    return upper;
+}
+
+std::string lowerCase(std::string_view text) {
+    std::string lower(text);
+    std::transform(lower.begin(), lower.end(), lower.begin(), asciiLower);
+    return lower;
+}
+
+std::string trimmed(std::string_view text) {
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    return std::string(text);
+}
+
+double leadingNumber(std::string_view text) {
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    const ScannedNumber scanned = scanNumber(text);
+    if (scanned.tooLarge) raise(fault::kOverflow);
+    return scanned.value;
+}
+
+std::optional<double> wholeNumberText(std::string_view text) {
+    std::string plain = trimmed(text);
+    const std::size_t point = std::min(plain.find('.'), plain.size());
+    const std::size_t sign = !plain.empty() && (plain[0] == '-' || plain[0] == '+') ? 1 : 0;
+    if (point > sign && plain[sign] == ',') return std::nullopt;
+    plain.erase(std::remove(plain.begin(), plain.begin() + static_cast<std::ptrdiff_t>(point), ','),
+                plain.begin() + static_cast<std::ptrdiff_t>(point));
+    const ScannedNumber scanned = scanNumber(plain);
+    if (scanned.length == 0 || scanned.length != plain.size() || scanned.tooLarge) return std::nullopt;
+    return scanned.value;
+}
+
+std::string plainText(Single value) {
+    return shortestFixed(value.stored());
+}
+std::string plainText(double value) {
+    return shortestFixed(value);
+}
+std::string plainText(int value) {
+    return std::to_string(value);
+}
+std::string shortestText(Single value) {
+    return shortest(value.stored());
+}
+std::string shortestText(double value) {
+    return shortest(value);
+}
+
+}  // namespace norlaplan

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "numbers/Int16.h"
+#include "numbers/Single.h"
+
+namespace norlaplan {
+
+/// What one load case does to the current bearing, as the load-life screen shows, prints and saves it.
+struct LifeResult {
+    Single torqueCoefficient;   ///< 0.002, 0.004 or 0.006; the solver reads it
+    Single startingTorque;      ///< pound-inches
+    Single l10Revolutions;      ///< cut to a whole number once shown
+    Single l10Hours;            ///< rounded to one decimal
+    Single staticSafetyFactor;  ///< rounded to one decimal once shown
+    Single torqueDisplay;       ///< starting torque in display units
+    std::string torqueLabel;
+    Single loadPercent;  ///< load as a percentage of the dynamic rating
+    Single speedLimit;   ///< rpm, whole
+    std::string speedVerdict;
+    Int16 speedVerdictColor;  ///< 2 within the limit, 4 over it
+};
+
+}  // namespace norlaplan

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "state/Canvas.h"
+
+namespace norlaplan {
+
+enum class Icon { None, Information, Warning, Question, Critical };
+enum class Buttons { Ok, YesNo, YesNoCancel };
+enum class Answer { Ok, Yes, No, Cancel };
+
+/// A message box. Title and prompt are the program's own texts, UTF-8.
+struct Message {
+    std::string title;
+    std::string prompt;
+    Icon icon = Icon::None;
+
+    bool operator==(const Message&) const = default;
+};
+
+/// Shows messages and asks questions. The window program shows boxes; the command line prints messages and
+/// answers No.
+class MessagePort {
+  public:
+    virtual ~MessagePort() = default;
+    virtual void show(const Message& message) = 0;
+    virtual Answer ask(const Message& question, Buttons buttons) = 0;
+};
+
+struct FileFilter {
+    std::string label;    ///< as the dialog shows it: "Rich Text Files (*.rtf)"
+    std::string pattern;  ///< "*.rtf"
+};
+
+struct SaveRequest {
+    std::string title;
+    std::vector<FileFilter> filters;
+    std::string defaultExtension;  ///< ".rtf"
+    std::filesystem::path folder;
+    std::string name;
+};
+
+struct SaveChoice {
+    std::filesystem::path path;
+    int filterIndex = 1;  ///< counted from 1
+};
+
+/// The save dialog, with its question before an existing file is replaced. Nothing when the user cancels.
+class SaveDialogPort {
+  public:
+    virtual ~SaveDialogPort() = default;
+    virtual std::optional<SaveChoice> askWhereToSave(const SaveRequest& request) = 0;
+};
+
+/// The printer. `draw` gets a letter page, portrait; false when the user cancels.
+class PrinterPort {
+  public:
+    virtual ~PrinterPort() = default;
+    virtual bool print(const std::string& documentName, const std::function<void(Canvas&)>& draw) = 0;
+};
+
+/// Date and time as texts in the user's locale, short form.
+class ClockPort {
+  public:
+    virtual ~ClockPort() = default;
+    virtual std::string date() = 0;
+    virtual std::string time() = 0;
+};
+
+/// The two files that a decode writes: the sheet as RTF and the same drawing as records.
+struct SheetFiles {
+    std::string rtf;
+    std::string records;
+};
+
+/// Where a decode puts its data sheet: the program folder, or memory for the command line.
+class SheetStorePort {
+  public:
+    virtual ~SheetStorePort() = default;
+    virtual void store(const SheetFiles& sheet) = 0;
+};
+
+}  // namespace norlaplan

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <string>
+
+#include "numbers/Int16.h"
+#include "state/BearingSpec.h"
+#include "state/LifeResult.h"
+#include "state/LoadCase.h"
+#include "state/SearchRecords.h"
+#include "state/SolverState.h"
+#include "state/UnitMode.h"
+
+namespace norlaplan {
+
+/// What the option file switches on.
+struct Options {
+    Flag faxCoverEnabled, deflectionOption, larsHofmannOption, nedGroveOption, ianMorayOption,
+        skipIntroOption, ballShowOption, lubeFilmOption, pathStressOption, samLundOption, tempFitsOption;
+    Flag qlxOption;  ///< shows the export item of the File menu
+    std::string footerText;
+};
+
+/// The eight texts about the user, in the order of the settings file.
+struct UserInfo {
+    std::string userName, userTitle, userCompany, userAddress1, userAddress2, userPhone, userFax,
+        userMailSuffix;
+};
+
+/// The one record of program-wide state. It is made once in `main` and handed down by reference; screens talk
+/// to each other only through it.
+struct ProgramState {
+    Options options;
+    UserInfo user;
+    std::string unitSystem;  ///< "US" or "METRIC"
+    UnitMode units;
+
+    BearingSpec bearing;
+
+    BearingStyle style;
+    SearchCriteria criteria;
+    SearchResults search;
+    Flag styleChosen, sizesChosen;
+    bool sizeInputPending = false;
+
+    LoadCase loads;
+    Flag loadsEntered;
+    bool knownBearingLoadInput = false;  ///< the load screen serves the known-bearing path
+
+    LifeResult life;
+    SolverState solver;
+    bool returningFromSideScreen = false;
+
+    std::string lastSavedFile;
+};
+
+}  // namespace norlaplan

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "numbers/Int16.h"
+#include "numbers/Single.h"
+
+namespace norlaplan {
+
+/// The envelope of a search: as entered, in display units, and in inches.
+struct SearchCriteria {
+    Single minBoreDisplay, maxOdDisplay, minHeightDisplay, maxHeightDisplay;
+    Single minBore, maxOd, minHeight, maxHeight;
+};
+
+/// The style of the search path: one of the six captions with its table letter.
+struct BearingStyle {
+    std::string searchStyleCaption;
+    std::string searchStyleLetter;  ///< "A", "C" or "X"
+};
+
+/// One row of the results, all of it as text, as it is shown.
+struct SearchHit {
+    std::string name, speedLimit, l10Revolutions, l10Hours, boreText, odText, heightText, stock;
+};
+
+/// The rows of the last search and how they stand.
+struct SearchResults {
+    std::vector<SearchHit> rows;
+    Int16 hitCount;  ///< the next free row number: 1 when there is no row
+    bool noResultFlag = false;
+    bool listOnlyFlag = false;  ///< the list is to be rebuilt from the rows, nothing computed
+    bool sorted = false;
+    Int16 sortColumn = 5;
+    std::string sortDirection = "UP";
+};
+
+}  // namespace norlaplan
