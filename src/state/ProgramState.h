@@ -32,7 +32,7 @@ struct ProgramState {
     Options options;
     UserInfo user;
     std::string unitSystem;  ///< "US" or "METRIC"
-    UnitMode units;
+    UnitMode units = initialUnits();
 
     BearingSpec bearing;
 

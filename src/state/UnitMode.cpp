@@ -54,4 +54,8 @@ void ApplyUnitSystem(std::string_view system, UnitMode& units) {
     if (system == "METRIC") units = metricUnits();
 }
 
+UnitMode initialUnits() {
+    return usUnits();
+}
+
 }  // namespace norlaplan

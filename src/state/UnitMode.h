@@ -20,4 +20,8 @@ struct UnitMode {
 /// Fills `units` for "US" or "METRIC"; any other text leaves every field as it was.
 void ApplyUnitSystem(std::string_view system, UnitMode& units);
 
+/// The units of a new state: US ones, so that a settings file that can't be read never leaves the program
+/// with factors of zero.
+UnitMode initialUnits();
+
 }  // namespace norlaplan

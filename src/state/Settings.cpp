@@ -1,0 +1,120 @@
+#include "state/Settings.h"
+
+#include <array>
+#include <string_view>
+#include <utility>
+
+#include "numbers/RuntimeError.h"
+#include "numbers/Text.h"
+
+namespace norlaplan {
+namespace {
+
+constexpr std::string_view kSettingsFile = "SETTINGS.INI";
+constexpr std::string_view kExtrasFile = "Extras.txt";
+constexpr std::string_view kFooterKeyword = "FOOTER";
+
+/// The lines of the settings file in their order: the one description that reads and writes it.
+constexpr std::array<std::string UserInfo::*, 8> kUserLines = {
+    &UserInfo::userName,     &UserInfo::userTitle, &UserInfo::userCompany, &UserInfo::userAddress1,
+    &UserInfo::userAddress2, &UserInfo::userPhone, &UserInfo::userFax,     &UserInfo::userMailSuffix};
+
+constexpr std::array<std::pair<std::string_view, Flag Options::*>, 12> kKeywords = {{
+    {"FAX COVER", &Options::faxCoverEnabled},
+    {"DEFLECTION", &Options::deflectionOption},
+    {"LARS HOFMANN", &Options::larsHofmannOption},
+    {"NED GROVE", &Options::nedGroveOption},
+    {"IAN MORAY", &Options::ianMorayOption},
+    {"SKIP INTRO", &Options::skipIntroOption},
+    {"BALL SHOW", &Options::ballShowOption},
+    {"LUBE FILM", &Options::lubeFilmOption},
+    {"PATH STRESS", &Options::pathStressOption},
+    {"SAM LUND", &Options::samLundOption},
+    {"TEMPFITS", &Options::tempFitsOption},
+    {"QLX", &Options::qlxOption},
+}};
+
+/// The lines of a text, one after the other; they end in CR LF or LF.
+class Lines {
+  public:
+    explicit Lines(std::string_view text) : rest_(text) {}
+
+    bool atEnd() const { return rest_.empty(); }
+
+    /// The next line. Error 62 past the end.
+    std::string_view next() {
+        if (atEnd()) raise(fault::kPastEnd);
+        const std::size_t end = std::min(rest_.find('\n'), rest_.size());
+        std::string_view line = rest_.substr(0, end);
+        rest_.remove_prefix(std::min(end + 1, rest_.size()));
+        if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+        return line;
+    }
+
+  private:
+    std::string_view rest_;
+};
+
+void applyOption(std::string_view line, Options& options) {
+    const std::string upper = upperCase(line);
+    for (const auto& [keyword, flag] : kKeywords) {
+        if (upper == keyword) options.*flag = true;
+    }
+    if (upper.starts_with(kFooterKeyword)) options.footerText = line.substr(kFooterKeyword.size());
+}
+
+}  // namespace
+
+void LoadSettings(ProgramState& state, const ProgramFolder& folder) {
+    const std::string text = folder.read(kSettingsFile);
+    Lines lines(text);
+    for (const auto field : kUserLines)
+        state.user.*field = lines.next();
+    state.unitSystem = lines.next();
+}
+
+void SaveSettings(ProgramState& state, const ProgramFolder& folder) {
+    std::string text;
+    for (const auto field : kUserLines) {
+        std::string& value = state.user.*field;
+        if (value.empty()) value = " ";
+        text += value + "\r\n";
+    }
+    if (state.unitSystem.empty()) state.unitSystem = "US";
+    text += state.unitSystem + "\r\n";
+    writeWholeFile(folder.find(kSettingsFile), text);
+}
+
+bool LoadExtras(ProgramState& state, const ProgramFolder& folder) {
+    std::string text;
+    try {
+        text = folder.read(kExtrasFile);
+    } catch (const RuntimeError&) {
+        return false;
+    }
+    for (Lines lines(text); !lines.atEnd();)
+        applyOption(lines.next(), state.options);
+    return true;
+}
+
+StartUp startUp(ProgramState& state, const ProgramFolder& folder) {
+    StartUp outcome;
+    try {
+        LoadSettings(state, folder);
+    } catch (const RuntimeError& error) {
+        if (error.number() != fault::kFileNotFound) {
+            outcome.notice = "SETTINGS.INI could not be read (" + std::string(error.what()) +
+                             "). US units are used until the settings are saved again.";
+            return outcome;
+        }
+        state.unitSystem = "US";
+    }
+    ApplyUnitSystem(state.unitSystem, state.units);
+    if (!LoadExtras(state, folder)) return outcome;
+    outcome.pressStart = state.options.skipIntroOption || state.options.ianMorayOption;
+    outcome.pressEnterModelNumber = state.options.ianMorayOption;
+    outcome.showNedGrove = state.options.nedGroveOption;
+    return outcome;
+}
+
+}  // namespace norlaplan

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+
+#include "state/ProgramFolder.h"
+#include "state/ProgramState.h"
+
+namespace norlaplan {
+
+/// Reads the nine lines of SETTINGS.INI into the user texts and `unitSystem`, in the file's order. A field is
+/// set as soon as its line is read. Errors: 53 when the file is missing, 62 when it has fewer than nine
+/// lines.
+void LoadSettings(ProgramState& state, const ProgramFolder& folder);
+
+/// Writes SETTINGS.INI. Empty user texts become one blank and an empty `unitSystem` becomes "US", in the
+/// state too, since a line of the file must not be empty. Errors as `writeWholeFile`; the old file then still
+/// stands.
+void SaveSettings(ProgramState& state, const ProgramFolder& folder);
+
+/// Reads the options of Extras.txt. Lines are compared whole after upper-casing; unknown ones are skipped.
+/// False when the file can't be read: the options that were read before stay set.
+bool LoadExtras(ProgramState& state, const ProgramFolder& folder);
+
+/// What the start screen does by itself once the files are read.
+struct StartUp {
+    bool pressStart = false;             ///< open the main menu at once
+    bool pressEnterModelNumber = false;  ///< and go on to the part number screen
+    bool showNedGrove = false;           ///< the start screen's changes for that option
+    std::string notice;                  ///< a sentence for the user when the settings could not be read
+};
+
+/// The start: settings, units, options. A missing settings file means US units. Any other fault of that file
+/// ends the start where it stood, so that no option is read; the units then are the US ones of a new state.
+StartUp startUp(ProgramState& state, const ProgramFolder& folder);
+
+}  // namespace norlaplan
