@@ -1,0 +1,94 @@
+#include <cmath>
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "numbers/Arithmetic.h"
+#include "numbers/Int16.h"
+#include "numbers/Single.h"
+
+namespace norlaplan {
+namespace {
+
+int faultOf(auto&& action) {
+    try {
+        action();
+    } catch (const RuntimeError& error) {
+        return error.number();
+    }
+    return 0;
+}
+
+TEST(SingleField, RoundsToThirtyTwoBitsWhereItIsStored) {
+    const Single tenth = 0.1;
+    EXPECT_EQ(static_cast<double>(tenth), static_cast<double>(0.1F));
+    EXPECT_NE(static_cast<double>(tenth), 0.1);
+}
+
+TEST(SingleField, LeavesTheArithmeticBetweenFieldsInSixtyFourBits) {
+    const Single a = 16777216.0;
+    const Single b = 1.0;
+    EXPECT_EQ(a + b, 16777217.0) << "32-bit arithmetic would lose the one";
+}
+
+TEST(SingleField, OverflowsWhereTheValueDoesNotFit) {
+    EXPECT_EQ(faultOf([] { [[maybe_unused]] const Single tooLarge = 1e39; }), fault::kOverflow);
+    EXPECT_EQ(faultOf([] { [[maybe_unused]] const Single none = std::nan(""); }), fault::kOverflow);
+    EXPECT_EQ(faultOf([] { [[maybe_unused]] const Single largest = 3.4e38; }), 0);
+}
+
+TEST(Int16Field, RoundsHalvesToTheEvenNumberAndOverflowsOutsideItsRange) {
+    EXPECT_EQ(Int16(2.5), 2);
+    EXPECT_EQ(Int16(3.5), 4);
+    EXPECT_EQ(Int16(-2.5), -2);
+    EXPECT_EQ(Int16(32767.0), 32767);
+    EXPECT_EQ(faultOf([] { [[maybe_unused]] const Int16 tooLarge(32768.0); }), fault::kOverflow);
+    EXPECT_EQ(faultOf([] { [[maybe_unused]] const Int16 none(std::nan("")); }), fault::kOverflow);
+}
+
+TEST(FlagField, IsMinusOneWhenSet) {
+    EXPECT_EQ(Flag(true).value(), -1);
+    EXPECT_EQ(Flag(false).value(), 0);
+}
+
+TEST(Division, ByZeroIsElevenAlsoForZeroByZero) {
+    EXPECT_EQ(faultOf([] { divide(1.0, 0.0); }), fault::kDivisionByZero);
+    EXPECT_EQ(faultOf([] { divide(0.0, 0.0); }), fault::kDivisionByZero);
+    EXPECT_EQ(faultOf([] { divide(1e300, 1e-300); }), fault::kOverflow);
+    EXPECT_EQ(divide(7.0, 2.0), 3.5);
+}
+
+TEST(Power, OfANegativeNumberIsFiveAndWhatIsNotFiniteSix) {
+    EXPECT_EQ(faultOf([] { power(-1.0, kTwoThirds); }), fault::kInvalidCall);
+    EXPECT_EQ(faultOf([] { power(0.0, -1.0 / 3.0); }), fault::kOverflow);
+    EXPECT_EQ(faultOf([] { power(10.0, 400.0); }), fault::kOverflow);
+    EXPECT_EQ(power(2.0, 10.0), 1024.0);
+    EXPECT_EQ(power(-2.0, 3.0), -8.0);
+}
+
+TEST(SquareRoot, OfANegativeNumberIsFive) {
+    EXPECT_EQ(faultOf([] { squareRoot(-1e-300); }), fault::kInvalidCall);
+    EXPECT_EQ(squareRoot(-0.0), 0.0);
+    EXPECT_EQ(squareRoot(2.25), 1.5);
+}
+
+TEST(NaturalLog, OfZeroAndBelowIsFive) {
+    EXPECT_EQ(faultOf([] { naturalLog(0.0); }), fault::kInvalidCall);
+    EXPECT_EQ(naturalLog(1.0), 0.0);
+}
+
+TEST(IntRoutine, GivesTheWholeNumberNotAboveTheValue) {
+    EXPECT_EQ(Int(1.9), 1.0);
+    EXPECT_EQ(Int(-1.5), -2.0);
+    EXPECT_EQ(Int(-2.0), -2.0);
+}
+
+TEST(RuntimeErrorText, IsTheClassicOne) {
+    EXPECT_STREQ(RuntimeError(11).what(), "Division by zero");
+    EXPECT_STREQ(RuntimeError(53).what(), "File not found");
+    EXPECT_STREQ(RuntimeError(5).what(), "Invalid procedure call or argument");
+    EXPECT_STREQ(RuntimeError(62).what(), "Input past end of file");
+}
+
+}  // namespace
+}  // namespace norlaplan

@@ -1,0 +1,54 @@
+#include <gtest/gtest.h>
+
+#include "numbers/FormatNumber.h"
+#include "state/UnitMode.h"
+
+namespace norlaplan {
+namespace {
+
+TEST(ApplyUnitSystem, FillsTheUsFields) {
+    UnitMode units;
+    ApplyUnitSystem("US", units);
+    EXPECT_EQ(units.lengthUnit, "inches");
+    EXPECT_EQ(units.loadUnitWord, "pounds");
+    EXPECT_EQ(units.loadUnit, "lbs");
+    EXPECT_EQ(units.momentUnitWord, "inch-lbs.");
+    EXPECT_EQ(units.momentUnit, "in-lbs");
+    EXPECT_EQ(units.tempUnit, "deg. F");
+    EXPECT_EQ(units.lengthPicture, "###0.0000");
+    EXPECT_EQ(units.runoutPicture, "#.00000");
+    EXPECT_EQ(units.forceFactor.stored(), 1.0F);
+    EXPECT_EQ(units.massFactor.stored(), 1.0F);
+}
+
+TEST(ApplyUnitSystem, HoldsTheMetricFactorsInThirtyTwoBits) {
+    UnitMode units;
+    ApplyUnitSystem("METRIC", units);
+    EXPECT_EQ(units.lengthFactor.stored(), 25.4F);
+    EXPECT_EQ(units.forceFactor.stored(), 0.2248089F);
+    EXPECT_EQ(units.momentFactor.stored(), 8.850744F);
+    EXPECT_EQ(units.massFactor.stored(), static_cast<float>(1.0 / 2.204622));
+    EXPECT_EQ(units.crossSectionPicture, "#");
+    EXPECT_EQ(units.filletPicture, "0.00");
+}
+
+TEST(ApplyUnitSystem, LeavesEveryFieldForAnyOtherText) {
+    UnitMode units;
+    ApplyUnitSystem("METRIC", units);
+    ApplyUnitSystem("metric", units);
+    ApplyUnitSystem("", units);
+    EXPECT_EQ(units.lengthUnit, "mm");
+}
+
+TEST(MetricLengths, ShowAFiveThirtySecondsBallAsThreePointNineSixNine) {
+    UnitMode units;
+    ApplyUnitSystem("METRIC", units);
+    EXPECT_EQ(FormatNumber(0.15625 * units.lengthFactor, units.lengthPicture), "3.969");
+}
+
+TEST(NewState, StartsWithUsUnits) {
+    EXPECT_EQ(initialUnits().lengthUnit, "inches");
+}
+
+}  // namespace
+}  // namespace norlaplan

@@ -1,0 +1,44 @@
+# Shared by ./run and ./test: installs what is missing, builds a preset. Sourced, not run.
+
+say() { printf '== %s\n' "$*" >&2; }
+
+packages=(
+  g++ cmake ninja-build ccache clang-format-14 python3 pkg-config
+  qt6-base-dev libqt6svg6-dev qt6-qpa-plugins libgl1-mesa-dev fonts-liberation
+  nlohmann-json3-dev libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev
+)
+
+# Names the packages that dpkg does not know as installed.
+missing_packages() {
+  local name
+  for name in "${packages[@]}"; do
+    dpkg-query --show --showformat='${db:Status-Status}' "$name" 2>/dev/null | grep -qx installed || echo "$name"
+  done
+}
+
+install_packages() {
+  local missing
+  mapfile -t missing < <(missing_packages)
+  [[ ${#missing[@]} -eq 0 ]] && return
+  say "installing ${missing[*]}"
+  local as_root=()
+  [[ $(id -u) -eq 0 ]] || as_root=(sudo)
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
+    "${missing[@]}" >/dev/null
+}
+
+build() {
+  say "building ($1)"
+  local launcher=()
+  command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+  cmake --preset "$1" "${launcher[@]}" >/dev/null
+  cmake --build --preset "$1"
+}
+
+check_format() {
+  say "checking the format"
+  git ls-files '*.cpp' '*.h' | xargs -r -d '\n' clang-format-14 --dry-run --Werror
+}
+
+install_packages
