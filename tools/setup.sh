@@ -4,7 +4,7 @@ say() { printf '== %s\n' "$*" >&2; }
 
 packages=(
   g++ cmake ninja-build ccache clang-format-14 python3 pkg-config
-  qt6-base-dev libqt6svg6-dev qt6-qpa-plugins libgl1-mesa-dev fonts-liberation
+  qt6-base-dev qt6-qpa-plugins libgl1-mesa-dev fonts-liberation
   nlohmann-json3-dev libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev
 )
 

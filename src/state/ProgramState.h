@@ -26,6 +26,13 @@ struct UserInfo {
         userMailSuffix;
 };
 
+/// What stands in the fields of the size and load screens, in display units. It lives here and not in the
+/// screens, since a change of units converts it and the solver may correct it.
+struct EntryTexts {
+    std::string minBore, maxOd, minHeight, maxHeight;
+    std::string radial, axial, moment, speed;
+};
+
 /// The one record of program-wide state. It is made once in `main` and handed down by reference; screens talk
 /// to each other only through it.
 struct ProgramState {
@@ -41,6 +48,8 @@ struct ProgramState {
     SearchResults search;
     Flag styleChosen, sizesChosen;
     bool sizeInputPending = false;
+
+    EntryTexts entries;
 
     LoadCase loads;
     Flag loadsEntered;

@@ -1,0 +1,145 @@
+#include <gtest/gtest.h>
+
+#include "state/LoadEntry.h"
+#include "state/SizeEntry.h"
+#include "state/UnitChange.h"
+
+namespace norlaplan {
+namespace {
+
+ProgramState usState() {
+    ProgramState state;
+    state.unitSystem = "US";
+    return state;
+}
+
+TEST(EnterLoads, FillsEmptyFieldsWithZeroAndTakesTheAbsoluteSpeed) {
+    ProgramState state = usState();
+    state.entries.radial = "-120.5";
+    state.entries.speed = "-300";
+    EXPECT_FALSE(enterLoads(state).has_value());
+    EXPECT_EQ(state.entries.axial, "0");
+    EXPECT_EQ(state.loads.radialLoad, -120.5) << "a negative load is kept";
+    EXPECT_EQ(state.loads.speed, 300.0);
+    EXPECT_TRUE(state.loadsEntered);
+}
+
+TEST(EnterLoads, TellsOfOneWrongFieldInTheOrderSpeedMomentAxialRadial) {
+    ProgramState state = usState();
+    state.entries = {"", "", "", "", "abc", "x", "y", "z"};
+    EXPECT_EQ(enterLoads(state), (Message{"Please correct Speed", "Speed input error"}));
+    state.entries.speed = "1";
+    EXPECT_EQ(enterLoads(state), (Message{"Please correct load", "Moment Load input error"}));
+    state.entries.moment = "1";
+    EXPECT_EQ(enterLoads(state), (Message{"Please correct load", "Axial Load input error"}));
+    state.entries.axial = "1";
+    EXPECT_EQ(enterLoads(state), (Message{"Please correct load", "Radial Load input error"}));
+    EXPECT_FALSE(state.loadsEntered);
+}
+
+TEST(EnterLoads, LeavesALoadAsItWasWhereItsTextIsNoNumber) {
+    ProgramState state = usState();
+    state.loads.radialLoadDisplay = 7.0;
+    state.entries.radial = "abc";
+    state.entries.axial = "5";
+    enterLoads(state);
+    EXPECT_EQ(state.loads.radialLoadDisplay, 7.0);
+    EXPECT_EQ(state.loads.axialLoadDisplay, 5.0);
+}
+
+TEST(EnterLoads, WantsALoadAndForTheRadialStyleARadialOne) {
+    ProgramState state = usState();
+    EXPECT_EQ(enterLoads(state), (Message{"Missing Loads", "At least one load must be entered!"}));
+    state.style.searchStyleCaption = "RADIAL CONTACT";
+    state.entries.axial = "5";
+    EXPECT_EQ(enterLoads(state), (Message{"Missing Load", "You must enter a Radial Load"}));
+}
+
+TEST(EnterLoads, RefusesANumberThatNoFieldHolds) {
+    ProgramState state = usState();
+    state.entries.radial = "1e60";
+    EXPECT_EQ(enterLoads(state), (Message{"Please correct load", "Radial Load input error"}));
+}
+
+TEST(EnterLoads, ConvertsWithTheThirtyTwoBitFactors) {
+    ProgramState state = usState();
+    changeUnits(state, "METRIC");
+    state.entries.radial = "1000";
+    state.entries.moment = "10";
+    EXPECT_FALSE(enterLoads(state).has_value());
+    EXPECT_EQ(state.loads.radialLoad.stored(), static_cast<float>(1000.0 * static_cast<double>(0.2248089F)));
+    EXPECT_EQ(state.loads.momentLoad.stored(), static_cast<float>(10.0 * static_cast<double>(8.850744F)));
+}
+
+TEST(PrepareLoadEntry, TakesAxialLoadAndMomentFromARadialBearing) {
+    ProgramState state = usState();
+    state.bearing.styleLetter = "C";
+    state.entries.axial = "5";
+    state.loads.momentLoadDisplay = 3.0;
+    prepareLoadEntry(state);
+    EXPECT_EQ(state.entries.axial, "");
+    EXPECT_EQ(state.loads.momentLoadDisplay, 0.0);
+}
+
+TEST(PrepareLoadEntry, TakesTheSpeedFromABearingWithoutSeparator) {
+    ProgramState state = usState();
+    state.bearing.partNumber = "K19013XF0";
+    state.loads.speed = 100.0;
+    prepareLoadEntry(state);
+    EXPECT_EQ(state.loads.speed, 0.0);
+    EXPECT_FALSE(takesSpeed(state));
+}
+
+TEST(EnterSizes, TellsOfTheFirstMissingSizeInTheStatedOrder) {
+    ProgramState state = usState();
+    EXPECT_EQ(enterSizes(state), (Message{"Missing Data", "Please Enter Minimum Bore", Icon::Critical}));
+    state.entries.minBore = "5";
+    EXPECT_EQ(enterSizes(state)->prompt, "Please Enter Maximum Outer Diameter");
+    state.entries.maxOd = "9";
+    EXPECT_EQ(enterSizes(state)->prompt, "Please Enter Maximum Height");
+    state.entries.maxHeight = "1";
+    EXPECT_EQ(enterSizes(state)->prompt, "Please Enter Minimum Height");
+    EXPECT_TRUE(state.sizeInputPending);
+    state.entries.minHeight = "0.2";
+    EXPECT_FALSE(enterSizes(state).has_value());
+    EXPECT_FALSE(state.sizeInputPending);
+    EXPECT_TRUE(state.sizesChosen);
+}
+
+TEST(EnterSizes, SwapsSizesInTheWrongOrderAlsoInTheFields) {
+    ProgramState state = usState();
+    state.entries = {"9", "5", "1", "0.2", "", "", "", ""};
+    EXPECT_FALSE(enterSizes(state).has_value());
+    EXPECT_EQ(state.entries.minBore, "5");
+    EXPECT_EQ(state.entries.maxOd, "9");
+    EXPECT_EQ(state.entries.minHeight, "0.2");
+    EXPECT_EQ(state.entries.maxHeight, "1");
+    EXPECT_EQ(state.criteria.minBore, 5.0);
+    EXPECT_EQ(state.criteria.maxHeight, 1.0);
+}
+
+TEST(ChangeOfUnits, ConvertsWhatStandsInTheFieldsAndKeepsEmptyOnesEmpty) {
+    ProgramState state = usState();
+    state.entries.minBore = "7.5";
+    state.entries.radial = "100.4";
+    changeUnits(state, "METRIC");
+    EXPECT_EQ(state.entries.minBore, "190.500");
+    EXPECT_EQ(state.entries.radial, "447") << "100.4 / 0.2248089 = 446.6";
+    EXPECT_EQ(state.entries.maxOd, "");
+    EXPECT_EQ(state.loads.radialLoadDisplay, 447.0);
+    changeUnits(state, "US");
+    EXPECT_EQ(state.entries.minBore, "7.500");
+    EXPECT_EQ(state.entries.radial, "100") << "it has passed through whole newtons";
+    EXPECT_EQ(state.loads.radialLoadDisplay, 100.0);
+    EXPECT_EQ(state.loads.radialLoad, 100.0) << "what the screen shows is what is calculated with";
+}
+
+TEST(ChangeOfUnits, ToTheSameUnitsChangesNothing) {
+    ProgramState state = usState();
+    state.entries.radial = "100.4";
+    changeUnits(state, "US");
+    EXPECT_EQ(state.entries.radial, "100.4");
+}
+
+}  // namespace
+}  // namespace norlaplan
