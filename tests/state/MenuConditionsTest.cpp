@@ -1,0 +1,57 @@
+#include <gtest/gtest.h>
+
+#include "state/MenuConditions.h"
+
+namespace norlaplan {
+namespace {
+
+ProgramState bearingOfStyle(const char* style) {
+    ProgramState state;
+    state.bearing.partNumber = "K19013" + std::string(style) + "P0";
+    state.bearing.styleLetter = style;
+    return state;
+}
+
+TEST(MenuConditions, WantAPartNumberFirst) {
+    ProgramState state;
+    const Message missing{"Missing Part Number", "Please enter part number first", Icon::Information};
+    EXPECT_EQ(bearingRefusal(state), missing);
+    EXPECT_EQ(loadableBearingRefusal(state), missing);
+    EXPECT_EQ(lifeRefusal(state), missing);
+    EXPECT_EQ(preloadTorqueRefusal(state), missing);
+    EXPECT_EQ(axialPlayRefusal(state), missing);
+    EXPECT_EQ(thermalFitsRefusal(state), (Message{"Missing bearing data", "Please select a bearing first"}));
+}
+
+TEST(MenuConditions, NameTheStyleThatTakesNoLoads) {
+    for (const char* style : {"U", "A", "T"}) {
+        const ProgramState state = bearingOfStyle(style);
+        EXPECT_EQ(
+            loadableBearingRefusal(state),
+            (Message{"Try another Bearing type", "Bearing type " + std::string(style) + " Not allowed"}));
+        EXPECT_EQ(preloadTorqueRefusal(state)->prompt, "Only Duplexes , 'C' or 'X' styles allowed");
+    }
+    for (const char* style : {"C", "X", "B", "F"}) {
+        EXPECT_FALSE(loadableBearingRefusal(bearingOfStyle(style)).has_value());
+        EXPECT_FALSE(preloadTorqueRefusal(bearingOfStyle(style)).has_value());
+    }
+}
+
+TEST(MenuConditions, AllowAxialPlayForRadialAndFourPointBearingsAlone) {
+    EXPECT_FALSE(axialPlayRefusal(bearingOfStyle("C")).has_value());
+    EXPECT_FALSE(axialPlayRefusal(bearingOfStyle("X")).has_value());
+    EXPECT_EQ(axialPlayRefusal(bearingOfStyle("B"))->prompt,
+              "Only radial and 4-point contact bearings allowed");
+}
+
+TEST(MenuConditions, ClearTheLoadsOfARadialBearingWithoutRadialLoad) {
+    ProgramState state = bearingOfStyle("C");
+    EXPECT_EQ(lifeRefusal(state)->prompt, "Please enter loads first");
+    state.loadsEntered = true;
+    EXPECT_EQ(lifeRefusal(state)->prompt, "Please enter Radial load first");
+    EXPECT_FALSE(state.loadsEntered);
+    EXPECT_EQ(lifeRefusal(state)->prompt, "Please enter loads first");
+}
+
+}  // namespace
+}  // namespace norlaplan
