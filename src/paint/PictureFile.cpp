@@ -1,0 +1,102 @@
+#include "paint/PictureFile.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QPageLayout>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+#include <string>
+
+#include "numbers/RuntimeError.h"
+#include "numbers/Text.h"
+#include "paint/PainterCanvas.h"
+#include "state/ProgramFolder.h"
+
+namespace norlaplan {
+namespace {
+
+constexpr int kPdfDotsPerInch = 1200;
+constexpr int kImageDotsPerInch = 150;
+
+using Drawing = std::function<void(Canvas&)>;
+
+QByteArray pdfOf(const Drawing& draw) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setResolution(kPdfDotsPerInch);
+        writer.setPageLayout({QPageSize(QPageSize::Letter), QPageLayout::Portrait, QMarginsF()});
+        writer.setCreator(QStringLiteral("NORLAPLAN-MM version 1.00"));
+        QPainter painter(&writer);
+        PainterCanvas canvas(painter, kPdfDotsPerInch, [&writer] { writer.newPage(); });
+        draw(canvas);
+    }
+    return bytes;
+}
+
+/// An image that grows by a page at a time.
+class ImagePages {
+  public:
+    explicit ImagePages(int dotsPerInch)
+        : pageWidth_(qRound(kPageWidthInches * dotsPerInch)),
+          pageHeight_(qRound(kPageHeightInches * dotsPerInch)) {
+        addPage();
+    }
+    ~ImagePages() { painter.end(); }
+    ImagePages(const ImagePages&) = delete;
+    ImagePages& operator=(const ImagePages&) = delete;
+
+    void addPage() {
+        if (painter.isActive()) painter.end();
+        const QImage before = image;
+        image = QImage(pageWidth_, before.height() + pageHeight_, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        painter.begin(&image);
+        if (!before.isNull()) painter.drawImage(0, 0, before);
+        painter.translate(0, before.height());
+    }
+
+    QImage image;
+    QPainter painter;
+
+  private:
+    int pageWidth_, pageHeight_;
+};
+
+QByteArray imageOf(const Drawing& draw, const char* format) {
+    ImagePages pages(kImageDotsPerInch);
+    PainterCanvas canvas(pages.painter, kImageDotsPerInch, [&pages] { pages.addPage(); });
+    draw(canvas);
+    pages.painter.end();
+    const int dotsPerMetre = qRound(kImageDotsPerInch / 0.0254);
+    pages.image.setDotsPerMeterX(dotsPerMetre);
+    pages.image.setDotsPerMeterY(dotsPerMetre);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    if (!pages.image.save(&buffer, format)) raise(fault::kDeviceIo);
+    return bytes;
+}
+
+std::string extensionOf(const std::filesystem::path& path) {
+    return upperCase(path.extension().string());
+}
+
+}  // namespace
+
+void savePicture(const std::filesystem::path& path, const Drawing& draw) {
+    const std::string extension = extensionOf(path);
+    if (!isPictureFile(path)) raise(fault::kInvalidCall);
+    const QByteArray bytes = extension == ".PDF" ? pdfOf(draw) : imageOf(draw, extension.c_str() + 1);
+    writeWholeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+bool isPictureFile(const std::filesystem::path& path) {
+    const std::string extension = extensionOf(path);
+    return extension == ".PDF" || extension == ".PNG" || extension == ".BMP";
+}
+
+}  // namespace norlaplan

@@ -1,0 +1,7 @@
+#include "screens/Screens.h"
+
+namespace norlaplan {
+
+void addForms(Screens&) {}
+
+}  // namespace norlaplan

@@ -1,0 +1,115 @@
+#include "screens/Screens.h"
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QScreen>
+#include <algorithm>
+#include <new>
+
+#include "numbers/RuntimeError.h"
+#include "numbers/Single.h"
+#include "screens/LaterScreens.h"
+#include "state/Patience.h"
+
+namespace norlaplan {
+namespace {
+
+/// Puts a window into the middle of its screen; positions are 32-bit, as everywhere on the screens.
+void centre(Form& form) {
+    const QRect screen = form.screen()->geometry();
+    const QSize own = form.frameGeometry().size();
+    const Single left = static_cast<double>(screen.width() - own.width()) / 2.0;
+    const Single top = static_cast<double>(screen.height() - own.height()) / 2.0;
+    form.move(screen.x() + static_cast<int>(left), screen.y() + std::max(0, static_cast<int>(top)));
+}
+
+}  // namespace
+
+Screens::~Screens() = default;
+
+void Screens::add(const std::string& name, Maker maker) {
+    makers_[name] = std::move(maker);
+}
+
+Form& Screens::form(const std::string& name) {
+    std::unique_ptr<Form>& form = forms_[name];
+    if (!form) form = makers_.at(name)(*this);
+    return *form;
+}
+
+void Screens::show(const std::string& name) {
+    if (!knows(name)) {
+        services_.messages.show(notInThisVersion(name));
+        return;
+    }
+    Form& wanted = form(name);
+    Pile pile = open_;
+    const auto found = std::find(pile.begin(), pile.end(), &wanted);
+    if (found != pile.end())
+        pile.erase(found + 1, pile.end());
+    else
+        pile.push_back(&wanted);
+    activate(std::move(pile));
+}
+
+void Screens::showAlone(const std::string& name) {
+    activate({&form(name)});
+}
+
+void Screens::hide(Form& form) {
+    Pile pile = open_;
+    std::erase(pile, &form);
+    if (pile.size() != open_.size()) activate(std::move(pile));
+}
+
+void Screens::bringToFront(Pile pile) {
+    Form* const before = current();
+    open_ = std::move(pile);
+    Form* const now = current();
+    if (now != nullptr && !now->isVisible()) {
+        now->fitToScreen(now->screen()->availableGeometry());
+        centre(*now);
+        now->show();
+    }
+    if (before != nullptr && before != now) before->hide();
+    if (now != nullptr) {
+        now->raise();
+        now->activateWindow();
+    }
+}
+
+void Screens::activate(Pile pile) {
+    bringToFront(std::move(pile));
+    if (open_.empty()) return;
+    open_.back()->activated();
+}
+
+void Screens::runAction(const std::string& name, const std::function<void()>& action) {
+    const Pile before = open_;
+    try {
+        action();
+        return;
+    } catch (const RuntimeError& error) {
+        showFailure("Run-time error '" + std::to_string(error.number()) + "'", error.what(), name);
+    } catch (const NotConverging& error) {
+        showFailure(NotConverging::title(), error.what(), name);
+    } catch (const std::bad_alloc&) {
+        showFailure("Run-time error '7'", "Out of memory", name);
+    } catch (const std::exception& error) {
+        showFailure("Unexpected error", error.what(), name);
+    }
+    if (open_ != before) bringToFront(before);
+}
+
+void Screens::showFailure(const std::string& title, const std::string& text, const std::string& action) {
+    services_.messages.show({title, text + "\n\n" + action, Icon::Critical});
+}
+
+void Screens::quit() {
+    for (Form* const form : open_)
+        form->hide();
+    open_.clear();
+    QCoreApplication::quit();
+}
+
+}  // namespace norlaplan

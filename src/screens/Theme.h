@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+
+#include "state/ProgramState.h"
+
+class QApplication;
+class QBoxLayout;
+class QGridLayout;
+class QLabel;
+class QWidget;
+
+/// The look of the program, defined here once and used by every form.
+namespace norlaplan::theme {
+
+constexpr int kMargin = 20;   ///< between a window's edge and its contents
+constexpr int kGap = 10;      ///< between controls that belong together
+constexpr int kWideGap = 22;  ///< between groups
+
+/// Sets the style and the type of the whole program. Colours stay those of the desktop, light or dark.
+void apply(QApplication& application);
+
+QFont headingFont();  ///< names the window or a section
+QFont titleFont();    ///< the product's name on the start screen
+QFont valueFont();    ///< figures that stand under each other
+
+/// Colour of the main menu's background: the mode of the units shows there.
+QColor menuBackground(const std::string& unitSystem);
+
+/// Dark writing and light buttons on `background`, whatever the desktop's theme: for windows whose
+/// background colour is fixed.
+QPalette onFixedBackground(const QColor& background);
+
+/// White paper with black writing: drawings and graphs, in a dark theme too.
+QPalette paper();
+
+QColor goodColour(const QPalette& palette);  ///< within the limit
+QColor badColour(const QPalette& palette);   ///< over the limit
+
+void makeHeading(QLabel& label);
+/// A light panel with a quiet border, for groups on a coloured background.
+void makePanel(QWidget& panel);
+
+/// Layouts with the program's margins and gaps.
+template <typename Layout>
+Layout* spaced(Layout* layout, int margin = kMargin) {
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setSpacing(kGap);
+    return layout;
+}
+
+}  // namespace norlaplan::theme

@@ -1,0 +1,26 @@
+#include <QApplication>
+
+#include "screens/Screens.h"
+#include "screens/Theme.h"
+#include "screens/platform/QtPorts.h"
+
+int main(int count, char** arguments) {
+    using namespace norlaplan;
+    QApplication application(count, arguments);
+    // Forms come and go; the program ends when it says so.
+    QApplication::setQuitOnLastWindowClosed(false);
+    theme::apply(application);
+
+    ProgramState state;
+    const ProgramFolder folder(QCoreApplication::applicationDirPath().toStdString());
+    QtMessages messages;
+    QtSaveDialog saveDialog;
+    QtPrinter printer;
+    LocalClock clock;
+    FolderSheets sheets(folder);
+
+    Screens screens({state, folder, messages, saveDialog, printer, clock, sheets});
+    addForms(screens);
+    screens.show("Form1");
+    return QApplication::exec();
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "state/Ports.h"
+#include "state/ProgramFolder.h"
+
+namespace norlaplan {
+
+/// Message boxes over the window in front.
+class QtMessages : public MessagePort {
+  public:
+    void show(const Message& message) override;
+    Answer ask(const Message& question, Buttons buttons) override;
+};
+
+/// Qt's own save dialog, the same on every desktop, which asks before it replaces a file.
+class QtSaveDialog : public SaveDialogPort {
+  public:
+    std::optional<SaveChoice> askWhereToSave(const SaveRequest& request) override;
+};
+
+/// The print dialog and the printer: letter pages, portrait. With no printer installed the dialog prints to a
+/// PDF file.
+class QtPrinter : public PrinterPort {
+  public:
+    bool print(const std::string& documentName, const std::function<void(Canvas&)>& draw) override;
+};
+
+/// Date and time of now in the user's locale, short form.
+class LocalClock : public ClockPort {
+  public:
+    std::string date() override;
+    std::string time() override;
+};
+
+/// Keeps the data sheet as DATA.RTF and CONDENSED.DAT in the program folder. When the second can't be
+/// written the first goes back to what it was, so that the two always tell of the same bearing. Errors as
+/// `writeWholeFile`.
+class FolderSheets : public SheetStorePort {
+  public:
+    explicit FolderSheets(const ProgramFolder& folder) : folder_(folder) {}
+    void store(const SheetFiles& sheet) override;
+
+  private:
+    const ProgramFolder& folder_;
+};
+
+}  // namespace norlaplan
