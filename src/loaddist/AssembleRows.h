@@ -1,0 +1,27 @@
+#pragma once
+
+#include <vector>
+
+#include "loaddist/Matrix3.h"
+#include "state/SolverState.h"
+
+namespace norlaplan {
+
+/// What one assembly gives beyond the sums in the state.
+struct Assembly {
+    Matrix3 stiffness{};    ///< derivative of the three sums over (axial, radial, tilt), divided by Kn
+    double lastArm1 = 0.0;  ///< moment arm of row 1 at the last ball, inches
+};
+
+/// cos((i - 1) * spacing) for the balls i = 1..balls; index 0 stays empty.
+std::vector<double> ballCosines(int balls, double spacing);
+
+/// For the present axial and radial displacement and tilt: geometry, deflection, load and forces of every
+/// ball in two rows, the three force sums and the stiffness. Errors: 11 for an unstable configuration (a
+/// contact line without length or axial part), 5 and 6 as the powers raise them.
+Assembly AssembleRows(SolverState& state, const std::vector<double>& cosines);
+
+/// The contact angles of the last assembly as texts, "  N/A " for a ball that is out of touch.
+void writeBallAngles(SolverState& state);
+
+}  // namespace norlaplan

@@ -1,0 +1,158 @@
+#include "loaddist/LifeAndStress.h"
+
+#include <cmath>
+
+#include "numbers/Arithmetic.h"
+#include "numbers/PiValue.h"
+
+namespace norlaplan {
+namespace {
+
+constexpr double kNewtonsPerPound = 4.448;
+constexpr double kMpaPerPsi = 0.006895;
+constexpr double kMillimetresPerInch = 25.4;
+constexpr double kTenThirds = 10.0 / 3.0;
+
+double ellipseFactor(double elasticSum, double E, double kappaSq, double curvatureSum) {
+    return power(divide(((elasticSum * 3.0) * E) * kappaSq, curvatureSum * PiValue), kOneThird);
+}
+
+void stressOfBall(SolverState& state, int row, int ball) {
+    const double Q = state.BallLoad(row, ball);
+    if (Q == 0.0) {
+        // The axes keep what the last solve left there.
+        state.InnerStress(row, ball) = 0.0;
+        state.OuterStress(row, ball) = 0.0;
+        return;
+    }
+    const double root = power(Q, kOneThird);
+    Single& innerMajor = state.InnerSemiMajor(row, ball);
+    Single& innerMinor = state.InnerSemiMinor(row, ball);
+    innerMajor = root * state.InnerEllipseFactor;
+    innerMinor = divide(innerMajor, state.InnerKappa);
+    state.InnerStress(row, ball) = divide(Q * 1.5, (innerMajor * PiValue) * innerMinor);
+    Single& outerMajor = state.OuterSemiMajor(row, ball);
+    Single& outerMinor = state.OuterSemiMinor(row, ball);
+    outerMajor = root * state.OuterEllipseFactor;
+    outerMinor = divide(outerMajor, state.OuterKappa);
+    state.OuterStress(row, ball) = divide(Q * 1.5, (outerMajor * PiValue) * outerMinor);
+}
+
+/// Sum of the row's loads to a power; it runs in 32 bits.
+Single sumOfPowers(const SolverState& state, int row, double exponent) {
+    Single sum = 0.0;
+    for (int ball = 1; ball <= state.BallCount; ++ball)
+        sum += power(state.BallLoad(row, ball), exponent);
+    return sum;
+}
+
+void meanLoads(SolverState& state) {
+    const double Z = state.BallCount;
+    state.RmcRow1 = power(divide(sumOfPowers(state, 1, 3.0), Z), kOneThird);
+    state.RmcRow2 = power(divide(sumOfPowers(state, 2, 3.0), Z), kOneThird);
+    state.MeanRow1 = power(divide(sumOfPowers(state, 1, kTenThirds), Z), 0.3);
+    state.MeanRow2 = power(divide(sumOfPowers(state, 2, kTenThirds), Z), 0.3);
+    state.RmcRow1Newtons = state.RmcRow1 * kNewtonsPerPound;
+    state.RmcRow2Newtons = state.RmcRow2 * kNewtonsPerPound;
+}
+
+void dynamicCapacities(SolverState& state) {
+    const double D = state.BallDiameter;
+    const double fi = state.InnerConformityPct;
+    state.DynamicExponent = D > 1.0 ? 1.4 : 1.8;
+    const double ratio = divide(D, state.PitchDiameter);
+    state.GeometryRatio = ratio * std::cos(state.ContactAngle);
+    const double g = state.GeometryRatio;
+    const double c = power(divide(fi + fi, (fi + fi) - 100.0), 0.41);
+    const double gi = divide(power(1.0 - g, 1.39), power(g + 1.0, kOneThird));
+    const double go = divide(power(g + 1.0, 1.39), power(1.0 - g, kOneThird));
+    const double set = (((state.RatingFactor * c) * power(ratio, 0.3)) * power(D, state.DynamicExponent)) *
+                       power(state.BallCount, -1.0 / 3.0);
+    state.InnerDynamicCapacity = set * gi;
+    state.OuterDynamicCapacity = set * go;
+}
+
+/// L10 in revolutions of a row, from the mean loads that its inner and outer race see.
+double rowLife(const SolverState& state, double innerMean, double outerMean) {
+    const double ratioI = divide(state.InnerDynamicCapacity, innerMean);
+    const double ratioO = divide(state.OuterDynamicCapacity, outerMean);
+    const double Li = power(ratioI, 3.0);
+    const double Lo = power(ratioO, 3.0);
+    constexpr double kExponent = -10.0 / 9.0;
+    return power(10.0, 6.0) * power(power(Li, kExponent) + power(Lo, kExponent), -0.9);
+}
+
+/// The race that turns takes the cube mean, the fixed one the mean with exponent 10/3.
+void lives(SolverState& state) {
+    const bool secondRow = state.RowCount != 1 && state.RmcRow2 != 0.0;
+    state.L10InnerRotationRow1 = rowLife(state, state.RmcRow1, state.MeanRow1);
+    if (secondRow) state.L10InnerRotationRow2 = rowLife(state, state.RmcRow2, state.MeanRow2);
+    state.L10OuterRotationRow1 = rowLife(state, state.MeanRow1, state.RmcRow1);
+    if (secondRow) state.L10OuterRotationRow2 = rowLife(state, state.MeanRow2, state.RmcRow2);
+}
+
+double staticCapacity(const SolverState& state, double factor, double kappa) {
+    return power(divide(((factor * factor) * TwoPiValue) * state.StressLimit, kappa * 3.0), 3.0);
+}
+
+void findMaxBall(SolverState& state) {
+    double largest = 0.0;
+    for (int row = 1; row <= state.RowCount; ++row) {
+        for (int ball = 1; ball <= state.BallCount; ++ball) {
+            if (state.BallLoad(row, ball) <= largest) continue;
+            largest = state.BallLoad(row, ball);
+            state.MaxBallRow = row;
+            state.MaxBallNumber = ball;
+        }
+    }
+    state.MaxBallLoad = largest;
+}
+
+void resultsOfMaxBall(SolverState& state) {
+    const int row = state.MaxBallRow;
+    const int ball = state.MaxBallNumber;
+    state.MaxInnerStress = state.InnerStress(row, ball);
+    state.MaxOuterStress = state.OuterStress(row, ball);
+    state.MeanInnerStress = state.MaxInnerStress / 1.5;
+    state.MeanOuterStress = state.MaxOuterStress / 1.5;
+    state.MaxBallLoadNewtons = state.MaxBallLoad * kNewtonsPerPound;
+    state.MaxInnerStressMpa = state.MaxInnerStress * kMpaPerPsi;
+    state.MaxOuterStressMpa = state.MaxOuterStress * kMpaPerPsi;
+    state.MeanInnerStressMpa = state.MaxInnerStressMpa / 1.5;
+    state.MeanOuterStressMpa = state.MaxOuterStressMpa / 1.5;
+    state.InnerMajorAxis = 2.0 * state.InnerSemiMajor(row, ball);
+    state.OuterMajorAxis = 2.0 * state.OuterSemiMajor(row, ball);
+    state.InnerMinorAxis = 2.0 * state.InnerSemiMinor(row, ball);
+    state.OuterMinorAxis = 2.0 * state.OuterSemiMinor(row, ball);
+    state.InnerMajorAxisMm = state.InnerMajorAxis * kMillimetresPerInch;
+    state.OuterMajorAxisMm = state.OuterMajorAxis * kMillimetresPerInch;
+    state.InnerMinorAxisMm = state.InnerMinorAxis * kMillimetresPerInch;
+    state.OuterMinorAxisMm = state.OuterMinorAxis * kMillimetresPerInch;
+}
+
+}  // namespace
+
+void LifeAndStress(SolverState& state) {
+    state.InnerEllipseFactor =
+        ellipseFactor(state.ElasticSum, state.InnerE, state.InnerKappaSq, state.InnerCurvatureSum);
+    state.OuterEllipseFactor =
+        ellipseFactor(state.ElasticSum, state.OuterE, state.OuterKappaSq, state.OuterCurvatureSum);
+    for (int row = 1; row <= state.RowCount; ++row) {
+        for (int ball = 1; ball <= state.BallCount; ++ball)
+            stressOfBall(state, row, ball);
+    }
+    meanLoads(state);
+    dynamicCapacities(state);
+    lives(state);
+    state.StressLimit = 609000.0;
+    state.InnerStaticCapacity = staticCapacity(state, state.InnerEllipseFactor, state.InnerKappa);
+    state.OuterStaticCapacity = staticCapacity(state, state.OuterEllipseFactor, state.OuterKappa);
+    state.InnerStaticCapacityNewtons = state.InnerStaticCapacity * kNewtonsPerPound;
+    state.OuterStaticCapacityNewtons = state.OuterStaticCapacity * kNewtonsPerPound;
+    findMaxBall(state);
+    state.SafetyInner = divide(state.InnerStaticCapacity, state.MaxBallLoad);
+    state.SafetyOuter = divide(state.OuterStaticCapacity, state.MaxBallLoad);
+    resultsOfMaxBall(state);
+}
+
+}  // namespace norlaplan
