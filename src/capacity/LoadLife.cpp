@@ -1,0 +1,145 @@
+#include "capacity/LoadLife.h"
+
+#include <optional>
+#include <string_view>
+
+#include "capacity/SpeedLimits.h"
+#include "loaddist/radlodestar2.h"
+#include "numbers/Arithmetic.h"
+#include "numbers/FormatNumber.h"
+#include "numbers/Text.h"
+
+namespace norlaplan {
+namespace {
+
+constexpr int kWithinLimit = 2;
+constexpr int kOverLimit = 4;
+
+void pickClearance(BearingSpec& bearing) {
+    if (bearing.fitLetter == " ") {
+        bearing.meanClearance = (bearing.stdClearanceLow + bearing.stdClearanceHigh) / 2.0;
+    } else if (bearing.clearanceKind == "Preload") {
+        return;
+    } else if (bearing.clearanceKind == "Clearance") {
+        bearing.meanClearance = (bearing.fitLow + bearing.fitHigh) / 2.0;
+    } else if (bearing.fitLetter == "Z") {
+        bearing.meanClearance = 0.0;
+    }
+    bearing.contactAngleDegrees = 30.0;
+}
+
+SolveArguments argumentsFor(const ProgramState& state, double spacing) {
+    const BearingSpec& bearing = state.bearing;
+    const LoadCase& loads = state.loads;
+    return {bearing.partNumber,    bearing.pitchDiameter,
+            bearing.ballDiameter,  bearing.ballCount,
+            bearing.raceRadius,    spacing,
+            bearing.meanClearance, bearing.contactAngleDegrees,
+            loads.radialLoad,      loads.axialLoad,
+            loads.momentLoad};
+}
+
+bool isLoadedPair(const std::string& style) {
+    return style == "B" || style == "F";
+}
+
+/// The solve of the bearing's style; nothing for another style or an aborted solve.
+std::optional<SolveResult> solve(ProgramState& state, MessagePort& messages) {
+    BearingSpec& bearing = state.bearing;
+    if (bearing.styleLetter == "C") {
+        state.life.torqueCoefficient = 0.002;
+        return SolveRadialRow(state, argumentsFor(state, 0.0), messages);
+    }
+    if (bearing.styleLetter == "X") {
+        state.life.torqueCoefficient = 0.006;
+        bearing.momentArm = bearing.pitchDiameter;
+        bearing.contactAngleDegrees = 30.0;
+        return SolveCoupledRows(state, argumentsFor(state, 0.0), messages);
+    }
+    if (!isLoadedPair(bearing.styleLetter)) return std::nullopt;
+    const std::string& separator = bearing.separatorCode;
+    const bool dragging = separator == "F" || separator == "M" || separator == "W";
+    state.life.torqueCoefficient = dragging ? 0.004 : 0.002;
+    return SolveCoupledRows(state, argumentsFor(state, bearing.height / 2.0), messages);
+}
+
+/// The user's way out of a load of a sign that the style's formulas have no root for.
+std::string adviceOnSigns(const ProgramState& state) {
+    if (state.bearing.styleLetter == "C") return "Enter the radial load as a positive number.";
+    return "Enter the axial load as a positive number; the bearing carries it alike in both directions.";
+}
+
+std::optional<SolveResult> solveWithAdvice(ProgramState& state, MessagePort& messages) {
+    try {
+        return solve(state, messages);
+    } catch (const RuntimeError& error) {
+        if (error.number() != fault::kInvalidCall) throw;
+        throw RuntimeError(error.number(), std::string(error.what()) + "\n" + adviceOnSigns(state));
+    }
+}
+
+void judgeSpeed(ProgramState& state) {
+    LifeResult& life = state.life;
+    BearingSpec& bearing = state.bearing;
+    life.loadPercent = loadPercentOfLife(life.l10Revolutions);
+    bearing.speedFactor = loadLevelFactor(life.loadPercent);
+    life.speedLimit = Int(bearing.limitSpeedGrease * bearing.speedFactor);
+    const std::string speed = plainText(state.loads.speed);
+    const std::string limit = plainText(life.speedLimit);
+    if (state.loads.speed > life.speedLimit) {
+        life.speedVerdict = "WARNING !!!, the speed of " + speed +
+                            " RPM exceeds the maximum recommended limit of " + limit + " RPM!";
+        life.speedVerdictColor = kOverLimit;
+    } else {
+        life.speedVerdict =
+            "The speed of " + speed + " RPM is below the recommended limit of " + limit + " RPM.";
+        life.speedVerdictColor = kWithinLimit;
+    }
+}
+
+}  // namespace
+
+bool computeLoadLife(ProgramState& state, MessagePort& messages) {
+    LifeResult& life = state.life;
+    pickClearance(state.bearing);
+    state.solver.SolveAborted = false;
+    const std::optional<SolveResult> result = solveWithAdvice(state, messages);
+    if (!result) return false;
+    life.staticSafetyFactor = result->safetyFactor;
+    life.l10Revolutions = result->lifeRevolutions;
+    life.startingTorque = result->torque;
+    const double speed = state.loads.speed;
+    if (speed > 0.0) {
+        life.l10Hours = life.l10Revolutions / (speed * 60.0);
+        life.l10Hours = Int(life.l10Hours * 10.0 + 0.5) / 10.0;
+    }
+    life.l10Revolutions = Int(life.l10Revolutions);
+    life.staticSafetyFactor = Int(life.staticSafetyFactor * 10.0 + 0.5) / 10.0;
+    life.torqueDisplay = divide(life.startingTorque, state.units.momentFactor);
+    life.torqueLabel = "Estimated Starting Torque = ";
+    if (speed != 0.0) judgeSpeed(state);
+    return true;
+}
+
+std::string lifeLine(const ProgramState& state) {
+    return "L10 LIFE = " + plainText(state.life.l10Revolutions) + " REVOLUTIONS";
+}
+
+std::string hoursLine(const ProgramState& state) {
+    if (!(state.loads.speed > 0.0)) return "";
+    return "L10 LIFE = " + plainText(state.life.l10Hours) + " HOURS";
+}
+
+std::string safetyLine(const ProgramState& state) {
+    return "STATIC SAFETY FACTOR = " + plainText(state.life.staticSafetyFactor);
+}
+
+std::string torqueLine(const ProgramState& state) {
+    const bool pair = isLoadedPair(state.bearing.styleLetter);
+    // A pair's torque below 1 shows with one decimal as well.
+    const std::string_view picture = pair || state.life.torqueDisplay >= 1.0 ? "#,###.0" : "0.00";
+    return state.life.torqueLabel + FormatNumber(state.life.torqueDisplay, picture) + " " +
+           state.units.momentUnitWord + " ";
+}
+
+}  // namespace norlaplan
