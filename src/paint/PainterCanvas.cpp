@@ -141,7 +141,10 @@ double PainterCanvas::textWidth(std::string_view text, const TextLook& look) {
 
 void PainterCanvas::newPage() {
     if (!turnPage_) return;
+    painter_.setTransform(device_);
     turnPage_();
+    // The new page may lie elsewhere under the same painter.
+    device_ = painter_.transform();
     usePageScale();
 }
 

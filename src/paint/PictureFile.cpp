@@ -45,7 +45,9 @@ class ImagePages {
           pageHeight_(qRound(kPageHeightInches * dotsPerInch)) {
         addPage();
     }
-    ~ImagePages() { painter.end(); }
+    ~ImagePages() {
+        if (painter.isActive()) painter.end();
+    }
     ImagePages(const ImagePages&) = delete;
     ImagePages& operator=(const ImagePages&) = delete;
 
@@ -66,19 +68,27 @@ class ImagePages {
     int pageWidth_, pageHeight_;
 };
 
+QByteArray encoded(QImage image, const char* format) {
+    const int dotsPerMetre = qRound(kImageDotsPerInch / 0.0254);
+    image.setDotsPerMeterX(dotsPerMetre);
+    image.setDotsPerMeterY(dotsPerMetre);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    if (!image.save(&buffer, format)) raise(fault::kDeviceIo);
+    return bytes;
+}
+
 QByteArray imageOf(const Drawing& draw, const char* format) {
     ImagePages pages(kImageDotsPerInch);
     PainterCanvas canvas(pages.painter, kImageDotsPerInch, [&pages] { pages.addPage(); });
     draw(canvas);
     pages.painter.end();
-    const int dotsPerMetre = qRound(kImageDotsPerInch / 0.0254);
-    pages.image.setDotsPerMeterX(dotsPerMetre);
-    pages.image.setDotsPerMeterY(dotsPerMetre);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    if (!pages.image.save(&buffer, format)) raise(fault::kDeviceIo);
-    return bytes;
+    return encoded(std::move(pages.image), format);
+}
+
+void writeBytes(const std::filesystem::path& path, const QByteArray& bytes) {
+    writeWholeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 std::string extensionOf(const std::filesystem::path& path) {
@@ -91,7 +101,17 @@ void savePicture(const std::filesystem::path& path, const Drawing& draw) {
     const std::string extension = extensionOf(path);
     if (!isPictureFile(path)) raise(fault::kInvalidCall);
     const QByteArray bytes = extension == ".PDF" ? pdfOf(draw) : imageOf(draw, extension.c_str() + 1);
-    writeWholeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    writeBytes(path, bytes);
+}
+
+void saveBitmap(const std::filesystem::path& path, const PageBox& area, const Drawing& draw) {
+    ImagePages page(kImageDotsPerInch);
+    const double dotsPerInch = page.image.width() / (area.right - area.left);
+    page.painter.translate(-area.left * dotsPerInch, -(kPageHeightInches - area.top) * dotsPerInch);
+    PainterCanvas canvas(page.painter, dotsPerInch);
+    draw(canvas);
+    page.painter.end();
+    writeBytes(path, encoded(std::move(page.image), "BMP"));
 }
 
 bool isPictureFile(const std::filesystem::path& path) {

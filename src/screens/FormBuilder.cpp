@@ -1,6 +1,7 @@
 #include "screens/FormBuilder.h"
 
 #include <QGridLayout>
+#include <QStyleOptionButton>
 
 #include "screens/Theme.h"
 
@@ -11,6 +12,18 @@ namespace {
 QString spokenCaption(QString caption) {
     return caption.remove(QLatin1Char('&')).simplified();
 }
+
+/// A button that doesn't paint the filling blanks with which some captions were once broken into lines.
+class Button : public QPushButton {
+  public:
+    using QPushButton::QPushButton;
+
+  protected:
+    void initStyleOption(QStyleOptionButton* option) const override {
+        QPushButton::initStyleOption(option);
+        option->text = text().simplified();
+    }
+};
 
 template <typename Control>
 Control* named(Control* control, const char* name, const QString& tip, const QString& spoken) {
@@ -24,7 +37,7 @@ Control* named(Control* control, const char* name, const QString& tip, const QSt
 }  // namespace
 
 QPushButton* button(const char* name, const QString& caption, const QString& tip) {
-    return named(new QPushButton(caption), name, tip, spokenCaption(caption));
+    return named<QPushButton>(new Button(caption), name, tip, spokenCaption(caption));
 }
 
 QRadioButton* option(const char* name, const QString& caption, const QString& tip) {

@@ -1,7 +1,28 @@
+#include "screens/Form1.h"
+#include "screens/Form17.h"
+#include "screens/Form2.h"
+#include "screens/Form3.h"
+#include "screens/Form6.h"
+#include "screens/Form9.h"
 #include "screens/Screens.h"
 
 namespace norlaplan {
+namespace {
 
-void addForms(Screens&) {}
+template <typename Kind>
+std::unique_ptr<Form> make(Screens& screens) {
+    return std::make_unique<Kind>(screens);
+}
+
+}  // namespace
+
+void addForms(Screens& screens) {
+    screens.add("Form1", make<Form1>);
+    screens.add("Form2", make<Form2>);
+    screens.add("Form3", make<Form3>);
+    screens.add("Form6", make<Form6>);
+    screens.add("Form9", make<Form9>);
+    screens.add("Form17", make<Form17>);
+}
 
 }  // namespace norlaplan

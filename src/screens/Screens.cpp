@@ -20,7 +20,7 @@ void centre(Form& form) {
     const QSize own = form.frameGeometry().size();
     const Single left = static_cast<double>(screen.width() - own.width()) / 2.0;
     const Single top = static_cast<double>(screen.height() - own.height()) / 2.0;
-    form.move(screen.x() + static_cast<int>(left), screen.y() + std::max(0, static_cast<int>(top)));
+    form.move(screen.x() + static_cast<int>(left), screen.y() + static_cast<int>(top));
 }
 
 }  // namespace
@@ -57,9 +57,13 @@ void Screens::showAlone(const std::string& name) {
 }
 
 void Screens::hide(Form& form) {
+    const bool inFront = current() == &form;
     Pile pile = open_;
     std::erase(pile, &form);
-    if (pile.size() != open_.size()) activate(std::move(pile));
+    if (inFront)
+        activate(std::move(pile));
+    else
+        open_ = std::move(pile);
 }
 
 void Screens::bringToFront(Pile pile) {
@@ -80,8 +84,7 @@ void Screens::bringToFront(Pile pile) {
 
 void Screens::activate(Pile pile) {
     bringToFront(std::move(pile));
-    if (open_.empty()) return;
-    open_.back()->activated();
+    if (current() != nullptr) current()->activated();
 }
 
 void Screens::runAction(const std::string& name, const std::function<void()>& action) {

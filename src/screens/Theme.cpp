@@ -2,13 +2,16 @@
 
 #include <QApplication>
 #include <QLabel>
-#include <QStyleFactory>
+#include <QPainter>
+#include <QProxyStyle>
+#include <QPushButton>
 #include <QWidget>
 
 namespace norlaplan::theme {
 namespace {
 
 constexpr double kTextPoints = 10.0;
+constexpr double kPanelRadius = 10.0;
 
 QFont programFont(double points, QFont::Weight weight = QFont::Normal) {
     QFont font(QStringLiteral("Liberation Sans"));
@@ -21,19 +24,47 @@ bool isDark(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() < 128;
 }
 
+/// Fusion with room around the writing of buttons and fields. Colours come from the desktop's palette.
+class ProgramStyle : public QProxyStyle {
+  public:
+    ProgramStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override {
+        const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+        switch (type) {
+            case CT_PushButton:
+                return size + QSize(20, 10);
+            case CT_LineEdit:
+            case CT_ComboBox:
+                return size + QSize(6, 8);
+            default:
+                return size;
+        }
+    }
+};
+
+class Panel : public QWidget {
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QColor(16, 20, 48, 90));
+        painter.setBrush(QColor(255, 255, 255, 190));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kPanelRadius, kPanelRadius);
+    }
+};
+
 }  // namespace
 
-void apply(QApplication& application) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+void apply() {
+    QApplication::setStyle(new ProgramStyle);
     QApplication::setFont(programFont(kTextPoints));
-    // Only distances here: colours come from the desktop's palette, so that dark themes hold.
-    application.setStyleSheet(
-        QStringLiteral("QPushButton { padding: 6px 16px; }"
-                       "QLineEdit { padding: 4px 6px; }"
-                       "QComboBox { padding: 4px 6px; }"
-                       "QGroupBox { font-weight: bold; margin-top: 10px; padding-top: 12px;"
-                       "  border: 1px solid palette(mid); border-radius: 6px; }"
-                       "QGroupBox::title { subcontrol-origin: margin; left: 12px; padding: 0 5px; }"));
+    QApplication::setFont(programFont(kTextPoints, QFont::Bold), "QGroupBox");
+    // What stands in a group doesn't take over the bold type of its title.
+    for (const char* const kind :
+         {"QAbstractButton", "QLabel", "QLineEdit", "QComboBox", "QAbstractScrollArea"})
+        QApplication::setFont(programFont(kTextPoints), kind);
 }
 
 QFont headingFont() {
@@ -41,6 +72,10 @@ QFont headingFont() {
 }
 QFont titleFont() {
     return programFont(kTextPoints + 22.0, QFont::Bold);
+}
+
+QFont numberFont() {
+    return programFont(kTextPoints + 10.0, QFont::Bold);
 }
 
 QFont valueFont() {
@@ -66,6 +101,9 @@ QPalette onFixedBackground(const QColor& background) {
     palette.setColor(QPalette::Midlight, QColor(232, 234, 242));
     palette.setColor(QPalette::Mid, QColor(170, 174, 194));
     palette.setColor(QPalette::Dark, QColor(120, 124, 148));
+    // The control with the focus is framed in this colour.
+    palette.setColor(QPalette::Highlight, QColor(206, 96, 0));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(120, 124, 148));
     return palette;
 }
@@ -82,18 +120,36 @@ QColor badColour(const QPalette& palette) {
     return isDark(palette) ? QColor(255, 130, 120) : QColor(190, 20, 20);
 }
 
+QColor frameColour() {
+    return {200, 30, 30};
+}
+
 void makeHeading(QLabel& label) {
     label.setFont(headingFont());
     label.setWordWrap(true);
 }
 
-void makePanel(QWidget& panel) {
-    panel.setAttribute(Qt::WA_StyledBackground);
-    panel.setStyleSheet(
-        QStringLiteral(
-            ".QWidget#%1 { background: rgba(255, 255, 255, 190); border: 1px solid rgba(16, 20, 48, 90);"
-            " border-radius: 10px; }")
-            .arg(panel.objectName()));
+void makeMark(QLabel& label) {
+    label.setAlignment(Qt::AlignCenter);
+    label.setStyleSheet(
+        QStringLiteral("background: rgb(255, 214, 64); color: rgb(16, 20, 48); border-radius: 9px;"
+                       " padding: 3px 12px; font-weight: bold;"));
+}
+
+void makeMain(QPushButton& button) {
+    button.setFont(programFont(kTextPoints, QFont::Bold));
+}
+
+void makeStep(QLabel& label) {
+    label.setAlignment(Qt::AlignCenter);
+    label.setFont(headingFont());
+    label.setMinimumWidth(label.fontMetrics().horizontalAdvance(QLatin1Char('0')) * 2);
+}
+
+QWidget* makePanel(const char* name) {
+    auto* const panel = new Panel;
+    panel->setObjectName(QString::fromUtf8(name));
+    return panel;
 }
 
 }  // namespace norlaplan::theme

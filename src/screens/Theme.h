@@ -6,10 +6,8 @@
 
 #include "state/ProgramState.h"
 
-class QApplication;
-class QBoxLayout;
-class QGridLayout;
 class QLabel;
+class QPushButton;
 class QWidget;
 
 /// The look of the program, defined here once and used by every form.
@@ -20,10 +18,11 @@ constexpr int kGap = 10;      ///< between controls that belong together
 constexpr int kWideGap = 22;  ///< between groups
 
 /// Sets the style and the type of the whole program. Colours stay those of the desktop, light or dark.
-void apply(QApplication& application);
+void apply();
 
 QFont headingFont();  ///< names the window or a section
 QFont titleFont();    ///< the product's name on the start screen
+QFont numberFont();   ///< the part number in hand
 QFont valueFont();    ///< figures that stand under each other
 
 /// Colour of the main menu's background: the mode of the units shows there.
@@ -39,9 +38,17 @@ QPalette paper();
 QColor goodColour(const QPalette& palette);  ///< within the limit
 QColor badColour(const QPalette& palette);   ///< over the limit
 
+QColor frameColour();  ///< of a frame drawn over white paper
+
 void makeHeading(QLabel& label);
+/// A mark that draws the eye to where to go on.
+void makeMark(QLabel& label);
+/// The button that leads on.
+void makeMain(QPushButton& button);
+/// The number of a step on a path.
+void makeStep(QLabel& label);
 /// A light panel with a quiet border, for groups on a coloured background.
-void makePanel(QWidget& panel);
+QWidget* makePanel(const char* name);
 
 /// Layouts with the program's margins and gaps.
 template <typename Layout>

@@ -1,15 +1,16 @@
 #include <QApplication>
 
+#include "screens/Form1.h"
 #include "screens/Screens.h"
 #include "screens/Theme.h"
 #include "screens/platform/QtPorts.h"
 
 int main(int count, char** arguments) {
     using namespace norlaplan;
-    QApplication application(count, arguments);
+    const QApplication application(count, arguments);
     // Forms come and go; the program ends when it says so.
     QApplication::setQuitOnLastWindowClosed(false);
-    theme::apply(application);
+    theme::apply();
 
     ProgramState state;
     const ProgramFolder folder(QCoreApplication::applicationDirPath().toStdString());
@@ -21,6 +22,6 @@ int main(int count, char** arguments) {
 
     Screens screens({state, folder, messages, saveDialog, printer, clock, sheets});
     addForms(screens);
-    screens.show("Form1");
+    ShowStartScreen(screens);
     return QApplication::exec();
 }

@@ -1,0 +1,174 @@
+#include "screens/Form3.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QPushButton>
+#include <filesystem>
+
+#include "screens/Form2.h"
+#include "screens/LaterScreens.h"
+#include "screens/Screens.h"
+#include "screens/Theme.h"
+#include "state/MenuConditions.h"
+#include "state/NewBearing.h"
+
+namespace norlaplan {
+
+void Form3::pressEnterModelNumber() {
+    modelNumber_->click();
+}
+
+void Form3::activated() {
+    setPalette(theme::onFixedBackground(theme::menuBackground(state().unitSystem)));
+    const Options& options = state().options;
+    faxCover_->setVisible(options.faxCoverEnabled);
+    nedsPictures_->setVisible(options.nedGroveOption);
+    thermalFits_->setVisible(options.tempFitsOption);
+    export_->setVisible(options.qlxOption);
+    partNumber_->setText(QString::fromStdString(state().bearing.partNumber));
+}
+
+void Form3::closed() {
+    screens().quit();
+}
+
+bool Form3::refused(const std::optional<Message>& refusal) {
+    if (refusal) services().messages.show(*refusal);
+    return refusal.has_value();
+}
+
+void Form3::openFor(const std::optional<Message>& refusal, const char* form) {
+    if (!refused(refusal)) screens().show(form);
+}
+
+void Form3::askForPath() {
+    const Message question{"Program Help", "Do you know the Norlaring MM™ Part Number"};
+    const Answer answer = services().messages.ask(question, Buttons::YesNoCancel);
+    if (answer != Answer::Yes && answer != Answer::No) return;
+    const bool known = answer == Answer::Yes;
+    knownMark_->setVisible(known);
+    searchMark_->setVisible(!known);
+    (known ? modelNumber_ : style_)->click();
+}
+
+void Form3::openModelNumber() {
+    screens().show("Form9");
+}
+
+void Form3::openDataSheet() {
+    openFor(bearingRefusal(state()), "Form17");
+}
+
+void Form3::openPreloadTorque() {
+    openFor(preloadTorqueRefusal(state()), "Form23");
+}
+
+void Form3::openAxialPlay() {
+    openFor(axialPlayRefusal(state()), "Form18");
+}
+
+void Form3::openDeflection() {
+    openFor(loadableBearingRefusal(state()), "Form24");
+}
+
+void Form3::openKnownLoads() {
+    if (refused(loadableBearingRefusal(state()))) return;
+    state().knownBearingLoadInput = true;
+    screens().show("Form14");
+}
+
+void Form3::openLife() {
+    openFor(lifeRefusal(state()), "Form19");
+}
+
+void Form3::openThermalFits() {
+    openFor(thermalFitsRefusal(state()), "Form31");
+}
+
+void Form3::openStyle() {
+    screens().show("Form16");
+}
+
+bool Form3::needsStyle() {
+    if (state().styleChosen) return false;
+    services().messages.show({"STYLE OF BEARING UNKNOWN", "BEARING STYLE MUST BE CHOSEN BEFORE SIZES"});
+    screens().show("Form16");
+    return true;
+}
+
+bool Form3::needsSizes() {
+    if (needsStyle()) return true;
+    if (state().sizesChosen) return false;
+    services().messages.show({"Missing Bearing Size", "Size of bearing must be known"});
+    screens().show("Form12");
+    return true;
+}
+
+void Form3::openSizes() {
+    if (!needsStyle()) screens().show("Form12");
+}
+
+void Form3::openSearchLoads() {
+    if (needsSizes()) return;
+    state().knownBearingLoadInput = false;
+    screens().show("Form14");
+}
+
+void Form3::openResults() {
+    if (needsSizes()) return;
+    if (!state().loadsEntered) {
+        services().messages.show({"Missing Load Data", "Bearing Loads Must be known"});
+        screens().show("Form14");
+        return;
+    }
+    screens().show("Form15");
+}
+
+void Form3::openIntroduction() {
+    showText(screens(), "\\help\\introduction.rtf", "Introduction to NORLAPLAN MM™ Software",
+             "Exit Introduction");
+}
+
+void Form3::openTraining() {
+    services().messages.show(notInThisVersion("Training"));
+}
+
+void Form3::openApplicationForm() {
+    screens().show("Form10");
+}
+
+void Form3::openFaxCover() {
+    screens().show("Form28");
+}
+
+void Form3::openNedsPictures() {
+    screens().show("Form29");
+}
+
+void Form3::clearAll() {
+    clearBearingAndLoads(state());
+    activated();
+}
+
+void Form3::sendMail() {
+    if (state().lastSavedFile.empty())
+        services().messages.show({"No File Available to Send", "Please Save File First", Icon::Critical});
+    else
+        services().messages.show(notInThisVersion("Mail"));
+}
+
+void Form3::askToQuit() {
+    const Message question{"Warning", "Are you Sure you want to quit ?", Icon::Warning};
+    if (services().messages.ask(question, Buttons::YesNo) == Answer::Yes) exitProgram();
+}
+
+void Form3::exitProgram() {
+    for (const char* const file : {"\\condensed.dat", "\\data.rtf"}) {
+        // A file that can't be deleted doesn't keep the user from leaving.
+        std::error_code ignored;
+        std::filesystem::remove(services().folder.find(file), ignored);
+    }
+    screens().quit();
+}
+
+}  // namespace norlaplan

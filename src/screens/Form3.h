@@ -1,0 +1,73 @@
+#pragma once
+
+#include "screens/Form.h"
+
+class QAction;
+class QLabel;
+class QMenu;
+class QMenuBar;
+class QPushButton;
+
+namespace norlaplan {
+
+/// The main menu: the hub from which every screen is opened and to which every one returns.
+class Form3 : public Form {
+  public:
+    explicit Form3(Screens& screens);
+
+    void pressEnterModelNumber();
+
+    void activated() override;
+    void closed() override;
+
+  private:
+    QPushButton* makeButton(const char* name, const QString& caption, const QString& tip,
+                            void (Form3::*action)());
+    QWidget* makeHead();
+    QWidget* makeKnownPath();
+    QWidget* makeSearchPath();
+    QWidget* makeFoot();
+    QMenuBar* makeMenus();
+    void addAction(QMenu& menu, const char* name, const QString& caption, std::function<void()> action);
+
+    // The two paths.
+    void askForPath();
+    void openModelNumber();
+    void openDataSheet();
+    void openPreloadTorque();
+    void openAxialPlay();
+    void openDeflection();
+    void openKnownLoads();
+    void openLife();
+    void openThermalFits();
+    void openStyle();
+    void openSizes();
+    void openSearchLoads();
+    void openResults();
+
+    // The rest.
+    void openIntroduction();
+    void openTraining();
+    void openApplicationForm();
+    void openFaxCover();
+    void openNedsPictures();
+    void clearAll();
+    void sendMail();
+    void askToQuit();
+    void exitProgram();
+
+    /// Shows the message, if there is one, and says whether there was.
+    bool refused(const std::optional<Message>& refusal);
+    /// Opens a form unless the bearing in hand is refused.
+    void openFor(const std::optional<Message>& refusal, const char* form);
+    bool needsStyle();
+    bool needsSizes();
+
+    QLabel* partNumber_;
+    QLabel* knownMark_;
+    QLabel* searchMark_;
+    QPushButton *modelNumber_, *style_, *thermalFits_, *faxCover_, *nedsPictures_;
+    QAction* export_;
+};
+
+}  // namespace norlaplan

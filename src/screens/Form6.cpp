@@ -1,0 +1,57 @@
+#include "screens/Form6.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "screens/Decoding.h"
+#include "screens/FormBuilder.h"
+#include "screens/Screens.h"
+#include "screens/Theme.h"
+#include "state/Settings.h"
+#include "state/UnitChange.h"
+
+namespace norlaplan {
+
+Form6::Form6(Screens& screens) : Form(screens, "Form6", "Measurement") {
+    us_ = build::option("Option1", "U.S. units (inches and pounds)");
+    metric_ = build::option("Option2", "SI units (mm and Newtons)");
+    auto* const note =
+        build::label("Label1", "Changing this setting will clear all data that has been entered");
+    note->setWordWrap(true);
+    auto* const take = build::button("Command1", "&OK", "Accept Change of Units");
+    auto* const cancel = build::button("Command2", "&Cancel", "Retain current Units Selection");
+    on(take, &QPushButton::clicked, "Change of units", [this] { accept(); });
+    on(cancel, &QPushButton::clicked, "Cancel", [this] { this->screens().hide(*this); });
+
+    auto* const frame = build::frame("Frame1", "Units of Measurement");
+    auto* const choices = theme::spaced(new QVBoxLayout(frame));
+    choices->addWidget(us_);
+    choices->addWidget(metric_);
+
+    auto* const buttons = theme::spaced(new QHBoxLayout, 0);
+    buttons->addStretch();
+    buttons->addWidget(take);
+    buttons->addWidget(cancel);
+
+    auto* const page = theme::spaced(new QVBoxLayout(this));
+    page->addWidget(frame);
+    page->addWidget(note);
+    page->addStretch();
+    page->addLayout(buttons);
+}
+
+void Form6::activated() {
+    const bool metric = state().unitSystem == "METRIC";
+    metric_->setChecked(metric);
+    us_->setChecked(!metric);
+}
+
+void Form6::accept() {
+    changeUnits(state(), metric_->isChecked() ? "METRIC" : "US");
+    // All texts of the bearing and its data sheet are built anew in the new units.
+    if (!state().bearing.partNumber.empty()) decodeCurrentBearing(screens());
+    SaveSettings(state(), services().folder);
+    screens().hide(*this);
+}
+
+}  // namespace norlaplan

@@ -1,0 +1,123 @@
+#include "screens/Form9.h"
+
+#include <QHBoxLayout>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+
+#include "numbers/Text.h"
+#include "screens/Decoding.h"
+#include "screens/Form2.h"
+#include "screens/FormBuilder.h"
+#include "screens/Screens.h"
+#include "screens/Theme.h"
+
+namespace norlaplan {
+namespace {
+
+constexpr std::size_t kStylePlace = 6, kSeparatorPlace = 7;  // counted from 0
+
+QPlainTextEdit* makeAdvice() {
+    auto* const advice = new QPlainTextEdit;
+    advice->setObjectName(QStringLiteral("Text2"));
+    advice->setAccessibleName(QStringLiteral("How a part number looks"));
+    advice->setReadOnly(true);
+    advice->setTabChangesFocus(true);
+    advice->setPlainText(
+        QStringLiteral("Please enter the exact part number.\n"
+                       "An example of a valid part number is K19013XP0.  The\n"
+                       "actual number of characters required is either 9 or 10."));
+    advice->setFixedHeight(advice->fontMetrics().lineSpacing() * 3 + 2 * theme::kGap);
+    return advice;
+}
+
+}  // namespace
+
+Form9::Form9(Screens& screens) : Form(screens, "Form9", "Part Number Processing") {
+    auto* const what = build::heading("Label1", "Enter full Metric part number:");
+    entry_ = build::edit("Text1", "9 or 10 digit code");
+    entry_->setFont(theme::headingFont());
+    build::buddy(*what, *entry_);
+    angularSeparators_ = makeSeparators("Frame1", {{{"Option1", "PTFE TOROIDS", "P"},
+                                                    {"Option2", "VESPEL TOROIDS", "V"},
+                                                    {"Option3", "SPACER BALLS", "S"}}});
+    otherSeparators_ =
+        makeSeparators("Frame2", {{{"Option5", "PTFE SLUGS", "T"}, {"Option6", "SPACER BALLS", "S"}}});
+    auto* const view = build::button("Command1", "View Data Sheet");
+    theme::makeMain(*view);
+    auto* const explain =
+        build::button("Command2", "Explain Part        Numbers", "Show character by character explanation");
+    auto* const menu = build::button("Command3", "&Main Menu", "Return to Main Menu");
+    auto* const hint = build::label("Label2", "If the VARDEN Part Number is not understood, Click Here!");
+    hint->setWordWrap(true);
+
+    on(entry_, &QLineEdit::textChanged, "Part number", [this] { followEntry(); });
+    on(entry_, &QLineEdit::returnPressed, "View Data Sheet", [this] { decode(); });
+    on(view, &QPushButton::clicked, "View Data Sheet", [this] { decode(); });
+    on(explain, &QPushButton::clicked, "Explain Part Numbers", [this] {
+        showText(this->screens(), "\\help\\Break Down.rtf", "Part Number Breakdown",
+                 "Exit Part Number Explanation");
+    });
+    on(menu, &QPushButton::clicked, "Main Menu", [this] { this->screens().hide(*this); });
+
+    auto* const buttons = theme::spaced(new QHBoxLayout, 0);
+    buttons->addWidget(view);
+    buttons->addStretch();
+    buttons->addWidget(menu);
+    auto* const explanation = theme::spaced(new QHBoxLayout, 0);
+    explanation->addWidget(hint, 1);
+    explanation->addWidget(explain);
+
+    auto* const page = theme::spaced(new QVBoxLayout(this));
+    page->addWidget(what);
+    page->addWidget(entry_);
+    page->addWidget(makeAdvice());
+    page->addWidget(angularSeparators_);
+    page->addWidget(otherSeparators_);
+    page->addStretch();
+    page->addLayout(explanation);
+    page->addSpacing(theme::kWideGap - theme::kGap);
+    page->addLayout(buttons);
+}
+
+QGroupBox* Form9::makeSeparators(const char* name, const std::vector<std::array<const char*, 3>>& options) {
+    QGroupBox* const frame = build::frame(name, "Z SEPARATOR OPTIONS");
+    auto* const row = theme::spaced(new QHBoxLayout(frame));
+    for (const auto& [control, caption, letter] : options) {
+        QRadioButton* const option = build::option(control, caption);
+        on(option, &QRadioButton::clicked, "Z separator",
+           [this, choice = letter] { state().bearing.zSeparatorChoice = choice; });
+        row->addWidget(option);
+    }
+    frame->hide();
+    return frame;
+}
+
+void Form9::activated() {
+    entry_->setFocus();
+}
+
+void Form9::startAgain() {
+    entry_->clear();
+    screens().show("Form9");
+    entry_->setFocus();
+}
+
+void Form9::followEntry() {
+    BearingSpec& bearing = state().bearing;
+    bearing.partNumber = upperCase(entry_->text().toStdString());
+    const std::string& number = bearing.partNumber;
+    const bool special = number.size() > kSeparatorPlace && number[kSeparatorPlace] == 'Z';
+    const bool other = special && (number[kStylePlace] == 'C' || number[kStylePlace] == 'X');
+    if (!special) bearing.zSeparatorChoice.clear();
+    angularSeparators_->setVisible(special && !other);
+    otherSeparators_->setVisible(special && other);
+}
+
+void Form9::decode() {
+    state().bearing.partNumber = upperCase(entry_->text().toStdString());
+    screens().show("Form3");
+    decodeCurrentBearing(screens());
+    if (Form* const front = screens().current()) front->activated();
+}
+
+}  // namespace norlaplan

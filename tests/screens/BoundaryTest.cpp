@@ -1,0 +1,86 @@
+#include "numbers/RuntimeError.h"
+#include "screens/Program.h"
+#include "state/Patience.h"
+
+using namespace norlaplan;
+using namespace norlaplan::testing;
+
+class BoundaryTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void a_run_time_error_is_shown_with_its_number_its_text_and_the_action() {
+        Program program;
+        program.screens.runAction("Preload Torque", [] { raise(fault::kDivisionByZero); });
+        QCOMPARE(program.lastMessage().title, std::string("Run-time error '11'"));
+        QCOMPARE(program.lastMessage().prompt, std::string("Division by zero\n\nPreload Torque"));
+    }
+
+    void a_calculation_that_does_not_converge_has_its_own_title() {
+        Program program;
+        program.screens.runAction("Search", [] { throw NotConverging(); });
+        QCOMPARE(program.lastMessage().title, std::string("The calculation does not converge"));
+    }
+
+    void any_other_failure_is_shown_too() {
+        Program program;
+        program.screens.runAction("Save", [] { throw std::logic_error("something odd"); });
+        QCOMPARE(program.lastMessage().prompt, std::string("something odd\n\nSave"));
+        program.screens.runAction("Save", [] { throw std::bad_alloc(); });
+        QCOMPARE(program.lastMessage().title, std::string("Run-time error '7'"));
+    }
+
+    void after_a_failure_the_user_is_back_where_the_action_began() {
+        Program program;
+        program.blank("Form12");
+        program.screens.show("Form3");
+        program.screens.runAction("Load Input", [&] {
+            program.screens.show("Form12");
+            raise(fault::kOverflow);
+        });
+        QCOMPARE(program.inFront(), std::string("Form3"));
+        QVERIFY(program.screens.form("Form3").isVisible());
+        QVERIFY(!program.screens.form("Form12").isVisible());
+    }
+
+    void one_form_shows_at_a_time_and_hiding_it_brings_back_the_one_beneath() {
+        Program program;
+        program.blank("Form12");
+        program.screens.show("Form3");
+        program.screens.show("Form12");
+        QVERIFY(!program.screens.form("Form3").isVisible());
+        program.screens.form("Form12").close();
+        QCOMPARE(program.inFront(), std::string("Form3"));
+        QVERIFY(program.screens.form("Form3").isVisible());
+    }
+
+    void a_form_stands_in_the_middle_of_the_screen_when_it_appears() {
+        Program program;
+        program.screens.show("Form6");
+        const Form& form = program.screens.form("Form6");
+        const QPoint off = form.frameGeometry().center() - form.screen()->geometry().center();
+        QVERIFY(off.manhattanLength() <= 4);
+    }
+
+    void a_screen_that_is_not_there_yet_says_so_in_one_sentence() {
+        Program program;
+        program.screens.show("Form3");
+        program.screens.show("Form99");
+        QCOMPARE(program.lastMessage().prompt,
+                 std::string("This screen is not part of this version of the program."));
+        QCOMPARE(program.inFront(), std::string("Form3"));
+    }
+
+    void enter_presses_the_button_that_has_the_focus() {
+        Program program;
+        program.blank("Form16");
+        program.screens.show("Form3");
+        auto& button = program.control<QAbstractButton>("Form3", "Command4");
+        button.setFocus();
+        QTest::keyClick(&button, Qt::Key_Return);
+        QCOMPARE(program.inFront(), std::string("Form16"));
+    }
+};
+
+QTEST_MAIN(BoundaryTest)
+#include "BoundaryTest.moc"

@@ -1,0 +1,97 @@
+#include <QLabel>
+#include <QRadioButton>
+
+#include "screens/Program.h"
+
+using namespace norlaplan;
+using namespace norlaplan::testing;
+
+namespace {
+
+struct Measurement : Program {
+    explicit Measurement(const char* system) {
+        state.unitSystem = system;
+        ApplyUnitSystem(system, state.units);
+        screens.show("Form3");
+        screens.show("Form6");
+    }
+};
+
+}  // namespace
+
+class MeasurementTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void the_screen_has_its_captions_and_marks_the_units_in_use() {
+        Measurement screen("METRIC");
+        QCOMPARE(screen.screens.form("Form6").windowTitle(), QString("Measurement"));
+        auto& us = screen.control<QRadioButton>("Form6", "Option1");
+        auto& metric = screen.control<QRadioButton>("Form6", "Option2");
+        QCOMPARE(us.text(), QString("U.S. units (inches and pounds)"));
+        QCOMPARE(metric.text(), QString("SI units (mm and Newtons)"));
+        QVERIFY(metric.isChecked() && !us.isChecked());
+        QCOMPARE(screen.control<QLabel>("Form6", "Label1").text(),
+                 QString("Changing this setting will clear all data that has been entered"));
+        QCOMPARE(screen.control<QAbstractButton>("Form6", "Command1").toolTip(),
+                 QString("Accept Change of Units"));
+        QCOMPARE(screen.control<QAbstractButton>("Form6", "Command2").text(), QString("&Cancel"));
+        QCOMPARE(screen.control<QAbstractButton>("Form6", "Command2").toolTip(),
+                 QString("Retain current Units Selection"));
+    }
+
+    void cancel_changes_nothing() {
+        Measurement screen("US");
+        screen.click("Form6", "Option2");
+        screen.click("Form6", "Command2");
+        QCOMPARE(screen.inFront(), std::string("Form3"));
+        QCOMPARE(screen.state.unitSystem, std::string("US"));
+        QVERIFY(!std::filesystem::exists(screen.files.path() / "SETTINGS.INI"));
+    }
+
+    void accepting_converts_what_was_entered_although_the_label_says_cleared() {
+        Measurement screen("US");
+        screen.state.entries.minBore = "2";
+        screen.state.entries.radial = "100";
+        screen.click("Form6", "Option2");
+        screen.click("Form6", "Command1");
+        QCOMPARE(screen.inFront(), std::string("Form3"));
+        QCOMPARE(screen.state.units.lengthUnit, std::string("mm"));
+        QCOMPARE(screen.state.entries.minBore, std::string("50.800"));
+        // 100 pounds are 444.82 newtons.
+        QCOMPARE(screen.state.entries.radial, std::string("445"));
+        QVERIFY(screen.state.entries.maxOd.empty());
+        QCOMPARE(screen.screens.form("Form3").palette().color(QPalette::Window), QColor(192, 255, 192));
+    }
+
+    void accepting_saves_the_settings_with_a_blank_for_each_empty_text() {
+        Measurement screen("US");
+        screen.click("Form6", "Command1");
+        QCOMPARE(screen.files.read("SETTINGS.INI"),
+                 std::string(" \r\n \r\n \r\n \r\n \r\n \r\n \r\n \r\nUS\r\n"));
+    }
+
+    void accepting_decodes_the_bearing_again_in_the_new_units() {
+        Measurement screen("US");
+        screen.state.bearing.partNumber = "K19013XP0";
+        screen.click("Form6", "Option2");
+        screen.click("Form6", "Command1");
+        QVERIFY2(screen.messages.shown.empty(), screen.lastMessage().prompt.c_str());
+        QVERIFY(screen.files.read("CONDENSED.DAT").find("(METRIC)") != std::string::npos);
+    }
+
+    void a_number_that_no_longer_decodes_ends_on_the_part_number_screen_with_the_units_saved() {
+        Measurement screen("US");
+        screen.state.bearing.partNumber = "K1";
+        screen.click("Form6", "Option2");
+        screen.click("Form6", "Command1");
+        QCOMPARE(screen.lastMessage().title, std::string("Part Number too short"));
+        QCOMPARE(screen.inFront(), std::string("Form9"));
+        QVERIFY(screen.files.read("SETTINGS.INI").ends_with("METRIC\r\n"));
+        screen.click("Form9", "Command3");
+        QCOMPARE(screen.inFront(), std::string("Form3"));
+    }
+};
+
+QTEST_MAIN(MeasurementTest)
+#include "MeasurementTest.moc"

@@ -1,0 +1,164 @@
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include "screens/Program.h"
+
+using namespace norlaplan;
+using namespace norlaplan::testing;
+
+namespace {
+
+struct Entry : Program {
+    Entry() {
+        ApplyUnitSystem("US", state.units);
+        state.unitSystem = "US";
+        screens.show("Form3");
+        click("Form3", "Command8");
+    }
+    QLineEdit& field() { return control<QLineEdit>("Form9", "Text1"); }
+    void type(const char* text) {
+        field().clear();
+        QTest::keyClicks(&field(), text);
+    }
+    bool shows(const char* frame) { return !control<QWidget>("Form9", frame).isHidden(); }
+};
+
+}  // namespace
+
+class PartNumberTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void the_screen_has_its_captions_and_tips() {
+        Entry entry;
+        QCOMPARE(entry.screens.form("Form9").windowTitle(), QString("Part Number Processing"));
+        QCOMPARE(entry.control<QLabel>("Form9", "Label1").text(), QString("Enter full Metric part number:"));
+        QCOMPARE(entry.field().toolTip(), QString("9 or 10 digit code"));
+        QCOMPARE(entry.control<QAbstractButton>("Form9", "Command1").text(), QString("View Data Sheet"));
+        QCOMPARE(entry.control<QAbstractButton>("Form9", "Command2").text(),
+                 QString("Explain Part        Numbers"));
+        QCOMPARE(entry.control<QAbstractButton>("Form9", "Command3").text(), QString("&Main Menu"));
+        QCOMPARE(entry.control<QLabel>("Form9", "Label2").text(),
+                 QString("If the VARDEN Part Number is not understood, Click Here!"));
+        QVERIFY(entry.field().hasFocus() || entry.screens.form("Form9").focusWidget() == &entry.field());
+    }
+
+    void no_separator_frame_shows_before_the_eighth_character() {
+        Entry entry;
+        entry.type("K19013X");
+        QVERIFY(!entry.shows("Frame1") && !entry.shows("Frame2"));
+        QTest::keyClicks(&entry.field(), "Z");
+        QVERIFY(!entry.shows("Frame1") && entry.shows("Frame2"));
+        entry.type("k19013az");
+        QVERIFY(entry.shows("Frame1") && !entry.shows("Frame2"));
+        entry.type("K19013AR0");
+        QVERIFY(!entry.shows("Frame1") && !entry.shows("Frame2"));
+    }
+
+    void a_separator_option_sets_the_second_letter_data() {
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<QString>("letter");
+        QTest::newRow("PTFE toroids") << "K19013AZ0"
+                                      << "Option1"
+                                      << "P";
+        QTest::newRow("Vespel toroids") << "K19013AZ0"
+                                        << "Option2"
+                                        << "V";
+        QTest::newRow("spacer balls, angular") << "K19013AZ0"
+                                               << "Option3"
+                                               << "S";
+        QTest::newRow("PTFE slugs") << "K19013XZ0"
+                                    << "Option5"
+                                    << "T";
+        QTest::newRow("spacer balls, others") << "K19013XZ0"
+                                              << "Option6"
+                                              << "S";
+    }
+    void a_separator_option_sets_the_second_letter() {
+        QFETCH(QString, number);
+        QFETCH(QString, option);
+        QFETCH(QString, letter);
+        Entry entry;
+        entry.type(number.toUtf8().constData());
+        QVERIFY(entry.state.bearing.zSeparatorChoice.empty());
+        entry.click("Form9", option.toUtf8().constData());
+        QCOMPARE(entry.state.bearing.zSeparatorChoice, letter.toStdString());
+    }
+
+    void an_arrow_key_chooses_the_next_separator_as_a_click_does() {
+        Entry entry;
+        entry.type("K19013AZ0");
+        entry.click("Form9", "Option1");
+        QApplication::setActiveWindow(&entry.screens.form("Form9"));
+        QTest::keyClick(&entry.control<QRadioButton>("Form9", "Option1"), Qt::Key_Right);
+        QVERIFY(entry.control<QRadioButton>("Form9", "Option2").isChecked());
+        QCOMPARE(entry.state.bearing.zSeparatorChoice, std::string("V"));
+    }
+
+    void the_mark_stays_but_the_choice_is_lost_with_the_z() {
+        Entry entry;
+        entry.type("K19013XZ0");
+        entry.click("Form9", "Option6");
+        entry.type("K19013XP0");
+        QVERIFY(entry.state.bearing.zSeparatorChoice.empty());
+        entry.type("K19013XZ0");
+        QVERIFY(entry.control<QRadioButton>("Form9", "Option6").isChecked());
+        QVERIFY(entry.state.bearing.zSeparatorChoice.empty());
+    }
+
+    void the_part_number_follows_every_key_and_main_menu_keeps_a_half_typed_one() {
+        Entry entry;
+        entry.type("k19");
+        QCOMPARE(entry.state.bearing.partNumber, std::string("K19"));
+        entry.click("Form9", "Command3");
+        QCOMPARE(entry.inFront(), std::string("Form3"));
+        QCOMPARE(entry.state.bearing.partNumber, std::string("K19"));
+    }
+
+    void enter_decodes_and_the_main_menu_shows_the_number() {
+        Entry entry;
+        entry.type("k19o13xp0");
+        QTest::keyClick(&entry.field(), Qt::Key_Return);
+        QVERIFY2(entry.messages.shown.empty(), entry.lastMessage().prompt.c_str());
+        QCOMPARE(entry.inFront(), std::string("Form3"));
+        QCOMPARE(entry.control<QLabel>("Form3", "Label3").text(), QString("K19013XP0"));
+        QVERIFY(std::filesystem::exists(entry.files.path() / "DATA.RTF"));
+        QVERIFY(std::filesystem::exists(entry.files.path() / "CONDENSED.DAT"));
+    }
+
+    void the_button_decodes_as_enter_does() {
+        Entry entry;
+        entry.type("K19013XP0");
+        entry.click("Form9", "Command1");
+        QCOMPARE(entry.inFront(), std::string("Form3"));
+        QCOMPARE(entry.control<QLabel>("Form3", "Label3").text(), QString("K19013XP0"));
+    }
+
+    void a_refused_number_brings_the_screen_back_empty_with_the_cursor_in_it() {
+        Entry entry;
+        entry.type("K19013X");
+        QTest::keyClick(&entry.field(), Qt::Key_Return);
+        QCOMPARE(entry.lastMessage(),
+                 (Message{"Part Number too short", "Please verify Part Number and try again"}));
+        QCOMPARE(entry.inFront(), std::string("Form9"));
+        QVERIFY(entry.field().text().isEmpty());
+        QVERIFY(entry.state.bearing.partNumber.empty());
+        QCOMPARE(entry.screens.form("Form9").focusWidget(), static_cast<QWidget*>(&entry.field()));
+    }
+
+    void the_explanation_opens_in_the_viewer_and_returns_here() {
+        Entry entry;
+        entry.click("Form9", "Command2");
+        QCOMPARE(entry.inFront(), std::string("Form2"));
+        QCOMPARE(entry.screens.form("Form2").windowTitle(), QString("Part Number Breakdown"));
+        QCOMPARE(entry.control<QAbstractButton>("Form2", "Command1").text(),
+                 QString("Exit Part Number Explanation"));
+        entry.click("Form2", "Command1");
+        QCOMPARE(entry.inFront(), std::string("Form9"));
+    }
+};
+
+QTEST_MAIN(PartNumberTest)
+#include "PartNumberTest.moc"

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QtTest>
+#include <filesystem>
+#include <string>
+
+#include "screens/Form1.h"
+#include "screens/Screens.h"
+#include "screens/platform/QtPorts.h"
+#include "support/RecordingPorts.h"
+
+namespace norlaplan::testing {
+
+/// The whole program on a folder of its own: the real forms and catalogue, with ports that record and answer.
+struct Program {
+    Program() {
+        namespace fs = std::filesystem;
+        for (const auto& entry : fs::directory_iterator(NORLAPLAN_PROGRAM_FOLDER)) {
+            if (entry.is_directory())
+                fs::create_directory_symlink(entry.path(), files.path() / entry.path().filename());
+        }
+        addForms(screens);
+    }
+
+    /// A control of a form, by the name it has.
+    template <typename Control>
+    Control& control(const std::string& form, const char* name) {
+        auto* const found = screens.form(form).findChild<Control*>(QString::fromUtf8(name));
+        if (found == nullptr) throw std::runtime_error(form + " has no " + name);
+        return *found;
+    }
+    void click(const std::string& form, const char* name) {
+        QTest::mouseClick(&control<QAbstractButton>(form, name), Qt::LeftButton);
+    }
+    /// The name of the form in front, empty when there is none.
+    std::string inFront() const {
+        const Form* const form = screens.current();
+        return form == nullptr ? "" : form->objectName().toStdString();
+    }
+    /// The last message; an empty one when there was none.
+    Message lastMessage() const { return messages.shown.empty() ? Message{} : messages.shown.back(); }
+    /// Makes `form` known as an empty window, so that a test sees that it is opened, whatever it would do.
+    void blank(const std::string& form) {
+        screens.add(form, [form](Screens& all) { return std::make_unique<Form>(all, form.c_str(), ""); });
+    }
+
+    TemporaryFolder files;
+    ProgramFolder folder{files.path()};
+    ProgramState state;
+    RecordingMessages messages;
+    PresetSaveDialog saveDialog;
+    RecordingPrinter printer;
+    FixedClock clock;
+    FolderSheets sheets{folder};
+    Screens screens{{state, folder, messages, saveDialog, printer, clock, sheets}};
+};
+
+}  // namespace norlaplan::testing
