@@ -1,0 +1,101 @@
+#include "catalogue/CatalogueTable.h"
+
+#include <cerrno>
+
+#include <sys/stat.h>
+
+#include "numbers/RuntimeError.h"
+#include "numbers/Text.h"
+
+namespace norlaplan {
+namespace {
+
+constexpr int kEnd = -1;
+
+bool endsField(int c) {
+    return c == kEnd || c == ',' || c == '\n' || c == '\r';
+}
+
+}  // namespace
+
+CatalogueTable::CatalogueTable(const ProgramFolder& folder, std::string_view name) {
+    const std::filesystem::path path = folder.find("\\Data Tables\\" + std::string(name));
+    file_.reset(std::fopen(path.c_str(), "rbe"));
+    if (!file_) {
+        raise(errno == ENOENT || errno == ENOTDIR ? fault::kFileNotFound : fault::kPermissionDenied);
+    }
+    struct stat status {};
+    if (::fstat(::fileno(file_.get()), &status) != 0 || !S_ISREG(status.st_mode)) raise(fault::kPathAccess);
+    size_ = static_cast<double>(status.st_size);
+}
+
+void CatalogueTable::skipFields(int count) {
+    for (int i = 0; i < count; ++i)
+        readField(field_);
+}
+
+bool CatalogueTable::AtEnd() {
+    return peek() == kEnd;
+}
+
+double CatalogueTable::partRead() const {
+    return size_ > 0.0 ? (read_ - static_cast<double>(filled_ - at_)) / size_ : 1.0;
+}
+
+void CatalogueTable::take(Single& target) {
+    readField(field_);
+    target = leadingNumber(field_);
+}
+
+void CatalogueTable::take(Int16& target) {
+    readField(field_);
+    target = leadingNumber(field_);
+}
+
+void CatalogueTable::readField(std::string& field) {
+    if (AtEnd()) raise(fault::kPastEnd);
+    field.clear();
+    while (peek() == ' ' || peek() == '\t')
+        get();
+    if (peek() == '"') {
+        readQuoted(field);
+    } else {
+        while (!endsField(peek()))
+            field += static_cast<char>(get());
+    }
+    endField();
+}
+
+void CatalogueTable::readQuoted(std::string& field) {
+    get();
+    while (peek() != '"' && peek() != kEnd)
+        field += static_cast<char>(get());
+    // What stands between the closing quote and the field's end belongs to nothing.
+    while (!endsField(peek()))
+        get();
+}
+
+void CatalogueTable::endField() {
+    if (get() == '\r' && peek() == '\n') get();
+}
+
+int CatalogueTable::peek() {
+    if (at_ == filled_) {
+        filled_ = std::fread(block_.data(), 1, block_.size(), file_.get());
+        at_ = 0;
+        read_ += static_cast<double>(filled_);
+        if (filled_ == 0) {
+            if (std::ferror(file_.get()) != 0) raise(fault::kDeviceIo);
+            return kEnd;
+        }
+    }
+    return static_cast<unsigned char>(block_[at_]);
+}
+
+int CatalogueTable::get() {
+    const int c = peek();
+    if (c != kEnd) ++at_;
+    return c;
+}
+
+}  // namespace norlaplan

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <array>
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "numbers/Int16.h"
+#include "numbers/Single.h"
+#include "state/ProgramFolder.h"
+
+namespace norlaplan {
+
+/// A catalogue table, read as a stream of fields from the top. Fields end at commas and line ends, so a row
+/// is what a reader takes. Blanks before a field are passed over; a text may stand in double quotes; a number
+/// is what stands at the start of its field, 0 for none; an empty line is an empty field.
+///
+/// The file is read piece by piece, whatever its size. Errors: 53 when the file or its folder is missing, 62
+/// past the end, 6 for a number that its target doesn't hold, 70 and 57 as the platform raises them.
+class CatalogueTable {
+  public:
+    /// Opens "13-X.csv" and the like in the data folder; names are matched without regard to case.
+    CatalogueTable(const ProgramFolder& folder, std::string_view name);
+
+    /// Reads the next fields into the targets, one after the other: texts, 32-bit floats, 16-bit whole
+    /// numbers, or arrays of floats.
+    template <typename... Targets>
+    void NextFields(Targets&... targets) {
+        (take(targets), ...);
+    }
+    void skipFields(int count);
+
+    /// Whether the file is exhausted; told between rows.
+    bool AtEnd();
+
+    /// The part of the file that is read, 0 to 1.
+    double partRead() const;
+
+  private:
+    struct Closer {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+
+    void take(std::string& target) { readField(target); }
+    void take(Single& target);
+    void take(Int16& target);
+    template <std::size_t N>
+    void take(std::array<Single, N>& targets) {
+        for (Single& target : targets)
+            take(target);
+    }
+    void readField(std::string& field);
+    void readQuoted(std::string& field);
+    void endField();
+    /// The next character without taking it; -1 at the end.
+    int peek();
+    int get();
+
+    std::unique_ptr<std::FILE, Closer> file_;
+    std::array<char, 16384> block_{};
+    std::size_t at_ = 0, filled_ = 0;
+    double size_ = 0.0, read_ = 0.0;
+    std::string field_;
+};
+
+/// Opens a table of the data folder.
+inline CatalogueTable OpenTable(const ProgramFolder& folder, std::string_view name) {
+    return {folder, name};
+}
+
+}  // namespace norlaplan

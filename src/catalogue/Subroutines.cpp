@@ -1,0 +1,110 @@
+#include "catalogue/Subroutines.h"
+
+#include "catalogue/CatalogueLookup.h"
+#include "catalogue/CodeTexts.h"
+#include "catalogue/DerivedData.h"
+#include "catalogue/PartNumberChecks.h"
+#include "catalogue/SectionConstants.h"
+#include "documents/DataSheet.h"
+#include "numbers/FormatNumber.h"
+#include "numbers/RuntimeError.h"
+#include "state/Patience.h"
+
+namespace norlaplan {
+namespace {
+
+[[noreturn]] void refuse(const char* title, const char* prompt, Icon icon = Icon::None) {
+    throw Refusal{{title, prompt, icon}};
+}
+
+void readTables(BearingSpec& bearing, const ProgramFolder& folder) {
+    if (!lookUpCrossSection(folder, bearing)) refuse("Retry Data Entry", "Bore size not found");
+    if (!lookUpPrecision(folder, bearing)) refuse("Bore data not found", "Error in precision tables");
+    if (bearing.separatorCode == "Z" && bearing.zSeparatorChoice.empty()) {
+        refuse("Missing Data", "Please specify which Z separator");
+    }
+    bearing.separatorCode += bearing.zSeparatorChoice;
+    if (!lookUpSeparator(folder, bearing)) {
+        refuse("WRONG SEPARATOR CODE", "SEPARATOR NOT PERMITTED FOR THIS BEARING");
+    }
+}
+
+/// Whatever the table says, a bearing is told as limited: availability is settled with the maker.
+void setAvailability(BearingSpec& bearing) {
+    bearing.stockCode = 2;
+    bearing.limitedFlag = "Y";
+    bearing.availabilityText = "   LIMITED AVAILABILITY, PLEASE CONTACT VARDEN";
+}
+
+void setMaterial(BearingSpec& bearing) {
+    bearing.materialText = materialTextOf(bearing.materialCode);
+    bearing.bearingExpansion = bearing.materialCode == "K" ? 7.0e-6 : 5.6e-6;
+}
+
+void setFitTexts(BearingSpec& bearing, const UnitMode& units, const ProgramFolder& folder) {
+    const auto shown = [&](double inches) { return FormatNumber(inches, units.clearancePicture); };
+    if (bearing.fitLetter == " ") {
+        bearing.fitRangeText = "Standard " + shown(units.lengthFactor * bearing.stdClearanceLow) + "-" +
+                               shown(units.lengthFactor * bearing.stdClearanceHigh) + " Clearance";
+        return;
+    }
+    if (!lookUpFit(folder, bearing)) {
+        refuse("Please correct Part Number", "Unavailable fitup", Icon::Critical);
+    }
+    // These limits are divided by the length factor where every other length is multiplied by it.
+    bearing.fitRangeText = bearing.fitLetter + "= " + shown(bearing.fitLow / units.lengthFactor) + "-" +
+                           shown(bearing.fitHigh / units.lengthFactor) + " " + bearing.clearanceKind;
+    if (bearing.styleLetter == "F" || bearing.styleLetter == "B") bearing.fitRangeText += " (AXIAL)";
+}
+
+void decode(ProgramState& state, std::string& number, DecodeServices& services) {
+    BearingSpec& bearing = state.bearing;
+    checkPartNumber(number, bearing, services.messages);
+    bearing.partNumber = number;
+    readTables(bearing, services.folder);
+    setAvailability(bearing);
+    setMaterial(bearing);
+    setSectionConstants(bearing, state.units);
+    bearing.styleText = styleTextOf(bearing.styleLetter);
+    bearing.precisionText = precisionTextOf(bearing.precisionCode);
+    setFitTexts(bearing, state.units, services.folder);
+    deriveBearingData(state, services.folder, services.messages);
+    services.sheets.store(makeDataSheet(state, services.folder, services.clock));
+}
+
+DecodeResult backToEntry(ProgramState& state, MessagePort& messages, const Message& message) {
+    messages.show(message);
+    state.bearing.partNumber.clear();
+    return {DecodeEnd::BackToEntry, false, std::nullopt};
+}
+
+DecodeResult fail(ProgramState& state, MessagePort& messages, const RuntimeError& error) {
+    if (error.number() == fault::kFileNotFound) {
+        DecodeResult result =
+            backToEntry(state, messages,
+                        {"Please recheck validity of part number", "Unexpected error in part-number entry"});
+        result.failed = true;
+        result.faultNumber = error.number();
+        return result;
+    }
+    messages.show({"Please contact Varden with " + std::to_string(error.number()), error.what()});
+    return {DecodeEnd::Stopped, true, error.number()};
+}
+
+}  // namespace
+
+DecodeResult DecodePartNumber(ProgramState& state, std::string& number, DecodeServices& services) {
+    try {
+        decode(state, number, services);
+        return {};
+    } catch (const Refusal& refusal) {
+        return backToEntry(state, services.messages, refusal.message);
+    } catch (const RuntimeError& error) {
+        return fail(state, services.messages, error);
+    } catch (const NotConverging& error) {
+        services.messages.show({NotConverging::title(), error.what()});
+        return {DecodeEnd::Stopped, true, std::nullopt};
+    }
+}
+
+}  // namespace norlaplan

@@ -1,0 +1,148 @@
+#include "cli/CommandLine.h"
+
+#include <iostream>
+#include <memory>
+
+#include <CLI/CLI.hpp>
+
+#include "cli/CommandError.h"
+#include "cli/Commands.h"
+
+namespace norlaplan::cli {
+namespace {
+
+/// Where the options of all commands land; the command's function keeps it alive.
+struct Arguments {
+    PartNumberOption number;
+    LoadOptions loads;
+    SearchOptions search;
+    std::string output;
+};
+
+class Builder {
+  public:
+    explicit Builder(CLI::App& app) : app_(app), arguments_(std::make_shared<Arguments>()) {}
+
+    void addAll() {
+        CLI::App* const decode = command(app_, "decode", "Every field of the bearing",
+                                         [](Session& s, Arguments& a) { return decodeCommand(s, a.number); });
+        addNumber(decode);
+
+        CLI::App* const life =
+            command(app_, "life", "L10 life, static safety, torque, speed verdict and every ball",
+                    [](Session& s, Arguments& a) { return lifeCommand(s, a.number, a.loads); });
+        addNumber(life);
+        addLoads(life);
+
+        CLI::App* const search =
+            command(app_, "search", "Bearings that fit an envelope, with their life under the loads",
+                    [](Session& s, Arguments& a) { return searchCommand(s, a.search, a.loads); });
+        addSearch(search);
+
+        CLI::App* const sheet =
+            command(app_, "datasheet", "The data sheet as a file",
+                    [](Session& s, Arguments& a) { return dataSheetCommand(s, a.number, a.output); });
+        addNumber(sheet);
+        addOutput(sheet);
+        addReports();
+    }
+
+    const std::function<CommandResult(Session&)>& chosen() const { return *chosen_; }
+
+  private:
+    using Run = CommandResult (*)(Session&, Arguments&);
+
+    CLI::App* command(CLI::App& parent, const char* name, const char* description, Run run) {
+        CLI::App* const command = parent.add_subcommand(name, description);
+        command->callback([chosen = chosen_, arguments = arguments_, run] {
+            *chosen = [arguments, run](Session& session) { return run(session, *arguments); };
+        });
+        return command;
+    }
+
+    void addReports() {
+        CLI::App* const report = app_.add_subcommand("report", "A screen's report as a file");
+        report->require_subcommand(1);
+        CLI::App* const life = command(*report, "life", "The load-life report", [](Session& s, Arguments& a) {
+            return lifeReportCommand(s, a.number, a.loads, a.output);
+        });
+        addNumber(life);
+        addLoads(life);
+        addOutput(life);
+        CLI::App* const search = command(
+            *report, "search", "The list of a search",
+            [](Session& s, Arguments& a) { return searchReportCommand(s, a.search, a.loads, a.output); });
+        addSearch(search);
+        addOutput(search);
+    }
+
+    void addNumber(CLI::App* command) {
+        command->add_option("PN", arguments_->number.number, "Part number, such as K19013XP0")->required();
+        command->add_option("--z-separator", arguments_->number.zSeparator, "Which separator a \"Z\" means")
+            ->check(CLI::IsMember({"P", "V", "S", "T"}));
+    }
+
+    void addLoads(CLI::App* command) {
+        command->add_option("--radial", arguments_->loads.radial, "Radial load, display units");
+        command->add_option("--axial", arguments_->loads.axial, "Axial load, display units");
+        command->add_option("--moment", arguments_->loads.moment, "Moment, display units");
+        command->add_option("--speed", arguments_->loads.speed, "Speed, rpm");
+    }
+
+    void addSearch(CLI::App* command) {
+        SearchOptions& search = arguments_->search;
+        command->add_option("--style", search.style, "The style's caption, such as \"4-POINT CONTACT\"")
+            ->required();
+        command->add_option("--min-bore", search.minBore, "Display units")->required();
+        command->add_option("--max-od", search.maxOd, "Display units")->required();
+        command->add_option("--min-height", search.minHeight, "Display units")->required();
+        command->add_option("--max-height", search.maxHeight, "Display units")->required();
+        command->add_option("--sort", search.sort, "Sort the list")
+            ->check(CLI::IsMember({"bore", "od", "life", "availability"}));
+        command->add_flag("--descending", search.descending, "Largest first");
+        addLoads(command);
+    }
+
+    void addOutput(CLI::App* command) {
+        command->add_option("--output", arguments_->output, "File to write: .rtf, .pdf, .png or .bmp")
+            ->required();
+    }
+
+    CLI::App& app_;
+    std::shared_ptr<Arguments> arguments_;
+    std::shared_ptr<std::function<CommandResult(Session&)>> chosen_ =
+        std::make_shared<std::function<CommandResult(Session&)>>();
+};
+
+}  // namespace
+
+std::optional<Invocation> parseCommandLine(int argc, char** argv) {
+    CLI::App app("NORLAPLAN-MM: thin-section ball bearings, without a screen", "norlaplan-cli");
+    Invocation invocation;
+    std::string folder;
+    app.set_version_flag("--version", "NORLAPLAN-MM version 1.00");
+    app.add_option("--program-folder", folder,
+                   "Folder of the catalogue and settings; default: that of the program");
+    app.add_option("--units", invocation.options.units, "Display units of this call")
+        ->check(CLI::IsMember({"US", "METRIC"}));
+    app.add_flag("--json", invocation.options.json, "One JSON object on standard output");
+    app.require_subcommand(1);
+    Builder builder(app);
+    builder.addAll();
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        if (error.get_exit_code() == 0) {
+            app.exit(error, std::cout, std::cerr);
+            return std::nullopt;
+        }
+        throw CommandError(ErrorKind::Usage, "Wrong usage", error.what());
+    }
+    invocation.options.programFolder = folder.empty()
+                                           ? std::filesystem::read_symlink("/proc/self/exe").parent_path()
+                                           : std::filesystem::path(folder);
+    invocation.command = builder.chosen();
+    return invocation;
+}
+
+}  // namespace norlaplan::cli

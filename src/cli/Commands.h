@@ -1,0 +1,30 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "cli/Session.h"
+
+namespace norlaplan::cli {
+
+/// What the search command takes: sizes in display units.
+struct SearchOptions {
+    std::string style;
+    double minBore = 0.0, maxOd = 0.0, minHeight = 0.0, maxHeight = 0.0;
+    std::string sort;  ///< "bore", "od", "life", "availability" or empty for the tables' order
+    bool descending = false;
+};
+
+/// Each command: its result, or `CommandError` and the run-time errors of its calculation.
+CommandResult decodeCommand(Session& session, const PartNumberOption& number);
+CommandResult lifeCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads);
+CommandResult dataSheetCommand(Session& session, const PartNumberOption& number,
+                               const std::filesystem::path& output);
+CommandResult searchCommand(Session& session, const SearchOptions& options, const LoadOptions& loads);
+CommandResult searchReportCommand(Session& session, const SearchOptions& options, const LoadOptions& loads,
+                                  const std::filesystem::path& output);
+CommandResult lifeReportCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads,
+                                const std::filesystem::path& output);
+
+}  // namespace norlaplan::cli

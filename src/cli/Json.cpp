@@ -1,0 +1,74 @@
+#include "cli/Json.h"
+
+#include "numbers/Text.h"
+
+namespace norlaplan::cli {
+namespace {
+
+std::string quoted(const std::string& text) {
+    return Json(text).dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+void write(const Json& value, const std::string& indent, std::string& out);
+
+/// Writes the members of an object or array between its brackets, one a line; `member` writes one.
+template <typename Member>
+void writeMembers(const Json& value, const std::string& indent, std::string& out, Member member) {
+    const bool object = value.is_object();
+    if (value.empty()) {
+        out += object ? "{}" : "[]";
+        return;
+    }
+    const std::string inner = indent + "  ";
+    out += object ? "{" : "[";
+    const char* separator = "\n";
+    for (auto at = value.begin(); at != value.end(); ++at) {
+        out += separator + inner;
+        member(at, inner);
+        separator = ",\n";
+    }
+    out += "\n" + indent + (object ? "}" : "]");
+}
+
+void write(const Json& value, const std::string& indent, std::string& out) {
+    if (value.is_object()) {
+        writeMembers(value, indent, out, [&](const auto& at, const std::string& inner) {
+            out += quoted(at.key()) + ": ";
+            write(at.value(), inner, out);
+        });
+    } else if (value.is_array()) {
+        writeMembers(value, indent, out,
+                     [&](const auto& at, const std::string& inner) { write(*at, inner, out); });
+    } else if (value.is_number_float()) {
+        out += shortestText(value.get<double>());
+    } else if (value.is_string()) {
+        out += quoted(value.get<std::string>());
+    } else {
+        out += value.dump();
+    }
+}
+
+}  // namespace
+
+// The shortest text of a 32-bit value has nine digits at most, so its 64-bit reading prints as the same
+// digits.
+Json toJson(const Single& value) {
+    return leadingNumber(shortestText(value));
+}
+Json toJson(double value) {
+    return value;
+}
+Json toJson(const Int16& value) {
+    return static_cast<int>(value);
+}
+Json toJson(const std::string& value) {
+    return value;
+}
+
+std::string writeJson(const Json& value) {
+    std::string text;
+    write(value, "", text);
+    return text + "\n";
+}
+
+}  // namespace norlaplan::cli

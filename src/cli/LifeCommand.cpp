@@ -1,0 +1,112 @@
+#include <vector>
+
+#include "capacity/LoadLife.h"
+#include "cli/CommandError.h"
+#include "cli/Commands.h"
+#include "cli/OutputFile.h"
+#include "cli/SolverFields.h"
+#include "cli/TextTable.h"
+#include "documents/LoadLifeReport.h"
+#include "numbers/FormatNumber.h"
+#include "numbers/Text.h"
+#include "state/MenuConditions.h"
+
+namespace norlaplan::cli {
+namespace {
+
+void calculate(Session& session, const PartNumberOption& number, const LoadOptions& loads) {
+    session.decode(number);
+    session.enter(loads);
+    if (const auto refusal = lifeRefusal(session.state())) {
+        throw CommandError(ErrorKind::Message, refusal->title, refusal->prompt);
+    }
+    if (!computeLoadLife(session.state(), session.messages())) session.failWithLastMessage();
+}
+
+Json solverJson(const SolverState& solver) {
+    Json json = Json::object();
+    visitSolver(solver, [&](const char* name, const auto& value) { json[name] = toJson(value); });
+    return json;
+}
+
+Json ballsJson(const SolverState& solver) {
+    Json balls = Json::array();
+    for (int row = 1; row <= solver.RowCount; ++row) {
+        for (int ball = 1; ball <= solver.BallCount; ++ball) {
+            Json json = {{"row", row}, {"ball", ball}};
+            visitBall(solver, row, ball,
+                      [&](const char* name, const auto& value) { json[name] = toJson(value); });
+            balls.push_back(json);
+        }
+    }
+    return balls;
+}
+
+Json lifeJson(const ProgramState& state) {
+    const LifeResult& life = state.life;
+    const bool speed = state.loads.speed != 0.0;
+    const auto withSpeed = [&](const auto& value) { return speed ? toJson(value) : Json(nullptr); };
+    Json json;
+    json["partNumber"] = state.bearing.partNumber;
+    json["meanClearance"] = toJson(state.bearing.meanClearance);
+    json["contactAngleDegrees"] = toJson(state.bearing.contactAngleDegrees);
+    json["torqueCoefficient"] = toJson(life.torqueCoefficient);
+    json["startingTorque"] = toJson(life.startingTorque);
+    json["l10Revolutions"] = toJson(life.l10Revolutions);
+    json["l10Hours"] = withSpeed(life.l10Hours);
+    json["staticSafetyFactor"] = toJson(life.staticSafetyFactor);
+    json["torqueDisplay"] = toJson(life.torqueDisplay);
+    json["torqueText"] = torqueLine(state);
+    json["loadPercent"] = withSpeed(life.loadPercent);
+    json["speedFactor"] = withSpeed(state.bearing.speedFactor);
+    json["speedLimit"] = withSpeed(life.speedLimit);
+    json["speedVerdict"] = withSpeed(life.speedVerdict);
+    json["speedVerdictColor"] = withSpeed(life.speedVerdictColor);
+    json["solver"] = solverJson(state.solver);
+    json["balls"] = ballsJson(state.solver);
+    return json;
+}
+
+std::string ballTable(const SolverState& solver) {
+    std::vector<std::vector<std::string>> rows = {{"Row", "Ball", "Deflection (in)", "Load (lb)",
+                                                   "Angle (deg)", "Inner stress (psi)",
+                                                   "Outer stress (psi)"}};
+    for (int row = 1; row <= solver.RowCount; ++row) {
+        for (int ball = 1; ball <= solver.BallCount; ++ball) {
+            rows.push_back(
+                {plainText(row), plainText(ball), FormatNumber(solver.BallDeflection(row, ball), "0.000000"),
+                 FormatNumber(solver.BallLoad(row, ball), "0.00"), trimmed(solver.BallAngleText(row, ball)),
+                 FormatNumber(solver.InnerStress(row, ball), "#,##0"),
+                 FormatNumber(solver.OuterStress(row, ball), "#,##0")});
+        }
+    }
+    return textTable(rows, true);
+}
+
+std::string lifeText(const ProgramState& state) {
+    std::string text = state.bearing.partNumber + "\n";
+    for (const std::string& line : {lifeLine(state), hoursLine(state), safetyLine(state), torqueLine(state),
+                                    state.loads.speed != 0.0 ? state.life.speedVerdict : std::string()}) {
+        if (!line.empty()) text += line + "\n";
+    }
+    return text + "\n" + ballTable(state.solver);
+}
+
+}  // namespace
+
+CommandResult lifeCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads) {
+    calculate(session, number, loads);
+    return {lifeJson(session.state()), lifeText(session.state())};
+}
+
+CommandResult lifeReportCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads,
+                                const std::filesystem::path& output) {
+    calculate(session, number, loads);
+    ClockPort& clock = session.clock();
+    writeDocument({[&] { return loadLifeRtf(session.state(), clock); },
+                   [&](Canvas& canvas) { printLoadLife(session.state(), clock, canvas); }},
+                  output);
+    return fileResult(output);
+}
+
+}  // namespace norlaplan::cli

@@ -1,0 +1,72 @@
+#include "cli/OutputFile.h"
+
+#include <array>
+#include <exception>
+
+#include <dlfcn.h>
+
+#include "cli/CommandError.h"
+#include "numbers/RuntimeError.h"
+#include "numbers/Text.h"
+#include "paint/PictureModule.h"
+#include "state/ProgramFolder.h"
+
+namespace norlaplan::cli {
+namespace {
+
+/// The picture module beside this program. It brings Qt with it, so it is loaded for a picture alone.
+SavePictureEntry loadPictureModule() {
+    const std::filesystem::path module =
+        std::filesystem::read_symlink("/proc/self/exe").parent_path() / kPictureModule;
+    void* const handle = ::dlopen(module.c_str(), RTLD_NOW | RTLD_LOCAL);
+    void* const entry = handle == nullptr ? nullptr : ::dlsym(handle, kPictureEntry);
+    if (entry == nullptr) {
+        throw CommandError(ErrorKind::Message, "No picture",
+                           "Pictures need the module " + module.string() + ", which can't be loaded");
+    }
+    return reinterpret_cast<SavePictureEntry>(entry);
+}
+
+/// The drawing with the exception that it may have ended in: none may cross into the module.
+struct Drawing {
+    const Document& document;
+    std::exception_ptr failure;
+};
+
+void drawInto(void* context, Canvas& canvas) {
+    auto& drawing = *static_cast<Drawing*>(context);
+    try {
+        drawing.document.draw(canvas);
+    } catch (...) {
+        drawing.failure = std::current_exception();
+    }
+}
+
+void writePicture(const Document& document, const std::filesystem::path& output) {
+    const SavePictureEntry save = loadPictureModule();
+    Drawing drawing{document, nullptr};
+    std::array<char, 500> text{};
+    const int fault = save(output.c_str(), &drawInto, &drawing, text.data(), text.size());
+    if (drawing.failure) std::rethrow_exception(drawing.failure);
+    if (fault != 0) throw RuntimeError(fault, text.data());
+}
+
+}  // namespace
+
+void writeDocument(const Document& document, const std::filesystem::path& output) {
+    const std::string extension = lowerCase(output.extension().string());
+    if (extension == ".rtf") {
+        writeWholeFile(output, document.rtf());
+    } else if (extension == ".pdf" || extension == ".png" || extension == ".bmp") {
+        writePicture(document, output);
+    } else {
+        throw CommandError(ErrorKind::Usage, "Unknown format",
+                           "--output takes a file name that ends in .rtf, .pdf, .png or .bmp");
+    }
+}
+
+CommandResult fileResult(const std::filesystem::path& output) {
+    return {{{"file", output.string()}}, output.string() + "\n"};
+}
+
+}  // namespace norlaplan::cli

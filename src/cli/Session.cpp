@@ -1,0 +1,49 @@
+#include "cli/Session.h"
+
+#include "catalogue/Subroutines.h"
+#include "cli/CommandError.h"
+#include "numbers/RuntimeError.h"
+#include "numbers/Text.h"
+#include "state/LoadEntry.h"
+#include "state/Settings.h"
+
+namespace norlaplan::cli {
+
+Session::Session(const GlobalOptions& options) : folder_(options.programFolder) {
+    startUp(state_, folder_);
+    const std::string& units = options.units.empty() ? state_.unitSystem : options.units;
+    state_.unitSystem = units == "METRIC" ? "METRIC" : "US";
+    ApplyUnitSystem(state_.unitSystem, state_.units);
+}
+
+void Session::decode(const PartNumberOption& option) {
+    std::string number = option.number;
+    const std::string upper = upperCase(number);
+    if (upper.size() >= 8 && upper[7] == 'Z') state_.bearing.zSeparatorChoice = option.zSeparator;
+    DecodeServices services{folder_, messages_, clock_, sheet_};
+    const DecodeResult result = DecodePartNumber(state_, number, services);
+    if (result.end == DecodeEnd::Decoded) return;
+    if (!result.failed) failWithLastMessage();
+    const Message told = messages_.takeLast();
+    throw CommandError(ErrorKind::Runtime, told.title, told.prompt, result.faultNumber);
+}
+
+void Session::enter(const LoadOptions& loads) {
+    prepareLoadEntry(state_);
+    const bool radial = isRadialContact(state_);
+    EntryTexts& texts = state_.entries;
+    texts.radial = plainText(loads.radial);
+    texts.axial = radial ? "" : plainText(loads.axial);
+    texts.moment = radial ? "" : plainText(loads.moment);
+    if (takesSpeed(state_)) texts.speed = plainText(loads.speed);
+    if (const auto message = enterLoads(state_)) {
+        throw CommandError(ErrorKind::Message, message->title, message->prompt);
+    }
+}
+
+void Session::failWithLastMessage() {
+    const Message told = messages_.takeLast();
+    throw CommandError(ErrorKind::Message, told.title, told.prompt);
+}
+
+}  // namespace norlaplan::cli

@@ -1,0 +1,51 @@
+#include "cli/TextTable.h"
+
+#include <algorithm>
+
+#include "numbers/Text.h"
+
+namespace norlaplan::cli {
+namespace {
+
+/// Characters that a UTF-8 text takes on a terminal: the bytes that go on with a character don't count.
+std::size_t shownWidth(const std::string& text) {
+    return static_cast<std::size_t>(std::count_if(
+        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+}
+
+struct Column {
+    std::size_t width = 0;
+    bool numeric = true;
+};
+
+std::vector<Column> measure(const std::vector<std::vector<std::string>>& rows, bool head) {
+    std::vector<Column> columns;
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        columns.resize(std::max(columns.size(), rows[row].size()));
+        for (std::size_t i = 0; i < rows[row].size(); ++i) {
+            columns[i].width = std::max(columns[i].width, shownWidth(rows[row][i]));
+            if (!(head && row == 0) && !wholeNumberText(rows[row][i])) columns[i].numeric = false;
+        }
+    }
+    return columns;
+}
+
+}  // namespace
+
+std::string textTable(const std::vector<std::vector<std::string>>& rows, bool head) {
+    const std::vector<Column> columns = measure(rows, head);
+    std::string text;
+    for (const auto& row : rows) {
+        std::string line;
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            const std::string gap(columns[i].width - shownWidth(row[i]), ' ');
+            if (i > 0) line += "  ";
+            line += columns[i].numeric ? gap + row[i] : row[i] + gap;
+        }
+        line.erase(line.find_last_not_of(' ') + 1);
+        text += line + "\n";
+    }
+    return text;
+}
+
+}  // namespace norlaplan::cli

@@ -1,0 +1,74 @@
+#include <algorithm>
+#include <clocale>
+#include <iostream>
+#include <string_view>
+
+#include "cli/CommandError.h"
+#include "cli/CommandLine.h"
+#include "numbers/RuntimeError.h"
+#include "state/Patience.h"
+
+namespace norlaplan::cli {
+namespace {
+
+Json warningsJson(const CollectedMessages& messages) {
+    Json warnings = Json::array();
+    for (const Message& message : messages.messages()) {
+        warnings.push_back({{"title", message.title}, {"prompt", message.prompt}});
+    }
+    return warnings;
+}
+
+void print(const Invocation& invocation, Session& session, CommandResult result) {
+    for (const Message& message : session.messages().messages()) {
+        std::cerr << message.title << ": " << message.prompt << '\n';
+    }
+    if (invocation.options.json) {
+        result.json["warnings"] = warningsJson(session.messages());
+        std::cout << writeJson(result.json);
+    } else {
+        std::cout << result.text;
+    }
+}
+
+void run(const Invocation& invocation) {
+    try {
+        Session session(invocation.options);
+        print(invocation, session, invocation.command(session));
+    } catch (const RuntimeError& error) {
+        throw CommandError(ErrorKind::Runtime, "Run-time error '" + std::to_string(error.number()) + "'",
+                           error.what(), error.number());
+    } catch (const NotConverging& error) {
+        throw CommandError(ErrorKind::Runtime, NotConverging::title(), error.what());
+    } catch (const CommandError&) {
+        throw;
+    } catch (const std::exception& error) {
+        throw CommandError(ErrorKind::Runtime, "Unexpected error", error.what());
+    }
+}
+
+int report(const CommandError& error, bool json) {
+    std::cerr << error.text() << '\n';
+    if (json) std::cout << writeJson(error.json());
+    return error.exitStatus();
+}
+
+}  // namespace
+}  // namespace norlaplan::cli
+
+int main(int argc, char** argv) {
+    using namespace norlaplan::cli;
+    // Dates print in the user's locale; numbers never follow it.
+    std::setlocale(LC_TIME, "");
+    const bool json = std::any_of(argv + 1, argv + argc,
+                                  [](const char* word) { return std::string_view(word) == "--json"; });
+    try {
+        if (const auto invocation = parseCommandLine(argc, argv)) run(*invocation);
+        std::cout.flush();
+        return std::cout ? 0 : 3;
+    } catch (const CommandError& error) {
+        return report(error, json);
+    } catch (const std::exception& error) {
+        return report(CommandError(ErrorKind::Runtime, "Unexpected error", error.what()), json);
+    }
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+#include "state/Ports.h"
+#include "state/ProgramFolder.h"
+#include "state/ProgramState.h"
+
+namespace norlaplan {
+
+/// The technical data sheet of the current bearing, as an RTF document and as records. Errors: 53 for a
+/// missing overlay drawing.
+SheetFiles makeDataSheet(const ProgramState& state, const ProgramFolder& folder, ClockPort& clock);
+
+/// The group of a document's footer: the program's name and version, a text, and when it was saved.
+std::string savedFooter(const std::string& text, ClockPort& clock);
+
+/// The program's name with its version, as documents and prints carry it.
+constexpr const char* kProgramVersion = "NORLAPLAN-MM version 1.00";
+
+}  // namespace norlaplan

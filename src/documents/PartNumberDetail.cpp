@@ -1,0 +1,88 @@
+#include <algorithm>
+#include <string>
+
+#include "documents/SheetWriter.h"
+
+namespace norlaplan {
+namespace {
+
+constexpr double kLeft = 0.5;
+constexpr double kRight = 3.4;
+constexpr double kSize = 8.0;
+constexpr double kLine = 0.117;
+constexpr double kStackLine = 0.1;
+
+std::string without(const std::string& text, std::size_t characters) {
+    return text.size() > characters ? text.substr(characters) : std::string();
+}
+
+/// The lines of the detail, one below the other.
+class DetailWriter {
+  public:
+    explicit DetailWriter(const SheetWriter& sheet) : sheet_(sheet) {}
+
+    /// A code with its meaning behind it.
+    void line(const std::string& code, const std::string& meaning) {
+        const double codeWidth = 0.085 * static_cast<double>(std::max<std::size_t>(code.size(), 1));
+        sheet_.text({kLeft, y_, kLeft + codeWidth + 0.1, y_ - kLine}, code, {kSize, "BLUE", true});
+        sheet_.text({kLeft + codeWidth, y_, kRight, y_ - kLine}, " " + meaning, {kSize});
+        y_ -= kLine;
+    }
+
+    void plain(const std::string& words, double left = kLeft) {
+        sheet_.text({left, y_, kRight, y_ - kLine}, words, {kSize});
+        y_ -= kLine;
+    }
+
+    /// Digits one below the other, joined by a bracket of the given size with their meaning behind it.
+    void stack(const std::string& digits, double bracketSize, const std::string& meaning) {
+        const double height = kStackLine * static_cast<double>(digits.size());
+        const double middle = y_ - height / 2.0;
+        const double bracket = bracketSize / 72.0;
+        sheet_.text({kLeft + 0.08, middle + 0.6 * bracket, kLeft + 0.25, middle - 0.6 * bracket}, "]",
+                    {bracketSize});
+        sheet_.text({kLeft + 0.2, middle + 0.07, kRight, middle - 0.07}, meaning, {kSize});
+        for (const char digit : digits) {
+            sheet_.text({kLeft, y_, kLeft + 0.15, y_ - kLine}, std::string(1, digit), {kSize, "BLUE", true});
+            y_ -= kStackLine;
+        }
+        y_ -= 0.02;
+    }
+
+  private:
+    const SheetWriter& sheet_;
+    double y_ = 4.08;
+};
+
+std::string fitMeaning(const SheetWriter& sheet) {
+    const BearingSpec& bearing = sheet.bearing;
+    if (bearing.fitLetter == "Z") return "= Special Internal Fitup";
+    const std::string& picture = sheet.units.clearancePicture;
+    return "= " + sheet.length(bearing.fitLow, picture) + " - " + sheet.length(bearing.fitHigh, picture) +
+           " " + bearing.clearanceKind;
+}
+
+}  // namespace
+
+void writePartNumberDetail(const SheetWriter& sheet) {
+    const BearingSpec& bearing = sheet.bearing;
+    sheet.document.TINTEDTTEXTBOX({0.4, 4.31, kRight, 2.82}, kTintFore, kTintBack);
+    sheet.box({0.4, 4.31, kRight, 4.1}, "Part Number Detail", kHeadingFill, {11.0});
+
+    DetailWriter detail(sheet);
+    detail.line(bearing.materialCode, without(bearing.materialText, 1));
+    if (bearing.materialCode != "K") detail.plain("< 440C Balls >", kLeft + 0.2);
+    detail.stack(bearing.partNumber.substr(1, 3), 20.0, "= Bore Size in mm");
+    detail.stack(bearing.partNumber.substr(4, 2), 12.0, without(bearing.crossSectionText, 2));
+    detail.line(bearing.styleLetter, without(bearing.styleText, 1));
+    const std::string limited = bearing.limitedFlag == "Y" ? ", limited availability!" : "";
+    detail.line(bearing.separatorCode, without(bearing.separatorText, 1) + limited);
+    detail.line(bearing.precisionCode, without(bearing.precisionText, 1));
+    if (bearing.fitLetter == " ") {
+        detail.plain(bearing.fitRangeText);
+    } else if (!sheet.styleIsOneOf("AUT")) {
+        detail.line(bearing.fitLetter, fitMeaning(sheet));
+    }
+}
+
+}  // namespace norlaplan

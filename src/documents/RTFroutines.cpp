@@ -1,0 +1,237 @@
+#include "documents/RTFroutines.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "numbers/Arithmetic.h"
+#include "numbers/Text.h"
+
+namespace norlaplan {
+namespace {
+
+constexpr double kTwipsPerInch = 1440.0;
+constexpr double kPageHeight = 11.0;
+/// LibreOffice pushes a shape that leaves the page back inside, so no right edge goes beyond it.
+constexpr int kPageRight = 12240;
+constexpr int kShapeIdBase = 1026;
+constexpr int kHeightBase = 8192;
+constexpr int kTextIdStep = 65536;
+
+int twipsX(double x) {
+    return static_cast<int>(Int(kTwipsPerInch * x));
+}
+int twipsY(double y) {
+    return static_cast<int>(Int(kTwipsPerInch * (kPageHeight - y)));
+}
+
+std::string word(const char* name, int value) {
+    return "\\" + std::string(name) + std::to_string(value);
+}
+
+std::string property(const char* name, long long value) {
+    return "{\\sp{\\sn " + std::string(name) + "}{\\sv " + std::to_string(value) + "}}";
+}
+
+std::string colourWord(const std::string& name) {
+    const std::string upper = upperCase(name);
+    if (upper == "RED") return "\\cf6";
+    if (upper == "BLUE") return "\\cf2";
+    if (upper == "GREEN") return "\\cf4";
+    if (upper == "BLACK") return "\\cf1";
+    if (upper == "PURPLE") return "\\cf5";
+    return "";
+}
+
+std::string fontWord(const std::string& name) {
+    if (name == "ARIEL") return "\\f1";
+    if (name == "Courier New") return "\\f2";
+    if (name == "Book Antiqua") return "\\f3";
+    return "";
+}
+
+std::string channels(const char* stem, Colour colour) {
+    const auto part = [&](const char* suffix, unsigned shift) {
+        return word((std::string(stem) + suffix).c_str(), static_cast<int>(colour >> shift & 0xFFU));
+    };
+    return part("r", 0) + part("g", 8) + part("b", 16);
+}
+
+/// The text's run with its paragraph's end, without the closing of the groups around it.
+std::string run(const SheetText& text, bool centred) {
+    const int halfPoints = static_cast<int>(std::lround(text.size * 2.0));
+    std::string rtf = "\\pard\\plain ";
+    // A text that is a hair wider than its box would break and vanish; the indent beyond the edge gives it
+    // room.
+    rtf += centred ? "\\qc\\ri-72\\li-72" : "\\ri-72";
+    rtf += "\\widctlpar\\adjustright " + word("fs", halfPoints) + "\\cgrid {";
+    if (text.bold) rtf += "\\b";
+    rtf += colourWord(text.colour);
+    if (text.italic) rtf += "\\i";
+    return rtf + word("fs", halfPoints) + fontWord(text.font) + " " + rtfText(text.text) + "\\par }";
+}
+
+}  // namespace
+
+std::string rtfText(std::string_view utf8) {
+    std::string rtf;
+    for (std::size_t at = 0; at < utf8.size();) {
+        const auto lead = static_cast<unsigned char>(utf8[at]);
+        if (lead < 0x80) {
+            if (lead == '\\' || lead == '{' || lead == '}') rtf += '\\';
+            rtf += lead < 0x20 ? ' ' : static_cast<char>(lead);
+            ++at;
+            continue;
+        }
+        const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+        unsigned code = lead & (0xFFU >> (length + 1));
+        for (std::size_t i = 1; i < length && at + i < utf8.size(); ++i) {
+            code = code << 6U | (static_cast<unsigned char>(utf8[at + i]) & 0x3FU);
+        }
+        at += std::min(length, utf8.size() - at);
+        constexpr char kHex[] = "0123456789abcdef";
+        if (code >= 0xA0 && code <= 0xFF) {
+            rtf += std::string("\\'") + kHex[code >> 4U] + kHex[code & 15U];
+        } else {
+            rtf += "\\u" + std::to_string(static_cast<int>(static_cast<short>(code))) + "?";
+        }
+    }
+    return rtf;
+}
+
+void RtfDocument::append(std::string_view line) {
+    rtf_ += line;
+    rtf_ += "\r\n";
+}
+
+void RtfDocument::record(const SheetRecord& record) {
+    records_ += recordText(record);
+    ++shapeCounter_;
+}
+
+void RtfDocument::endRecords() {
+    records_ += std::string(kRecordsEnd) + "\r\n";
+}
+
+std::string RtfDocument::beginShape(const PageBox& box, int type, bool flip) {
+    const int n = shapeCounter_;
+    std::string shape =
+        "{\\shp{\\*\\shpinst" + word("shpleft", twipsX(box.left)) + word("shptop", twipsY(box.top));
+    shape += "\r\n" + word("shpright", std::min(twipsX(box.right), kPageRight)) +
+             word("shpbottom", twipsY(box.bottom));
+    shape += "\r\n\\shpfhdr0\\shpbxpage\r\n\\shpbypage\r\n\\shpwr3\\shpwrk0\\shpfblwtxt0" + word("shpz", n);
+    shape += "\r\n" + word("shplid", n + kShapeIdBase) + "\r\n";
+    return shape + property("shapeType", type) + property("fFlipH", 0) + property("fFlipV", flip ? 1 : 0);
+}
+
+/// The head of the old-format fallback.
+static std::string beginFallback(int n) {
+    return "{\\shprslt{\\*\\do\\dobxpage\\dobypage" + word("dodhgt", n + kHeightBase) + "\r\n";
+}
+
+std::string RtfDocument::fallbackPlace(const PageBox& box) const {
+    const int left = twipsX(box.left);
+    const int top = twipsY(box.top);
+    return word("dpx", left) + word("dpy", top) + "\r\n" + word("dpxsize", twipsX(box.right) - left) +
+           word("dpysize", twipsY(box.bottom) - top) + "\r\n";
+}
+
+void RtfDocument::writeText(const SheetText& text, const Colour* fill) {
+    std::string shape = beginShape(text.box, 202, false);
+    shape += property("lTxid", static_cast<long long>(shapeCounter_ + 1) * kTextIdStep);
+    for (const char* const inset : {"dxTextLeft", "dyTextTop", "dxTextRight", "dyTextBottom"}) {
+        shape += property(inset, 0);
+    }
+    if (text.vertical) shape += property("txflTextFlow", fill == nullptr ? 2 : 3);
+    if (fill == nullptr) {
+        shape += property("fFilled", 0) + property("fLine", 0);
+    } else {
+        shape += property("fillColor", *fill) + property("fFilled", 1);
+    }
+    const std::string paragraph = run(text, fill != nullptr);
+    shape += "\r\n{\\shptxt " + paragraph + "}}\r\n";
+    shape += beginFallback(shapeCounter_) + "\\dptxbx{\\dptxbxtext" + paragraph + "}\r\n" +
+             fallbackPlace(text.box);
+    if (fill == nullptr) {
+        shape += channels("dpfillfgc", colours::kWhite) + channels("dpfillbgc", colours::kWhite) +
+                 "\\dpfillpat0\\dplinehollow}}}";
+    } else {
+        shape += channels("dpfillfgc", colours::kWhite) + channels("dpfillbgc", *fill) +
+                 "\\dpfillpat1\\dplinehollow\\dplinew15\\dplinecor0\\dplinecog0\\dplinecob0}}}";
+    }
+    append(shape);
+}
+
+void RtfDocument::RTFDATASHEETTEXT(const SheetText& text) {
+    record(text);
+    writeText(text, nullptr);
+}
+
+void RtfDocument::RTFTEXTWBOX(const SheetTextBox& box) {
+    record(box);
+    writeText(box.text, &box.fill);
+}
+
+void RtfDocument::TINTEDTTEXTBOX(const PageBox& box, Colour fore, Colour back) {
+    record(SheetTint{box, fore});
+    constexpr int kShadeFromTop = 7;
+    std::string shape = beginShape(box, 202, false);
+    shape += property("lTxid", static_cast<long long>(shapeCounter_ + 1) * kTextIdStep);
+    shape += property("fillType", kShadeFromTop) + property("fillColor", fore) +
+             property("fillBackColor", back) + property("fFilled", 1);
+    const std::string paragraph = run(SheetText{}, true);
+    shape += "\r\n{\\shptxt " + paragraph + "}}\r\n" + beginFallback(shapeCounter_);
+    shape += "\\dptxbx{\\dptxbxtext" + paragraph + "}\r\n" + fallbackPlace(box);
+    shape += channels("dpfillfgc", back) + channels("dpfillbgc", fore) +
+             "\\dpfillpat1\\dplinew15\\dplinecor0\\dplinecog0\\dplinecob0}}}";
+    append(shape);
+}
+
+void RtfDocument::writeLine(const SheetLine& line) {
+    PagePoint from = line.from;
+    PagePoint to = line.to;
+    if (to.x < from.x) std::swap(from, to);
+    // On paper y grows upward: a line that rises to the right runs from the lower left to the upper right.
+    const bool rises = to.y > from.y;
+    const PageBox box{from.x, std::max(from.y, to.y), to.x, std::min(from.y, to.y)};
+    std::string shape = beginShape(box, 20, rises);
+    shape += property("shapePath", 4) + property("fFillOK", 0) + property("fFilled", 0) +
+             property("fArrowheadsOK", 1) + property("lineColor", line.colour) +
+             property("lineWidth", std::lround(line.width)) + property("fLine", 1) +
+             property("fLayoutInCell", 1);
+    if (line.dataSheet) shape += property("lineDashing", line.dash);
+    const int dx = twipsX(box.right) - twipsX(box.left);
+    const int dy = twipsY(box.bottom) - twipsY(box.top);
+    shape += "}\r\n" + beginFallback(shapeCounter_) + "\\dpline";
+    shape += word("dpptx", 0) + word("dppty", rises ? dy : 0) + word("dpptx", dx) +
+             word("dppty", rises ? 0 : dy) + "\r\n" + fallbackPlace(box);
+    shape += word("dplinew", static_cast<int>(std::lround(line.width / 635.0))) +
+             channels("dplineco", line.colour) + "}}}";
+    append(shape);
+}
+
+void RtfDocument::RTFLINE(PagePoint from, PagePoint to, Colour colour, double width) {
+    const SheetLine line{from, to, colour, width, 0, false};
+    record(line);
+    writeLine(line);
+}
+
+void RtfDocument::RTFDATASHEETLINE(PagePoint from, PagePoint to, Colour colour, double width, int dash) {
+    const SheetLine line{from, to, colour, width, dash, true};
+    record(line);
+    writeLine(line);
+}
+
+void RtfDocument::RTFCIRCLE(PagePoint centre, double radius, Colour colour, double width) {
+    record(SheetCircle{centre, radius, colour, width});
+    const PageBox box{centre.x - radius, centre.y + radius, centre.x + radius, centre.y - radius};
+    std::string shape = beginShape(box, 3, false);
+    shape += property("fFilled", 0) + property("lineColor", colour) +
+             property("lineWidth", std::lround(width)) + property("fline", 1) + "}\r\n";
+    shape += beginFallback(shapeCounter_) + "\\dpellipse\r\n" + fallbackPlace(box);
+    shape += "\\dpfillpat0" + word("dplinew", static_cast<int>(std::lround(width / 635.0))) +
+             channels("dplineco", colour) + "}}}";
+    append(shape);
+}
+
+}  // namespace norlaplan

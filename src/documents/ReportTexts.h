@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "state/ProgramState.h"
+
+namespace norlaplan {
+
+/// Texts that the RTF and the printed form of a report share: sizes and loads with their units, in display
+/// units.
+std::string shownLength(const ProgramState& state, double inches);
+std::string shownLoad(const ProgramState& state, double displayLoad);
+std::string shownMoment(const ProgramState& state, double displayMoment);
+
+/// The report's torque, which below 1 shows with two decimals for every style.
+std::string reportTorque(const ProgramState& state);
+
+}  // namespace norlaplan

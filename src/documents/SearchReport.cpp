@@ -1,0 +1,95 @@
+#include "documents/SearchReport.h"
+
+#include "documents/DataSheet.h"
+#include "documents/RTFroutines.h"
+#include "numbers/FormatNumber.h"
+#include "numbers/Text.h"
+
+namespace norlaplan {
+namespace {
+
+constexpr std::size_t kRowsOfAPage = 29;
+constexpr const char* kLifePicture = "0.000E+00";
+
+std::string shownSize(double size) {
+    return FormatNumber(size, "###0.0000");
+}
+std::string shownLoad(double load) {
+    return FormatNumber(load, "#,##0");
+}
+std::string shownLife(const std::string& text) {
+    return FormatNumber(Single(leadingNumber(text)), kLifePicture);
+}
+
+/// The name as the list's column takes it: a set's name ends before its suffix.
+std::string columnName(const ProgramState& state, const std::string& name) {
+    const std::string& caption = state.style.searchStyleCaption;
+    if (state.style.searchStyleLetter != "A") return name;
+    const std::size_t suffix = name.find(caption.starts_with("BACK") ? "BR0" : "FR0");
+    return name.substr(0, suffix) + " ";
+}
+
+void writeHead(RtfDocument& document, const ProgramState& state) {
+    const SearchCriteria& sizes = state.criteria;
+    const LoadCase& loads = state.loads;
+    document.append("{\\f1\\par\\par}");
+    document.append("\\pard");
+    document.append("\\par\\par\\par");
+    document.append("{\\fs28\\cf1\\b RESULTS OF BEARING SEARCH FOR : ");
+    document.append("\\ul " + rtfText(state.style.searchStyleCaption));
+    document.append("\\plain");
+    document.append("\\par\\par");
+    document.append("{\\fs24\\cf1 Minimum Bore = \\tab " + shownSize(sizes.minBoreDisplay) + " " +
+                    state.units.lengthUnit);
+    document.append("\\tab\\tab Radial Load =");
+    document.append("\\tab\\tab " + shownLoad(loads.radialLoadDisplay) + " " + state.units.loadUnit + "}");
+    document.append("{\\par\\fs24\\cf1 Maximum O.D. =\\tab " + shownSize(sizes.maxOdDisplay) + " " +
+                    state.units.lengthUnit);
+    document.append("\\tab\\tab Axial Load =");
+    document.append("\\tab\\tab " + shownLoad(loads.axialLoadDisplay) + " " + state.units.loadUnit + "}");
+    document.append("{\\par\\fs24\\cf1 Minimum Height =\\tab " + shownSize(sizes.minHeightDisplay) + " " +
+                    state.units.lengthUnit);
+    document.append("\\tab\\tab Moment Load =");
+    document.append("\\tab " + shownLoad(loads.momentLoadDisplay) + " " + state.units.momentUnit + "}");
+    document.append("{\\par\\fs24\\cf1 Maximum Height =\\tab " + shownSize(sizes.maxHeightDisplay) + " " +
+                    state.units.lengthUnit);
+    document.append("\\tab\\tab\\fs24 Speed = \\tab\\tab " + plainText(loads.speed) + " rpm}");
+    document.append("\\par\\par");
+    document.append(
+        "{\\fs24\\b\\cf2 BEARING\\tab\\tab\\ L\\sub 10 \\nosupersub  LIFE\\tab\\tab\\tab\\ L\\sub 10 "
+        "\\nosupersub  LIFE (hours)}");
+    document.append("\\par");
+}
+
+void writeRow(RtfDocument& document, const ProgramState& state, const SearchHit& hit) {
+    const bool over = state.loads.speed > 0.0 && leadingNumber(hit.speedLimit) < state.loads.speed;
+    document.append("{\\cf1 " + rtfText(columnName(state, hit.name)));
+    document.append("\\tab\\tab\\ " + shownLife(hit.l10Revolutions));
+    document.append("\\tab\\tab\\tab\\ " + shownLife(hit.l10Hours));
+    document.append(over ? "\\tab\\tab\\tab\\cf6 Over Speed!}" : "}");
+    document.append("\\par");
+}
+
+}  // namespace
+
+std::string searchRtf(const ProgramState& state, ClockPort& clock) {
+    RtfDocument document;
+    document.RtfHeader();
+    writeHead(document, state);
+    // The rows of a page stand in a group of their own, which the page's end closes.
+    document.append("{");
+    std::size_t row = 0;
+    for (const SearchHit& hit : state.search.rows) {
+        if (row > 0 && row % kRowsOfAPage == 0) {
+            document.append("\\par }\\pard \\qr\\widctlpar\\adjustright {\\cgrid0  \\page }");
+            document.append("\\pard \\widctlpar\\adjustright {");
+        }
+        writeRow(document, state, hit);
+        ++row;
+    }
+    document.append(savedFooter(state.user.userName, clock));
+    document.append("}{\\par }}}}");
+    return document.rtf();
+}
+
+}  // namespace norlaplan

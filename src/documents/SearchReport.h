@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+#include "state/Canvas.h"
+#include "state/Ports.h"
+#include "state/ProgramState.h"
+
+namespace norlaplan {
+
+/// The results list of the state as an RTF document, 29 rows a page.
+std::string searchRtf(const ProgramState& state, ClockPort& clock);
+
+/// The results list as printed pages: 26 rows on the first, 40 on each further one.
+void printSearch(const ProgramState& state, ClockPort& clock, Canvas& canvas);
+
+/// How many pages the printed list has.
+int searchPages(std::size_t rows);
+
+}  // namespace norlaplan

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "state/Canvas.h"
+
+namespace norlaplan {
+
+/// A text of a drawing: placed at the left top corner of its box, colour and typeface by name ("BLUE",
+/// "TNR").
+struct SheetText {
+    PageBox box;
+    double size = 0.0;  ///< points
+    std::string colour, text;
+    bool bold = false;
+    std::string font;
+    bool vertical = false, italic = false;
+};
+/// A filled, framed box with its text centred.
+struct SheetTextBox {
+    SheetText text;
+    Colour fill = 0;
+};
+struct SheetTint {
+    PageBox box;
+    Colour fill = 0;
+};
+struct SheetLine {
+    PagePoint from, to;
+    Colour colour = 0;
+    double width = 0.0;  ///< EMU
+    int dash = 0;
+    bool dataSheet = false;  ///< the variant that carries a dash
+};
+struct SheetCircle {
+    PagePoint centre;
+    double radius = 0.0;
+    Colour colour = 0;
+    double width = 0.0;
+};
+
+/// One drawing call of a data sheet, as it stands in the side file.
+using SheetRecord = std::variant<SheetText, SheetTextBox, SheetTint, SheetLine, SheetCircle>;
+
+/// The last line of a side file.
+constexpr std::string_view kRecordsEnd = "ALLDONE";
+
+/// A line of the side file that is neither empty nor a known keyword, or whose fields can't be read.
+class BadSheetRecord : public std::runtime_error {
+  public:
+    explicit BadSheetRecord(const std::string& line);
+};
+
+/// The record's two lines: its keyword, and its fields in print zones of 14 columns.
+std::string recordText(const SheetRecord& record);
+
+/// The records of a side file up to its last line or its end. Error: `BadSheetRecord`.
+std::vector<SheetRecord> readSheetRecords(std::string_view text);
+
+/// Draws a side file onto the canvas, with the maker's mark at the head of the page. Error: `BadSheetRecord`.
+void paintSheet(std::string_view records, Canvas& canvas);
+
+}  // namespace norlaplan

@@ -1,0 +1,26 @@
+#include "search/HitChoice.h"
+
+#include "numbers/Text.h"
+
+namespace norlaplan {
+
+bool hasSpacers(const std::string& searchStyleCaption) {
+    return searchStyleCaption.ends_with("SPACERS");
+}
+
+std::optional<ChosenBearing> chooseHit(ProgramState& state, int entry) {
+    if (entry < 1 || static_cast<std::size_t>(entry) > state.search.rows.size()) return std::nullopt;
+    const SearchHit& hit = state.search.rows[static_cast<std::size_t>(entry) - 1];
+    const std::string unit = " " + state.units.lengthUnit;
+    ChosenBearing chosen{hit.name, "Bore = " + hit.boreText + unit, "O.D. = " + hit.odText + unit,
+                         "Height = " + hit.heightText + unit, ""};
+    state.bearing.partNumber = trimmed(hit.name);
+    if (hasSpacers(state.style.searchStyleCaption)) {
+        state.bearing.partNumber = hit.name.substr(0, 9) + "A";
+        chosen.spacerHint = "   Data Sheet Available for                " + state.bearing.partNumber +
+                            "                      without Spacers Only!";
+    }
+    return chosen;
+}
+
+}  // namespace norlaplan

@@ -1,0 +1,290 @@
+#include "search/SearchEngine.h"
+
+#include <array>
+#include <cmath>
+#include <string>
+
+#include "capacity/SpeedLimits.h"
+#include "catalogue/CatalogueTable.h"
+#include "loaddist/radlodestar2.h"
+#include "numbers/Arithmetic.h"
+#include "numbers/FormatNumber.h"
+#include "numbers/Text.h"
+#include "search/ClearanceTable.h"
+#include "search/HitChoice.h"
+#include "search/OneTimeMessages.h"
+
+namespace norlaplan {
+namespace {
+
+constexpr double kMillimetresPerInch = 25.4;
+/// The tangent of 30 degrees, as it stands in the arm of a set.
+constexpr double kTangent = 0.57735027;
+/// The radial play that every set of angular contact bearings is taken with, inches.
+constexpr double kSetClearance = 0.0005 / 2.0;
+
+/// A cross-section of the catalogue.
+struct Section {
+    const char* prefix;
+    double ballDiameter, raceRadius;
+};
+constexpr std::array<Section, 3> kSections = {
+    {{"8-", 0.15625, 0.0828125}, {"13-", 0.25, 0.1325}, {"20-", 0.375, 0.19875}}};
+
+/// The four grease numbers of the style's speed table, and for "X" those of pure thrust.
+struct SpeedNumbers {
+    std::array<Single, 4> thrust, other;
+};
+
+/// A bearing's row in a section table.
+struct SectionRow {
+    std::string name;
+    Int16 stockCode, speedIndex, ballCount;
+    Single bore, outsideDiameter;
+};
+
+/// One search: what stays the same from row to row, and the row in hand.
+class Search {
+  public:
+    Search(ProgramState& state, const ProgramFolder& folder, MessagePort& messages, SearchWatch& watch)
+        : state_(state),
+          folder_(folder),
+          messages_(messages),
+          watch_(watch),
+          clearances_(folder),
+          letter_(state.style.searchStyleLetter),
+          caption_(state.style.searchStyleCaption),
+          entered_(state.loads),
+          texts_(state.entries) {}
+
+    /// False when the watch has stopped it.
+    bool run() {
+        readSpeedNumbers();
+        if (letter_ != "C") state_.bearing.contactAngleDegrees = 30.0;
+        for (std::size_t pass = 0; pass < kSections.size(); ++pass) {
+            if (!walk(pass)) return false;
+        }
+        return true;
+    }
+
+  private:
+    void readSpeedNumbers() {
+        CatalogueTable table(folder_, "SPEED" + letter_ + ".csv");
+        const std::string key = letter_ == "A" ? "R" : "P";
+        for (;;) {
+            std::string found;
+            if (letter_ == "X") readBlock(table, found, speeds_.thrust);
+            readBlock(table, found, speeds_.other);
+            if (found == key) return;
+        }
+    }
+
+    static void readBlock(CatalogueTable& table, std::string& key, std::array<Single, 4>& numbers) {
+        table.NextFields(key);
+        table.skipFields(23);
+        table.NextFields(numbers);
+        table.skipFields(20);
+    }
+
+    bool walk(std::size_t pass) {
+        const Section& section = kSections[pass];
+        state_.bearing.ballDiameter = section.ballDiameter;
+        state_.bearing.raceRadius = section.raceRadius;
+        CatalogueTable table(folder_, section.prefix + letter_ + ".CSV");
+        table.skipFields(10);
+        Single height;
+        table.NextFields(height);
+        table.skipFields(9);
+        rowHeight_ = height / kMillimetresPerInch;
+        while (!table.AtEnd()) {
+            const SectionRow row = readRow(table);
+            const double done = (static_cast<double>(pass) + table.partRead()) / kSections.size();
+            if (!watch_.goOn(done)) return false;
+            if (!fits(row)) continue;
+            takeRow(row);
+        }
+        return true;
+    }
+
+    static SectionRow readRow(CatalogueTable& table) {
+        SectionRow row;
+        Single bore, outsideDiameter;
+        table.NextFields(row.name, row.stockCode, bore, outsideDiameter);
+        table.skipFields(4);
+        table.NextFields(row.speedIndex, row.ballCount);
+        row.bore = bore / kMillimetresPerInch;
+        row.outsideDiameter = outsideDiameter / kMillimetresPerInch;
+        return row;
+    }
+
+    bool fits(const SectionRow& row) const {
+        const SearchCriteria& sizes = state_.criteria;
+        if (row.bore < sizes.minBore || row.outsideDiameter > sizes.maxOd) return false;
+        if (letter_ != "A") return rowHeight_ >= sizes.minHeight && rowHeight_ <= sizes.maxHeight;
+        // Two rows must fit in the band; spacers take up what is left of it.
+        const bool lowEnough = rowHeight_ <= sizes.maxHeight / 2.0;
+        return hasSpacers(caption_) ? lowEnough : lowEnough && rowHeight_ >= sizes.minHeight / 2.0;
+    }
+
+    void takeRow(const SectionRow& row) {
+        BearingSpec& bearing = state_.bearing;
+        bearing.bore = row.bore;
+        bearing.outsideDiameter = row.outsideDiameter;
+        bearing.pitchDiameter = Single(row.outsideDiameter + row.bore) / 2.0;
+        bearing.ballCount = row.ballCount;
+        if (state_.search.rows.size() >= static_cast<std::size_t>(kMostHits)) raise(fault::kSubscript);
+
+        SearchHit hit;
+        describe(row, hit);
+        const Single spacing = letter_ == "A" ? prepareSet(row, hit) : prepareSingle(row, hit);
+        solve(hit.name, spacing);
+        rate(row, hit);
+        state_.search.rows.push_back(hit);
+        state_.search.hitCount = static_cast<int>(state_.search.rows.size()) + 1;
+    }
+
+    void describe(const SectionRow& row, SearchHit& hit) const {
+        const UnitMode& units = state_.units;
+        hit.boreText = FormatNumber(row.bore * units.lengthFactor, units.lengthPicture);
+        hit.odText = FormatNumber(row.outsideDiameter * units.lengthFactor, units.lengthPicture);
+        switch (row.stockCode) {
+            case 0:
+                hit.stock = "NO  ";
+                break;
+            case 1:
+                hit.stock = "YES ";
+                break;
+            case 2:
+                hit.stock = "CALL";
+                break;
+            default:
+                break;
+        }
+    }
+
+    /// Gives the spacing.
+    Single prepareSingle(const SectionRow& row, SearchHit& hit) {
+        const UnitMode& units = state_.units;
+        hit.name = row.name;
+        hit.heightText = FormatNumber(rowHeight_ * units.lengthFactor, units.lengthPicture);
+        state_.bearing.momentArm = state_.bearing.pitchDiameter;
+        if (const auto mean = clearances_.meanFor(row.bore)) state_.bearing.meanClearance = *mean;
+        return 0.0;
+    }
+
+    /// Gives the spacing of the two rows.
+    Single prepareSet(const SectionRow& row, SearchHit& hit) {
+        const UnitMode& units = state_.units;
+        const bool spacers = hasSpacers(caption_);
+        const bool backToBack = caption_.starts_with("BACK");
+        const double height = rowHeight_;
+        const Single spacerSpan = spacers ? state_.criteria.maxHeight - height : height;
+        const double shownHeight =
+            spacers ? double{state_.criteria.maxHeightDisplay} : 2.0 * height * units.lengthFactor;
+        hit.heightText = FormatNumber(shownHeight, units.lengthPicture);
+        hit.name = row.name.substr(0, 6) + (backToBack ? "BR0A" : "FR0A");
+        if (spacers) {
+            const double width = (spacerSpan - rowHeight_) * units.lengthFactor;
+            hit.name += " W/ " + FormatNumber(width, units.lengthPicture) + " spacers";
+        }
+        const double offset = spacerSpan / kTangent;
+        const double pitch = state_.bearing.pitchDiameter;
+        if (backToBack) {
+            state_.bearing.momentArm = pitch + offset;
+        } else if (pitch != offset) {
+            state_.bearing.momentArm = std::fabs(pitch - offset);
+        }
+        state_.bearing.meanClearance = kSetClearance;
+        return std::fabs(spacerSpan);
+    }
+
+    /// Each row is a solve of its own: one that is given up or unstable has the life 0 and leaves the loads
+    /// alone.
+    void solve(const std::string& name, Single spacing) {
+        const BearingSpec& bearing = state_.bearing;
+        const SolveArguments arguments{letter_ == "A" ? name.substr(0, 10) : name,
+                                       bearing.pitchDiameter,
+                                       bearing.ballDiameter,
+                                       bearing.ballCount,
+                                       bearing.raceRadius,
+                                       spacing,
+                                       bearing.meanClearance,
+                                       30.0,
+                                       state_.loads.radialLoad,
+                                       state_.loads.axialLoad,
+                                       state_.loads.momentLoad};
+        state_.solver.SolveAborted = false;
+        state_.life.l10Revolutions = 0.0;
+        if (letter_ == "C") {
+            state_.life.l10Revolutions = SolveRadialRow(state_, arguments, messages_).lifeRevolutions;
+        } else if (const auto result = SolveCoupledRows(state_, arguments, messages_)) {
+            state_.life.l10Revolutions = result->lifeRevolutions;
+        }
+        state_.loads = entered_;
+        state_.entries = texts_;
+    }
+
+    void rate(const SectionRow& row, SearchHit& hit) {
+        LifeResult& life = state_.life;
+        const bool noLife = state_.solver.SolveAborted || (letter_ == "A" && life.l10Revolutions == 0.0);
+        if (!noLife) {
+            state_.bearing.loadPercent = divide(100.0, power(life.l10Revolutions / 1000000.0, kOneThird));
+        }
+        if (state_.loads.speed > 0.0) life.l10Hours = life.l10Revolutions / (state_.loads.speed * 60.0);
+        state_.bearing.speedFactor = loadLevelFactor(state_.bearing.loadPercent);
+        const double number = speedNumber(row.speedIndex);
+        hit.speedLimit =
+            plainText(Int(divide(state_.bearing.speedFactor * number * 1000.0, state_.bearing.bore)));
+        hit.l10Revolutions = plainText(Single(Int(life.l10Revolutions)));
+        hit.l10Hours = plainText(Single(Int(life.l10Hours)));
+    }
+
+    double speedNumber(int column) const {
+        if (column < 1 || column > 4) raise(fault::kSubscript);
+        const LoadCase& loads = state_.loads;
+        const bool pureThrust = loads.axialLoad != 0.0 && loads.radialLoad == 0.0 && loads.momentLoad == 0.0;
+        const auto& numbers = letter_ == "X" && pureThrust ? speeds_.thrust : speeds_.other;
+        return numbers[static_cast<std::size_t>(column) - 1];
+    }
+
+    ProgramState& state_;
+    const ProgramFolder& folder_;
+    OneTimeMessages messages_;
+    SearchWatch& watch_;
+    ClearanceTable clearances_;
+    const std::string letter_, caption_;
+    const LoadCase entered_;
+    const EntryTexts texts_;
+    SpeedNumbers speeds_;
+    Single rowHeight_;
+};
+
+void forgetRows(SearchResults& results) {
+    results.rows.clear();
+    results.hitCount = 1;
+    results.sorted = false;
+}
+
+}  // namespace
+
+SearchEnd RunBearingSearch(ProgramState& state, const ProgramFolder& folder, MessagePort& messages,
+                           SearchWatch& watch) {
+    forgetRows(state.search);
+    try {
+        if (!Search(state, folder, messages, watch).run()) {
+            forgetRows(state.search);
+            return SearchEnd::Stopped;
+        }
+    } catch (...) {
+        forgetRows(state.search);
+        throw;
+    }
+    if (!state.search.rows.empty()) return SearchEnd::Found;
+    messages.show({"SEARCH PARAMETERS OUTSIDE OF SIZE RANGE",
+                   "SORRY, NO BEARINGS WERE FOUND WHICH MET THE SIZE REQUIREMENTS"});
+    state.search.noResultFlag = true;
+    state.sizesChosen = false;
+    return SearchEnd::NoneFound;
+}
+
+}  // namespace norlaplan

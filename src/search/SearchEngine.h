@@ -1,0 +1,34 @@
+#pragma once
+
+#include "state/Ports.h"
+#include "state/ProgramFolder.h"
+#include "state/ProgramState.h"
+
+namespace norlaplan {
+
+/// Looks on while a search runs: shows how far it is and may stop it.
+class SearchWatch {
+  public:
+    virtual ~SearchWatch() = default;
+    /// Called for every row read, with the part of the work that is done (0 to 1). False stops the search.
+    virtual bool goOn(double done) = 0;
+};
+
+/// The most rows that the results hold.
+constexpr int kMostHits = 300;
+
+enum class SearchEnd { Found, NoneFound, Stopped };
+
+/// Walks the three section tables of the chosen style, keeps what fits the envelope, runs each through the
+/// solver and fills the results. The state's bearing serves as working values on the way and is none
+/// afterwards: a chosen row is decoded again. Messages of the solver are shown once a search, its question is
+/// asked once.
+///
+/// With no row found the program's message is shown, the sizes count as not chosen, and `noResultFlag` is
+/// set. A stopped search and one that ends in a run-time error leave no rows. Errors: those of the tables
+/// (53, 62), 9 for a speed index outside 1 to 4 or a row beyond the 300th, 11 for a life of 0 where it
+/// divides.
+SearchEnd RunBearingSearch(ProgramState& state, const ProgramFolder& folder, MessagePort& messages,
+                           SearchWatch& watch);
+
+}  // namespace norlaplan
