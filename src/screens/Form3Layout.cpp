@@ -14,7 +14,8 @@
 namespace norlaplan {
 namespace {
 
-constexpr int kStepWidth = 360;
+constexpr int kStepWidth = 380;
+constexpr int kStepHeight = 42;
 
 /// A light panel for one path: its name, the mark that shows when the user has chosen it, its steps.
 struct PathPanel {
@@ -55,6 +56,7 @@ void addStep(QGridLayout& grid, int row, const QString& number, std::initializer
     for (QPushButton* const button : buttons) {
         button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         button->setMinimumWidth(kStepWidth / static_cast<int>(buttons.size()));
+        button->setMinimumHeight(kStepHeight);
         together->addWidget(button, 1);
     }
     grid.addLayout(together, row, 1);

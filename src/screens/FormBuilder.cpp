@@ -63,7 +63,9 @@ QGroupBox* frame(const char* name, const QString& caption) {
 }
 
 QLineEdit* edit(const char* name, const QString& tip, const QString& spoken) {
-    return named(new QLineEdit, name, tip, spoken);
+    QLineEdit* const control = named(new QLineEdit, name, tip, spoken);
+    control->setTextMargins(4, 0, 4, 0);
+    return control;
 }
 
 QComboBox* choice(const char* name, const QString& tip, const QString& spoken) {
