@@ -54,6 +54,7 @@ class Builder {
 
     CLI::App* command(CLI::App& parent, const char* name, const char* description, Run run) {
         CLI::App* const command = parent.add_subcommand(name, description);
+        command->fallthrough();
         command->callback([chosen = chosen_, arguments = arguments_, run] {
             *chosen = [arguments, run](Session& session) { return run(session, *arguments); };
         });
@@ -63,6 +64,7 @@ class Builder {
     void addReports() {
         CLI::App* const report = app_.add_subcommand("report", "A screen's report as a file");
         report->require_subcommand(1);
+        report->fallthrough();
         CLI::App* const life = command(*report, "life", "The load-life report", [](Session& s, Arguments& a) {
             return lifeReportCommand(s, a.number, a.loads, a.output);
         });

@@ -5,6 +5,7 @@
 #include "numbers/RuntimeError.h"
 #include "numbers/Text.h"
 #include "state/LoadEntry.h"
+#include "state/Patience.h"
 #include "state/Settings.h"
 
 namespace norlaplan::cli {
@@ -42,6 +43,8 @@ void Session::enter(const LoadOptions& loads) {
 }
 
 void Session::failWithLastMessage() {
+    // Nothing was shown: a question was answered No.
+    if (messages_.messages().empty()) throw NotConverging();
     const Message told = messages_.takeLast();
     throw CommandError(ErrorKind::Message, told.title, told.prompt);
 }

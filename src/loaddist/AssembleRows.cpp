@@ -100,16 +100,18 @@ Stiffness ballStiffness(const Contact& contact, int row, double A0, double R, do
     return k;
 }
 
+/// Row 2 pulls against row 1 along the axis, so its axial terms over the radial displacement and the tilt count
+/// negative: only so is the sum the derivative of the forces.
 void addStiffness(Matrix3& J, const Stiffness& a, const Stiffness& b, double c) {
     J[1][1] += a.k11 + b.k11;
     J[1][2] += a.k12 - b.k12;
-    J[1][3] += a.k13 + b.k13;
+    J[1][3] += a.k13 - b.k13;
     J[2][1] += a.k21 - b.k21;
     J[2][2] += a.k22 + b.k22;
     J[2][3] += a.k23 + b.k23;
     J[3][1] += c * a.k11 + c * b.k11;
     J[3][2] += c * a.k12 - c * b.k12;
-    J[3][3] += c * a.k13 + c * b.k13;
+    J[3][3] += c * a.k13 - c * b.k13;
 }
 
 }  // namespace

@@ -16,8 +16,9 @@ KEY_COLUMNS = 24
 
 
 def text_of(value):
-    """A cell: numbers in their shortest form that holds seven digits, texts as they are."""
-    return f"{value:.7g}" if isinstance(value, float) else str(value)
+    """A cell: numbers in their shortest form that holds seven digits; a text with a comma stands in quotes."""
+    text = f"{value:.7g}" if isinstance(value, float) else str(value)
+    return f'"{text}"' if "," in text else text
 
 
 def write(folder, name, rows):
