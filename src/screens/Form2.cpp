@@ -10,12 +10,6 @@
 #include "screens/Theme.h"
 
 namespace norlaplan {
-namespace {
-
-constexpr QSize kOpeningSize(760, 640);
-
-}  // namespace
-
 Form2::Form2(Screens& screens) : Form(screens, "Form2", "") {
     text_ = new RichTextBox;
     text_->setObjectName(QStringLiteral("RichTextBox1"));
@@ -39,10 +33,6 @@ void Form2::load(const std::string& file, const QString& title, const QString& c
 
 void Form2::activated() {
     text_->setFocus();
-}
-
-void Form2::fitToScreen(const QRect& room) {
-    if (!isVisible()) resize(kOpeningSize.boundedTo(room.size()));
 }
 
 bool Form2::eventFilter(QObject* watched, QEvent* event) {

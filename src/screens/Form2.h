@@ -18,7 +18,7 @@ class Form2 : public Form {
     void load(const std::string& file, const QString& title, const QString& closeCaption);
 
     void activated() override;
-    void fitToScreen(const QRect& room) override;
+    QSize sizeHint() const override { return {760, 640}; }
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -148,6 +148,17 @@ class PartNumberTest : public QObject {
         QCOMPARE(entry.screens.form("Form9").focusWidget(), static_cast<QWidget*>(&entry.field()));
     }
 
+    void a_sheet_that_cannot_be_written_is_told_and_the_old_one_stands() {
+        Entry entry;
+        entry.files.write("DATA.RTF", "old");
+        std::filesystem::create_directory(entry.files.path() / "CONDENSED.DAT");
+        entry.type("K19013XP0");
+        entry.click("Form9", "Command1");
+        QCOMPARE(entry.lastMessage(), (Message{"Please contact Varden with 75", "Path/File access error"}));
+        QCOMPARE(entry.inFront(), std::string("Form3"));
+        QCOMPARE(entry.files.read("DATA.RTF"), std::string("old"));
+    }
+
     void the_explanation_opens_in_the_viewer_and_returns_here() {
         Entry entry;
         entry.click("Form9", "Command2");

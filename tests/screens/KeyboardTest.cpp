@@ -1,0 +1,112 @@
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <set>
+
+#include "screens/Program.h"
+
+using namespace norlaplan;
+using namespace norlaplan::testing;
+
+namespace {
+
+/// Every form, with a bearing decoded so that each one opens.
+struct Everything : Program {
+    Everything() {
+        state.unitSystem = "US";
+        ApplyUnitSystem("US", state.units);
+        state.options.faxCoverEnabled = state.options.nedGroveOption = state.options.tempFitsOption = true;
+        screens.show("Form3");
+        click("Form3", "Command8");
+        QTest::keyClicks(&control<QWidget>("Form9", "Text1"), "K19013XZ0");
+        click("Form9", "Option6");
+        click("Form9", "Command1");
+        screens.showAlone("Form3");
+    }
+};
+
+void formsAsRows() {
+    QTest::addColumn<QString>("form");
+    for (const char* const form : {"Form1", "Form2", "Form3", "Form6", "Form9", "Form17"})
+        QTest::newRow(form) << form;
+}
+
+}  // namespace
+
+class KeyboardTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void the_tab_key_reaches_every_control_data() { formsAsRows(); }
+    void the_tab_key_reaches_every_control() {
+        QFETCH(QString, form);
+        Everything program;
+        program.screens.show(form.toStdString());
+        Form& window = *program.screens.current();
+        QCOMPARE(window.objectName(), form);
+        QApplication::setActiveWindow(&window);
+
+        std::set<QWidget*> reached;
+        for (int i = 0; i < 60; ++i) {
+            QTest::keyClick(&window, Qt::Key_Tab);
+            reached.insert(window.focusWidget());
+        }
+        // Of the options of one group the Tab key reaches the marked one; the arrow keys do the rest.
+        for (auto* const button : window.findChildren<QAbstractButton*>()) {
+            if (button->isVisible() && !button->autoExclusive())
+                QVERIFY2(reached.contains(button), qPrintable(button->objectName()));
+        }
+        for (auto* const field : window.findChildren<QLineEdit*>())
+            QVERIFY2(!field->isVisible() || reached.contains(field), qPrintable(field->objectName()));
+    }
+
+    void every_control_has_a_name_and_says_what_it_is_data() { formsAsRows(); }
+    void every_control_has_a_name_and_says_what_it_is() {
+        QFETCH(QString, form);
+        Everything program;
+        Form& window = program.screens.form(form.toStdString());
+        for (auto* const button : window.findChildren<QAbstractButton*>()) {
+            if (button->objectName().startsWith("qt_")) continue;
+            QVERIFY(!button->objectName().isEmpty());
+            QVERIFY2(!button->accessibleName().isEmpty(), qPrintable(button->objectName()));
+        }
+        for (auto* const field : window.findChildren<QLineEdit*>())
+            QVERIFY2(!field->accessibleName().isEmpty(), qPrintable(field->objectName()));
+    }
+
+    void the_whole_way_to_the_data_sheet_goes_by_keyboard() {
+        Program program;
+        ShowStartScreen(program.screens);
+        const auto press = [&](const char* button) {
+            Form& window = *program.screens.current();
+            QApplication::setActiveWindow(&window);
+            for (int i = 0;
+                 i < 60 && (window.focusWidget() == nullptr || window.focusWidget()->objectName() != button);
+                 ++i)
+                QTest::keyClick(&window, Qt::Key_Tab);
+            QCOMPARE(window.focusWidget()->objectName(), QString(button));
+            QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+        };
+        press("Command1");
+        QCOMPARE(program.inFront(), std::string("Form3"));
+        press("Command8");
+        QCOMPARE(program.inFront(), std::string("Form9"));
+        QWidget* const entry = program.screens.current()->focusWidget();
+        QTest::keyClicks(entry, "K19013XP0");
+        QTest::keyClick(entry, Qt::Key_Return);
+        QCOMPARE(program.inFront(), std::string("Form3"));
+        press("Command9");
+        QCOMPARE(program.inFront(), std::string("Form17"));
+        auto& bar = program.control<QScrollBar>("Form17", "VScroll1");
+        QTest::keyClick(&bar, Qt::Key_PageDown);
+        QVERIFY(bar.value() > 0);
+        press("Command4");
+        QCOMPARE(program.printer.documents.size(), std::size_t{1});
+        press("Command1");
+        QCOMPARE(program.inFront(), std::string("Form3"));
+        QVERIFY(program.messages.shown.empty());
+    }
+};
+
+QTEST_MAIN(KeyboardTest)
+#include "KeyboardTest.moc"
