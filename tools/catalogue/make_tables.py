@@ -1,82 +1,119 @@
 #!/usr/bin/env python3
-"""Makes the sample catalogue: all tables of the data folder.
+"""Makes the sample catalogue: all the tables of the data folder.
 
-usage: make_tables.py [FOLDER]     default: data/Data Tables of this tree
+usage: make_tables.py [FOLDER]    default: data/Data Tables of this tree
+
+The same call always writes the same bytes. docs/catalogue-tables.md tells
+what each column means.
 """
 
 import sys
 from pathlib import Path
 
-import limits
+import separators
 import series
+import tolerances
 
-DEFAULT_FOLDER = Path(__file__).resolve().parents[2] / "data" / "Data Tables"
-STANDARD_SEPARATOR = {"A": "R", "C": "P", "X": "P"}
-KEY_COLUMNS = 24
+DEFAULT_FOLDER = (Path(__file__).resolve().parents[2]
+                  / "data" / "Data Tables")
+KEY_FIELDS = 24
+STYLES = ("C", "A", "X")
 
 
-def text_of(value):
-    """A cell: numbers in their shortest form that holds seven digits; a text with a comma stands in quotes."""
-    text = f"{value:.7g}" if isinstance(value, float) else str(value)
+def cell(value):
+    """One field; a text that holds a comma goes into quotes."""
+    text = str(value)
     return f'"{text}"' if "," in text else text
 
 
-def write(folder, name, rows):
-    lines = (",".join(text_of(cell) for cell in row) for row in rows)
-    (folder / name).write_bytes("".join(line + "\r\n" for line in lines).encode("cp1252"))
+def padded(fields, width):
+    """The fields, filled up with empty ones: readers count fields."""
+    return [*fields, *[""] * (width - len(fields))]
+
+
+def millimetres(value):
+    """A length in mm or a mass in kg without trailing zeros."""
+    return f"{round(value, 4):.7g}"
 
 
 def section_rows(section, family):
-    yield [series.FILLET[section], "fillet radius mm"] + [""] * 8
-    yield [float(section), "height mm", "bore mm", "od mm", "ref 1 mm", "ref 2 mm", "ref 3 mm", "mass kg",
-           "speed column", "balls"]
+    """Rows of a cross-section table, two head rows included."""
+    yield padded([series.FILLET[section], "fillet radius mm"], 10)
+    yield [section, "height mm", "bore mm", "od mm", "ref 1 mm",
+           "ref 2 mm", "ref 3 mm", "mass kg", "speed column", "balls"]
     for bore in series.BORES[section]:
-        name = f"K{bore:03d}{section:02d}{family}{STANDARD_SEPARATOR[family]}0"
-        references = [round(d, 4) for d in series.reference_diameters(section, family, bore)]
-        yield [name, series.stock_code(section, family, bore), bore, series.outside_diameter(section, bore),
-               *references, round(series.mass(section, family, bore), 4), series.speed_index(bore),
-               series.ball_count(section, family, bore)]
+        size = (section, family, bore)
+        yield [series.row_name(*size),
+               series.stock_code(section, bore),
+               bore, series.outside_diameter(section, bore),
+               *map(millimetres, series.reference_diameters(*size)),
+               millimetres(series.mass(*size)),
+               series.speed_index(bore), series.ball_count(*size)]
 
 
 def precision_rows(code):
-    yield ["bore mm", "bore tol", "od tol", "inner radial runout", "inner axial runout", "outer radial runout",
-           "outer axial runout", "clearance low", "clearance high", "width tol"]
+    """Rows of a precision table, one for every bore of the catalogue."""
+    yield ["bore mm", "bore tol", "od tol", "inner radial runout",
+           "inner axial runout", "outer radial runout",
+           "outer axial runout", "clearance low", "clearance high",
+           "width tol"]
     for bore in series.all_bores():
-        yield [bore, *(f"{value:.5f}" for value in limits.tolerances(bore, code))]
+        values = tolerances.precision_values(bore, code)
+        yield [bore, *(f"{value:.5f}" for value in values)]
 
 
 def coating_rows(code):
+    """Rows of a coating table, one for every bore of the catalogue."""
     yield ["bore mm", "bore addition", "bore tol", "od addition", "od tol"]
     for bore in series.all_bores():
-        yield [bore, *(f"{value:.5f}" for value in limits.coating(bore, code))]
+        values = tolerances.coating_values(bore, code)
+        yield [bore, *(f"{value:.5f}" for value in values)]
 
 
-def speed_block(style, separator, thrust):
-    head = [separator, "thrust" if thrust else "load"] + [""] * (KEY_COLUMNS - 2)
-    return head + [f"{value:.3f}" for value in limits.speed_numbers(style, separator, thrust)]
+def fit_rows():
+    """Rows of the fit table."""
+    for letter, low, high, kind in tolerances.fits():
+        yield [letter, f"{low:.4f}", f"{high:.4f}", kind]
+
+
+def speed_block(style, code, thrust):
+    """Key, label, empty fields up to the 24th, then the 24 numbers."""
+    head = padded([code, "thrust" if thrust else "load"], KEY_FIELDS)
+    numbers = separators.speed_numbers(style, code, thrust)
+    return head + [f"{number:.3f}" for number in numbers]
 
 
 def speed_rows(style):
-    for separator in limits.SPEED_SEPARATORS[style]:
-        blocks = (True, False) if style == "X" else (False,)
-        yield [cell for thrust in blocks for cell in speed_block(style, separator, thrust)]
+    """Rows of a speed table; four-point rows have two blocks."""
+    for code in separators.SPEED_SHARE:
+        row = speed_block(style, code, thrust=False)
+        if style == "X":
+            row = speed_block(style, code, thrust=True) + row
+        yield row
+
+
+def tables():
+    """Every table of the catalogue: pairs of file name and rows."""
+    for section in series.SECTIONS:
+        for family in series.FAMILIES:
+            yield f"{section}-{family}.csv", section_rows(section, family)
+    for code in tolerances.PRECISIONS:
+        yield f"CLS{code}.csv", precision_rows(code)
+    for code in tolerances.COATINGS:
+        yield f"CLS{code}N.csv", coating_rows(code)
+    for family, rows in separators.SEPARATORS.items():
+        yield f"{family}SEPARATOR.CSV", rows
+    yield "Fitnumber.doc", fit_rows()
+    for style in STYLES:
+        yield f"SPEED{style}.CSV", speed_rows(style)
 
 
 def make(folder):
+    """Writes every table into the folder, which is made when missing."""
     folder.mkdir(parents=True, exist_ok=True)
-    for section in series.SECTIONS:
-        for family in series.FAMILIES:
-            write(folder, f"{section}-{family}.csv", section_rows(section, family))
-    for code in limits.PRECISIONS:
-        write(folder, f"CLS{code}.csv", precision_rows(code))
-    for code in limits.COATINGS:
-        write(folder, f"CLS{code}N.csv", coating_rows(code))
-    for family in ("A", "X"):
-        write(folder, f"{family}SEPARATOR.CSV", limits.SEPARATORS[family])
-    write(folder, "Fitnumber.doc", ((letter, f"{low:.4f}", f"{high:.4f}", kind)
-                                    for letter, low, high, kind in limits.fits()))
-    for style in limits.SPEED_SEPARATORS:
-        write(folder, f"SPEED{style}.CSV", speed_rows(style))
+    for name, rows in tables():
+        lines = (",".join(map(cell, row)) + "\r\n" for row in rows)
+        (folder / name).write_bytes("".join(lines).encode("cp1252"))
 
 
 if __name__ == "__main__":
