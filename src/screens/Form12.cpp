@@ -1,0 +1,97 @@
+#include "screens/Form12.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include "screens/FormBuilder.h"
+#include "screens/NumberField.h"
+#include "screens/Picture.h"
+#include "screens/Screens.h"
+#include "screens/Theme.h"
+#include "state/SizeEntry.h"
+#include "state/StyleTable.h"
+
+namespace norlaplan {
+
+Form12::Form12(Screens& screens) : Form(screens, "Form12", "Bearing Size Selection") {
+    for (std::size_t i = 0; i < labels_.size(); ++i) {
+        labels_[i] =
+            build::label(QByteArray("Label" + QByteArray::number(static_cast<int>(i) + 1)).constData());
+    }
+    EntryTexts& texts = state().entries;
+    minBore_ = new NumberField("Text1", "The bearing's bore is at least this", texts.minBore);
+    maxOd_ = new NumberField("Text2", "The bearing's outer diameter is at most this", texts.maxOd);
+    minHeight_ = new NumberField("Text3", "The bearing or set is at least this high", texts.minHeight);
+    maxHeight_ = new NumberField("Text4", "The bearing or set is at most this high", texts.maxHeight);
+    picture_ = new Picture("Picture1", "Bore, outer diameter and height of the chosen style", {480, 320});
+    previous_ = build::button("Command1", "<< &Previous", "Go back to style selection");
+    proceed_ = build::button("Command2", "Proceed to load input");
+    mainMenu_ = build::button("Command3", "&Main Menu", "Return to Main Menu");
+
+    enterMovesTo(*minBore_, [this] { return maxOd_; });
+    enterMovesTo(*maxOd_, [this] { return maxHeight_; });
+    enterMovesTo(*maxHeight_, [this] { return minHeight_; });
+    enterMovesTo(*minHeight_, [this]() -> QWidget* { return proceed_; });
+    on(previous_, &QPushButton::clicked, "Previous", [this] { goToPrevious(); });
+    on(proceed_, &QPushButton::clicked, "Proceed to load input", [this] { proceed(); });
+    on(mainMenu_, &QPushButton::clicked, "Main Menu", [this] { this->screens().showAlone("Form3"); });
+
+    auto* const grid = theme::spaced(new QGridLayout, 0);
+    const std::array<NumberField*, 4> fields = {minBore_, maxOd_, maxHeight_, minHeight_};
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        grid->addWidget(labels_[i], static_cast<int>(i), 0);
+        grid->addWidget(fields[i], static_cast<int>(i), 1);
+    }
+    auto* const buttons = theme::spaced(new QHBoxLayout, 0);
+    buttons->addWidget(mainMenu_);
+    buttons->addStretch();
+    buttons->addWidget(previous_);
+    buttons->addWidget(proceed_);
+    auto* const page = theme::spaced(new QVBoxLayout(this));
+    page->addWidget(picture_, 1);
+    page->addLayout(grid);
+    page->addLayout(buttons);
+}
+
+void Form12::activated() {
+    showSizesAgain(state());
+    refresh();
+    minBore_->setFocus();
+    minBore_->selectAll();
+}
+
+void Form12::refresh() {
+    const QString unit = state().unitSystem == "METRIC" ? " (mm)" : " (in)";
+    const std::array<const char*, 4> captions = {"MINIMUM BORE", "MAXIMUM OUTER DIAMETER", "MAX. HEIGHT",
+                                                 "MIN. HEIGHT"};
+    const std::array<NumberField*, 4> fields = {minBore_, maxOd_, maxHeight_, minHeight_};
+    for (std::size_t i = 0; i < labels_.size(); ++i) {
+        labels_[i]->setText(QString::fromUtf8(captions[i]) + unit);
+        build::buddy(*labels_[i], *fields[i]);
+        fields[i]->refresh();
+    }
+    const std::string& caption = state().style.searchStyleCaption;
+    setWindowTitle("BEARING SIZE SELECTION FOR " + QString::fromStdString(caption));
+    if (const StyleRow* const style = styleByCaption(caption)) {
+        picture_->showFile(services().folder, stylePicture(*style, 'S'));
+    }
+}
+
+void Form12::goToPrevious() {
+    screens().hide(*this);
+    screens().show("Form16");
+}
+
+void Form12::proceed() {
+    if (const auto message = enterSizes(state())) {
+        services().messages.show(*message);
+        return;
+    }
+    refresh();
+    screens().hide(*this);
+    screens().show("Form14");
+}
+
+}  // namespace norlaplan

@@ -1,0 +1,122 @@
+#include "screens/Form14.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include "screens/FormBuilder.h"
+#include "screens/NumberField.h"
+#include "screens/Picture.h"
+#include "screens/Screens.h"
+#include "screens/Theme.h"
+#include "state/LoadEntry.h"
+#include "state/StyleTable.h"
+
+namespace norlaplan {
+
+Form14::Form14(Screens& screens) : Form(screens, "Form14", "Bearing Load Input") {
+    EntryTexts& texts = state().entries;
+    radialLabel_ = build::label("Label1");
+    axialLabel_ = build::label("Label2");
+    momentLabel_ = build::label("Label3");
+    speedLabel_ = build::label("Label4", "SPEED (RPM)");
+    radial_ = new NumberField("Text1", "Load across the axis", texts.radial);
+    axial_ = new NumberField("Text2", "Load along the axis", texts.axial);
+    moment_ = new NumberField("Text3", "Overturning moment", texts.moment);
+    speed_ = new NumberField("Text4", "Speed of the rotating ring; leave it empty for none", texts.speed);
+    picture_ = new Picture("Picture1", "Directions of the loads on the bearing", {480, 320});
+    proceed_ = build::button("Command1", "Proceed to life calculation");
+    previous_ = build::button("Command2", "<< &Previous", "Return to size determination");
+    mainMenu_ = build::button("Command3", "&Main Menu", "Return to Main Menu");
+
+    enterMovesTo(*radial_, [this]() -> QWidget* { return isRadialContact(state()) ? speed_ : axial_; });
+    enterMovesTo(*axial_, [this] { return moment_; });
+    enterMovesTo(*moment_, [this]() -> QWidget* {
+        return speed_->isEnabled() ? static_cast<QWidget*>(speed_) : proceed_;
+    });
+    enterMovesTo(*speed_, [this]() -> QWidget* { return proceed_; });
+    on(proceed_, &QPushButton::clicked, "Proceed to life calculation", [this] { proceed(); });
+    on(previous_, &QPushButton::clicked, "Previous", [this] { goToPrevious(); });
+    on(mainMenu_, &QPushButton::clicked, "Main Menu", [this] { goToMainMenu(); });
+    layOut();
+}
+
+void Form14::layOut() {
+    auto* const grid = theme::spaced(new QGridLayout, 0);
+    int row = 0;
+    for (const auto& [label, field] : {std::pair{radialLabel_, radial_}, std::pair{axialLabel_, axial_},
+                                       std::pair{momentLabel_, moment_}, std::pair{speedLabel_, speed_}}) {
+        grid->addWidget(label, row, 0);
+        grid->addWidget(field, row, 1);
+        ++row;
+    }
+    auto* const buttons = theme::spaced(new QHBoxLayout, 0);
+    buttons->addWidget(mainMenu_);
+    buttons->addStretch();
+    buttons->addWidget(previous_);
+    buttons->addWidget(proceed_);
+    auto* const page = theme::spaced(new QVBoxLayout(this));
+    page->addWidget(picture_, 1);
+    page->addLayout(grid);
+    page->addLayout(buttons);
+}
+
+void Form14::activated() {
+    prepareLoadEntry(state());
+    refresh();
+    radial_->setFocus();
+    radial_->selectAll();
+}
+
+void Form14::refresh() {
+    const ProgramState& now = state();
+    const bool metric = now.unitSystem == "METRIC";
+    radialLabel_->setText(metric ? "RADIAL (N)" : "RADIAL (lbs)");
+    axialLabel_->setText(metric ? "AXIAL (N)" : "AXIAL (lbs)");
+    momentLabel_->setText(metric ? "MOMENT (N-M)" : "MOMENT (in-lbs)");
+    build::buddy(*radialLabel_, *radial_);
+    build::buddy(*axialLabel_, *axial_);
+    build::buddy(*momentLabel_, *moment_);
+    build::buddy(*speedLabel_, *speed_);
+    for (NumberField* const field : {radial_, axial_, moment_, speed_})
+        field->refresh();
+    speed_->setEnabled(takesSpeed(now));
+    previous_->setVisible(!now.knownBearingLoadInput);
+    const bool radialOnly = isRadialContact(now);
+    for (QWidget* const widget : {static_cast<QWidget*>(axialLabel_), static_cast<QWidget*>(axial_),
+                                  static_cast<QWidget*>(momentLabel_), static_cast<QWidget*>(moment_)}) {
+        widget->setVisible(!radialOnly);
+    }
+    setWindowTitle(QString::fromStdString("BEARING LOAD INPUT FOR " + now.style.searchStyleCaption + " " +
+                                          now.bearing.partNumber));
+    const StyleRow* style = styleByCaption(now.style.searchStyleCaption);
+    if (style == nullptr || now.knownBearingLoadInput) style = styleByLetter(now.bearing.styleLetter);
+    if (style != nullptr) picture_->showFile(services().folder, stylePicture(*style, 'L'));
+}
+
+bool Form14::enter() {
+    const auto message = enterLoads(state());
+    refresh();
+    if (message) services().messages.show(*message);
+    return !message.has_value();
+}
+
+void Form14::proceed() {
+    if (!enter()) return;
+    const bool known = state().knownBearingLoadInput;
+    screens().hide(*this);
+    screens().show(known ? "Form19" : "Form15");
+}
+
+void Form14::goToPrevious() {
+    screens().hide(*this);
+    screens().show("Form12");
+}
+
+void Form14::goToMainMenu() {
+    state().knownBearingLoadInput = false;
+    if (enter()) screens().showAlone("Form3");
+}
+
+}  // namespace norlaplan

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "screens/Form.h"
+
+class QComboBox;
+class QGroupBox;
+class QLabel;
+class QPushButton;
+class QTreeView;
+class QStandardItemModel;
+
+namespace norlaplan {
+
+class Picture;
+
+/// Life calculation results: the list of bearings that fit, and the one that is chosen.
+class Form15 : public Form {
+  public:
+    explicit Form15(Screens& screens);
+
+    void activated() override;
+
+  private:
+    QGroupBox* requirementsFrame();
+    QGroupBox* loadsFrame();
+    QGroupBox* styleFrame();
+    QGroupBox* resultsFrame();
+    QGroupBox* chosenFrame();
+    void layOut();
+    void connectActions();
+
+    void search();
+    void showRequirements();
+    /// Fills the list from the rows; freshly computed ones carry their over-speed marks.
+    void fillList(bool fresh);
+    void choose(int index);
+    void keepLow();
+    bool decodeChosen();
+
+    void goToMainMenu();
+    void goToPrevious();
+    void sort();
+    void showDataSheet();
+    void print();
+    void save();
+
+    QLabel *minBore_, *maxOd_, *minHeight_, *maxHeight_;
+    QLabel *radial_, *axial_, *moment_, *speed_;
+    QGroupBox *styleGroup_, *chosenGroup_;
+    Picture* picture_;
+    QComboBox* list_;
+    QTreeView* table_;
+    QStandardItemModel* rows_;
+    QLabel *chosenBore_, *chosenOd_, *chosenHeight_, *hint_;
+    QPushButton *mainMenu_, *previous_, *print_, *shortCut_, *sort_, *save_;
+};
+
+}  // namespace norlaplan

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <array>
+
+#include "screens/Form.h"
+
+class QLabel;
+class QPushButton;
+class QToolButton;
+
+namespace norlaplan {
+
+/// Bearing style selection: six pictures, of which one is chosen.
+class Form16 : public Form {
+  public:
+    explicit Form16(Screens& screens);
+
+    void activated() override;
+
+  private:
+    void chooseStyle(std::size_t row);
+    void proceed();
+    void goToMainMenu();
+    /// Sets what goes with a chosen style.
+    void takeStyle();
+    void refresh();
+
+    std::array<QToolButton*, 6> pictures_{};
+    QLabel* description_;
+    QPushButton* proceed_;
+    QPushButton* mainMenu_;
+};
+
+}  // namespace norlaplan

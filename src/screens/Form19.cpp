@@ -1,0 +1,300 @@
+#include "screens/Form19.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+
+#include "capacity/LoadLife.h"
+#include "documents/LoadLifeReport.h"
+#include "numbers/FormatNumber.h"
+#include "numbers/Text.h"
+#include "screens/BusyPointer.h"
+#include "screens/FormBuilder.h"
+#include "screens/Picture.h"
+#include "screens/SaveReport.h"
+#include "screens/Screens.h"
+#include "screens/Theme.h"
+#include "state/StyleTable.h"
+
+namespace norlaplan {
+namespace {
+
+constexpr int kWithinLimit = 2;
+
+QLabel* valueLabel(const char* name) {
+    QLabel* const label = build::label(name);
+    label->setFont(theme::valueFont());
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    return label;
+}
+
+QLabel* noteLabel(const char* name, const char* text) {
+    QLabel* const label = build::label(name, QString::fromUtf8(text));
+    label->setWordWrap(true);
+    return label;
+}
+
+QString text(const std::string& utf8) {
+    return QString::fromStdString(utf8);
+}
+
+const char* frameCaption(const std::string& style) {
+    if (style == "C") return "Radial Contact";
+    if (style == "X") return "Four-Point Contact";
+    if (style == "B") return "Back-to-Back Duplex";
+    return style == "F" ? "Face-to-Face Duplex" : "BEARING STYLE";
+}
+
+}  // namespace
+
+Form19::Form19(Screens& screens) : Form(screens, "Form19", "Load Life Calculation for") {
+    layOut();
+    connectActions();
+}
+
+QGroupBox* Form19::sizeFrame() {
+    QGroupBox* const frame = build::frame("Frame1", "SIZE");
+    auto* const column = theme::spaced(new QVBoxLayout(frame));
+    for (QLabel* const label :
+         {bore_ = valueLabel("Label1"), od_ = valueLabel("Label2"), height_ = valueLabel("Label3")}) {
+        column->addWidget(label);
+    }
+    column->addStretch();
+    return frame;
+}
+
+QGroupBox* Form19::loadFrame() {
+    QGroupBox* const frame = build::frame("Frame2", "LOADS");
+    auto* const column = theme::spaced(new QVBoxLayout(frame));
+    for (QLabel* const label : {radial_ = valueLabel("Label4"), axial_ = valueLabel("Label5"),
+                               moment_ = valueLabel("Label6"), speed_ = valueLabel("Label7")}) {
+        column->addWidget(label);
+    }
+    column->addStretch();
+    return frame;
+}
+
+QGroupBox* Form19::styleFrame() {
+    styleGroup_ = build::frame("Frame3", "BEARING STYLE");
+    stylePicture_ = new Picture("Image1", "Section of the bearing's style", {180, 120});
+    loadSketch_ = new Picture("Picture1", "Directions of the loads", {240, 160});
+    auto* const row = theme::spaced(new QHBoxLayout(styleGroup_));
+    row->addWidget(stylePicture_, 3);
+    row->addWidget(loadSketch_, 4);
+    return styleGroup_;
+}
+
+QGroupBox* Form19::resultFrame() {
+    QGroupBox* const frame = build::frame("Frame4", "LOAD AND LIFE RESULTS");
+    auto* const column = theme::spaced(new QVBoxLayout(frame));
+    for (QLabel* const label : {life_ = valueLabel("Label8"), hours_ = valueLabel("Label9"),
+                               safety_ = valueLabel("Label10"), torque_ = valueLabel("Label13")}) {
+        QFont font = label->font();
+        font.setBold(true);
+        label->setFont(font);
+        column->addWidget(label);
+    }
+    return frame;
+}
+
+QGroupBox* Form19::commentFrame() {
+    QGroupBox* const frame = build::frame("Frame5", "COMMENTS");
+    verdict_ = build::label("Label11");
+    verdict_->setWordWrap(true);
+    auto* const column = theme::spaced(new QVBoxLayout(frame));
+    column->addWidget(verdict_);
+    column->addWidget(
+        noteLabel("Label12",
+                  "The STATIC SAFETY FACTOR is based on non-detrimental permanent deformation, and the "
+                  "assumption that the inner and outer bearing races are radially restrained by a rigid "
+                  "shaft and housing."));
+    column->addWidget(
+        noteLabel("Label14",
+                  "Starting Torque is based on typical aplications.  Actual measurements may vary by 50% "
+                  "of the values listed.  If specific values are required, they must be noted before "
+                  "ordering."));
+    return frame;
+}
+
+QHBoxLayout* Form19::buttonRow() {
+    previous_ = build::button("Command1", "&Previous", "Return to load input");
+    mainMenu_ = build::button("Command2", "&Main Menu", "Return to Main Menu");
+    print_ = build::button("Command3", "P&rint", "Print results of calculations");
+    save_ = build::button("Command4", "&Save", "Save Results to file");
+    ballPlot_ = build::button("Command5", "Ball Load             Plot",
+                              "Option to see how loads are distributed around both rows of balls");
+    lubeFilm_ = build::button("Command6", "Lube Film          Check");
+    contactStress_ =
+        build::button("Command7", "Contact         Stress", "View path stress and contact angle");
+    analysis_ = build::button("Command8", "Show Sams Tlodestar Results");
+    // The blanks in these captions broke them into two lines; here each stands on one.
+    for (QPushButton* const button : {ballPlot_, lubeFilm_, contactStress_}) {
+        button->setText(button->text().simplified());
+    }
+    auto* const row = theme::spaced(new QHBoxLayout, 0);
+    row->addWidget(mainMenu_);
+    row->addWidget(previous_);
+    row->addStretch();
+    for (QPushButton* const button : {ballPlot_, lubeFilm_, contactStress_, analysis_, print_, save_}) {
+        row->addWidget(button);
+    }
+    return row;
+}
+
+void Form19::layOut() {
+    auto* const grid = theme::spaced(new QGridLayout, 0);
+    grid->addWidget(sizeFrame(), 0, 0);
+    grid->addWidget(loadFrame(), 0, 1);
+    grid->addWidget(styleFrame(), 0, 2);
+    grid->addWidget(resultFrame(), 1, 0, 1, 3);
+    grid->addWidget(commentFrame(), 2, 0, 1, 3);
+    grid->setColumnStretch(2, 1);
+    auto* const page = theme::spaced(new QVBoxLayout(this));
+    page->addLayout(grid, 1);
+    page->addLayout(buttonRow());
+}
+
+void Form19::connectActions() {
+    on(previous_, &QPushButton::clicked, "Previous", [this] { goToPrevious(); });
+    on(mainMenu_, &QPushButton::clicked, "Main Menu", [this] { goToMainMenu(); });
+    on(print_, &QPushButton::clicked, "Print", [this] { print(); });
+    on(save_, &QPushButton::clicked, "Save", [this] { save(); });
+    on(ballPlot_, &QPushButton::clicked, "Ball Load Plot", [this] { openSideScreen("tlodestarballloads"); });
+    on(lubeFilm_, &QPushButton::clicked, "Lube Film Check", [this] { openSideScreen("Form27"); });
+    on(contactStress_, &QPushButton::clicked, "Contact Stress", [this] { openSideScreen("form30"); });
+    on(analysis_, &QPushButton::clicked, "Show Sams Tlodestar Results",
+       [this] { openSideScreen("DataForm"); });
+}
+
+void Form19::activated() {
+    ProgramState& now = state();
+    if (now.returningFromSideScreen) {
+        now.returningFromSideScreen = false;
+        return;
+    }
+    now.knownBearingLoadInput = false;
+    showOptions();
+    showInputs();
+    showStyle();
+    clearResults();
+    const BusyPointer busy;
+    if (computeLoadLife(now, services().messages)) {
+        showResults();
+    } else if (now.solver.SolveAborted) {
+        leaveUnsolved();
+    }
+}
+
+void Form19::leaveUnsolved() {
+    state().solver.SolveAborted = false;
+    goToPrevious();
+}
+
+void Form19::showOptions() {
+    const Options& options = state().options;
+    ballPlot_->setVisible(options.ballShowOption);
+    lubeFilm_->setVisible(options.lubeFilmOption);
+    contactStress_->setVisible(options.pathStressOption && state().bearing.styleLetter != "C");
+    analysis_->setVisible(options.larsHofmannOption || options.samLundOption);
+}
+
+void Form19::showInputs() {
+    const ProgramState& now = state();
+    const UnitMode& units = now.units;
+    const auto length = [&](double inches) {
+        return FormatNumber(inches * units.lengthFactor, units.lengthPicture) + " " + units.lengthUnit;
+    };
+    const auto load = [&](double value, const std::string& unit) {
+        return FormatNumber(value, units.loadPicture) + " " + unit;
+    };
+    setWindowTitle(text("LOAD-LIFE CALCULATION FOR " + now.bearing.partNumber));
+    bore_->setText(text("BORE       = " + length(now.bearing.bore)));
+    od_->setText(text("O. D.      = " + length(now.bearing.outsideDiameter)));
+    height_->setText(text("HEIGHT     = " + length(now.bearing.height)));
+    radial_->setText(text("RADIAL = " + load(now.loads.radialLoadDisplay, units.loadUnitWord)));
+    axial_->setText(text("AXIAL  = " + load(now.loads.axialLoadDisplay, units.loadUnitWord)));
+    moment_->setText(text("MOMENT = " + load(now.loads.momentLoadDisplay, units.momentUnitWord)));
+    speed_->setText(text("SPEED =  " + plainText(now.loads.speed) + " RPM"));
+    speed_->setVisible(now.loads.speed != 0.0);
+}
+
+void Form19::showStyle() {
+    const std::string& letter = state().bearing.styleLetter;
+    styleGroup_->setTitle(QString::fromUtf8(frameCaption(letter)));
+    const StyleRow* const style = styleByLetter(letter);
+    if (style == nullptr) return;
+    stylePicture_->showFile(services().folder, stylePicture(*style, 'T'));
+    loadSketch_->showFile(services().folder, stylePicture(*style, 'L'));
+}
+
+void Form19::clearResults() {
+    for (QLabel* const label : {life_, hours_, safety_, torque_, verdict_})
+        label->clear();
+    verdict_->hide();
+    hours_->setVisible(state().loads.speed > 0.0);
+}
+
+void Form19::showResults() {
+    const ProgramState& now = state();
+    life_->setText(text(lifeLine(now)));
+    hours_->setText(text(hoursLine(now)));
+    safety_->setText(text(safetyLine(now)));
+    torque_->setText(text(torqueLine(now)));
+    if (now.loads.speed == 0.0) return;
+    const bool within = now.life.speedVerdictColor == kWithinLimit;
+    QFont font = verdict_->font();
+    font.setPointSizeF(within ? 9.0 : 10.0);
+    font.setBold(true);
+    verdict_->setFont(font);
+    QPalette colours = palette();
+    colours.setColor(QPalette::WindowText,
+                     within ? theme::goodColour(palette()) : theme::badColour(palette()));
+    verdict_->setPalette(colours);
+    verdict_->setText(text(now.life.speedVerdict));
+    verdict_->show();
+}
+
+void Form19::goToPrevious() {
+    state().knownBearingLoadInput = true;
+    screens().hide(*this);
+    screens().show("Form14");
+}
+
+void Form19::goToMainMenu() {
+    state().knownBearingLoadInput = false;
+    screens().showAlone("Form3");
+}
+
+void Form19::closed() {
+    goToMainMenu();
+}
+
+void Form19::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        run("Close", [this] { screens().hide(*this); });
+        return;
+    }
+    Form::keyPressEvent(event);
+}
+
+void Form19::openSideScreen(const char* name) {
+    // Only a screen that opens is one to come back from.
+    state().returningFromSideScreen = screens().knows(name);
+    screens().show(name);
+}
+
+void Form19::print() {
+    const Services& program = services();
+    program.printer.print("Load-life calculation for " + state().bearing.partNumber,
+                          [&](Canvas& canvas) { printLoadLife(state(), program.clock, canvas); });
+}
+
+void Form19::save() {
+    saveReport(services(), "Save Results As", state().bearing.partNumber + "-load.rtf",
+               [this] { return loadLifeRtf(state(), services().clock); });
+}
+
+}  // namespace norlaplan

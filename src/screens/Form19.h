@@ -1,0 +1,59 @@
+#pragma once
+
+#include "screens/Form.h"
+
+class QGroupBox;
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
+
+namespace norlaplan {
+
+class Picture;
+
+/// Load-life calculation: what the entered loads do to the current bearing.
+class Form19 : public Form {
+  public:
+    explicit Form19(Screens& screens);
+
+    void activated() override;
+    void closed() override;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    QGroupBox* sizeFrame();
+    QGroupBox* loadFrame();
+    QGroupBox* styleFrame();
+    QGroupBox* resultFrame();
+    QGroupBox* commentFrame();
+    QHBoxLayout* buttonRow();
+    void layOut();
+    void connectActions();
+
+    void showOptions();
+    void showInputs();
+    void showStyle();
+    void showResults();
+    void clearResults();
+    /// The solve was given up or unstable: the load screen comes back with its corrected loads.
+    void leaveUnsolved();
+
+    void goToPrevious();
+    void goToMainMenu();
+    void openSideScreen(const char* name);
+    void print();
+    void save();
+
+    QLabel *bore_, *od_, *height_;
+    QLabel *radial_, *axial_, *moment_, *speed_;
+    QGroupBox* styleGroup_;
+    Picture *stylePicture_, *loadSketch_;
+    QLabel *life_, *hours_, *safety_, *torque_;
+    QLabel* verdict_;
+    QPushButton *previous_, *mainMenu_, *print_, *save_;
+    QPushButton *ballPlot_, *lubeFilm_, *contactStress_, *analysis_;
+};
+
+}  // namespace norlaplan
