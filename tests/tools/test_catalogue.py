@@ -238,7 +238,7 @@ class TheFitTable(unittest.TestCase):
 
     def test_has_preloads_from_one_to_fifteen_ten_thousandths(self):
         # The graphs mark a limit only where it is a whole multiple of
-        # 0.0001 inch, and below about 0.00003 no preload solve starts.
+        # 0.0001 inch, and below 0.00005 some preload solves fail.
         for letter, low, high, _ in self.fits[10:25]:
             with self.subTest(letter):
                 for limit in (low, high):
