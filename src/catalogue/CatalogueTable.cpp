@@ -11,6 +11,8 @@ namespace norlaplan {
 namespace {
 
 constexpr int kEnd = -1;
+/// No text of a catalogue comes near this; what does isn't a table, and isn't worth the memory.
+constexpr std::size_t kLongestField = 65535;
 
 bool endsField(int c) {
     return c == kEnd || c == ',' || c == '\n' || c == '\r';
@@ -61,7 +63,7 @@ void CatalogueTable::readField(std::string& field) {
         readQuoted(field);
     } else {
         while (!endsField(peek()))
-            field += static_cast<char>(get());
+            keep(field);
     }
     endField();
 }
@@ -69,10 +71,15 @@ void CatalogueTable::readField(std::string& field) {
 void CatalogueTable::readQuoted(std::string& field) {
     get();
     while (peek() != '"' && peek() != kEnd)
-        field += static_cast<char>(get());
+        keep(field);
     // What stands between the closing quote and the field's end belongs to nothing.
     while (!endsField(peek()))
         get();
+}
+
+void CatalogueTable::keep(std::string& field) {
+    if (field.size() == kLongestField) raise(fault::kOverflow);
+    field += static_cast<char>(get());
 }
 
 void CatalogueTable::endField() {

@@ -17,7 +17,8 @@ namespace norlaplan {
 /// is what stands at the start of its field, 0 for none; an empty line is an empty field.
 ///
 /// The file is read piece by piece, whatever its size. Errors: 53 when the file or its folder is missing, 62
-/// past the end, 6 for a number that its target doesn't hold, 70 and 57 as the platform raises them.
+/// past the end, 6 for a number that its target doesn't hold and for a field of more than 65535 characters,
+/// 75 for a folder in the table's place, 70 and 57 as the platform raises them.
 class CatalogueTable {
   public:
     /// Opens "13-X.csv" and the like in the data folder; names are matched without regard to case.
@@ -52,6 +53,7 @@ class CatalogueTable {
     }
     void readField(std::string& field);
     void readQuoted(std::string& field);
+    void keep(std::string& field);
     void endField();
     /// The next character without taking it; -1 at the end.
     int peek();

@@ -6,6 +6,7 @@
 #include "catalogue/PartNumberChecks.h"
 #include "catalogue/SectionConstants.h"
 #include "documents/DataSheet.h"
+#include "numbers/Arithmetic.h"
 #include "numbers/FormatNumber.h"
 #include "numbers/RuntimeError.h"
 #include "state/Patience.h"
@@ -52,8 +53,9 @@ void setFitTexts(BearingSpec& bearing, const UnitMode& units, const ProgramFolde
         refuse("Please correct Part Number", "Unavailable fitup", Icon::Critical);
     }
     // These limits are divided by the length factor where every other length is multiplied by it.
-    bearing.fitRangeText = bearing.fitLetter + "= " + shown(bearing.fitLow / units.lengthFactor) + "-" +
-                           shown(bearing.fitHigh / units.lengthFactor) + " " + bearing.clearanceKind;
+    bearing.fitRangeText = bearing.fitLetter + "= " + shown(divide(bearing.fitLow, units.lengthFactor)) +
+                           "-" + shown(divide(bearing.fitHigh, units.lengthFactor)) + " " +
+                           bearing.clearanceKind;
     if (bearing.styleLetter == "F" || bearing.styleLetter == "B") bearing.fitRangeText += " (AXIAL)";
 }
 
