@@ -3,15 +3,18 @@
 #include <QTextEdit>
 #include <string>
 
+#include "help/RichDocument.h"
+
 namespace norlaplan {
 
-/// A read-only view of an RTF document.
+/// A read-only view of a formatted document, on white paper whatever the desktop's theme.
 class RichTextBox : public QTextEdit {
   public:
-    RichTextBox() { setReadOnly(true); }
+    RichTextBox();
 
-    /// Shows the document whose RTF text is given.
-    void showRtf(const std::string& rtf) { setPlainText(QString::fromStdString(rtf)); }
+    /// Shows the document whose RTF text is given; one sentence in its place when the text is no RTF.
+    void showRtf(const std::string& rtf);
+    void showDocument(const RichDocument& document);
 };
 
 }  // namespace norlaplan
