@@ -181,6 +181,7 @@ void Form19::activated() {
     showStyle();
     clearResults();
     const BusyPointer busy;
+    save_->setFocus();
     if (computeLoadLife(now, services().messages)) {
         showResults();
     } else if (now.solver.SolveAborted) {

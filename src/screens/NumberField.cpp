@@ -25,6 +25,8 @@ void NumberField::keyPressEvent(QKeyEvent* event) {
     const bool letter = typed.size() == 1 && typed[0].isPrint();
     if (letter && !command && !QStringLiteral("0123456789+-.,eE").contains(typed)) return;
     QLineEdit::keyPressEvent(event);
+    // Enter has moved on to the next control; it must not press that one as well.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) event->accept();
 }
 
 void enterMovesTo(QLineEdit& field, std::function<QWidget*()> next) {
