@@ -53,6 +53,9 @@ Form12::Form12(Screens& screens) : Form(screens, "Form12", "Bearing Size Selecti
     page->addWidget(picture_, 1);
     page->addLayout(grid);
     page->addLayout(buttons);
+    setTabOrder(minHeight_, proceed_);
+    setTabOrder(proceed_, previous_);
+    setTabOrder(previous_, mainMenu_);
 }
 
 void Form12::activated() {

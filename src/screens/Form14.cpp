@@ -60,6 +60,9 @@ void Form14::layOut() {
     page->addWidget(picture_, 1);
     page->addLayout(grid);
     page->addLayout(buttons);
+    setTabOrder(speed_, proceed_);
+    setTabOrder(proceed_, previous_);
+    setTabOrder(previous_, mainMenu_);
 }
 
 void Form14::activated() {

@@ -91,7 +91,7 @@ QGroupBox* Form15::resultsFrame() {
     table_->setUniformRowHeights(true);
     table_->setAlternatingRowColors(true);
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table_->setMinimumHeight(180);
+    table_->setMinimumSize(600, 200);
     auto* const column = theme::spaced(new QVBoxLayout(frame));
     column->addWidget(head);
     column->addWidget(list_);
@@ -241,7 +241,7 @@ void Form15::choose(int index) {
     chosenBore_->setText(text(chosen->boreLine));
     chosenOd_->setText(text(chosen->odLine));
     chosenHeight_->setText(text(chosen->heightLine));
-    hint_->setText(text(chosen->spacerHint).simplified());
+    hint_->setText(text(chosen->spacerHint));
     hint_->setVisible(!chosen->spacerHint.empty());
     chosenGroup_->show();
 }

@@ -67,6 +67,8 @@ Form16::Form16(Screens& screens) : Form(screens, "Form16", "Bearing Style Select
     page->addLayout(grid, 1);
     page->addWidget(description_);
     page->addLayout(buttons);
+    setTabOrder(pictures_.back(), proceed_);
+    setTabOrder(proceed_, mainMenu_);
 }
 
 void Form16::activated() {

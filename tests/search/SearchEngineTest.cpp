@@ -1,0 +1,270 @@
+#include <cmath>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "loaddist/radlodestar2.h"
+#include "numbers/FormatNumber.h"
+#include "numbers/RuntimeError.h"
+#include "numbers/Text.h"
+#include "search/HitLine.h"
+#include "search/SearchEngine.h"
+#include "state/LoadEntry.h"
+#include "support/RecordingPorts.h"
+
+namespace norlaplan {
+namespace {
+
+using testing::RecordingMessages;
+using testing::TemporaryFolder;
+
+/// Stops the search at a given row; never when none is given.
+class Watch : public SearchWatch {
+  public:
+    explicit Watch(int stopAt = -1) : stopAt_(stopAt) {}
+    bool goOn(double done) override {
+        EXPECT_GE(done, before_);
+        EXPECT_LE(done, 1.0);
+        before_ = done;
+        return ++rows != stopAt_;
+    }
+    int rows = 0;
+
+  private:
+    int stopAt_;
+    double before_ = 0.0;
+};
+
+std::string rowOf(const std::string& name, int bore, int stock = 1, int speedIndex = 1) {
+    return name + "," + std::to_string(stock) + "," + std::to_string(bore) + "," + std::to_string(bore + 26) +
+           ",0,0,0,0.5," + std::to_string(speedIndex) + ",60\r\n";
+}
+
+std::string numbers(double first) {
+    std::string text;
+    for (int i = 0; i < 24; ++i)
+        text += "," + plainText(first + i);
+    return text;
+}
+
+/// A small catalogue of the middle section, with empty tables beside it, and the state of a search in it.
+struct Catalogue {
+    Catalogue() {
+        section("");
+        const std::string key = ",,,,,,,,,,,,,,,,,,,,,,,";
+        place.write("Data Tables/SPEEDC.CSV", "P" + key + numbers(9.0) + "\r\n");
+        place.write("Data Tables/SPEEDA.CSV", "R" + key + numbers(13.0) + "\r\n");
+        place.write("Data Tables/SPEEDX.CSV", "Q" + key + numbers(1.0) + ",Q" + key + numbers(1.0) + "\r\n" +
+                                                  "P" + key + numbers(20.0) + ",P" + key + numbers(8.0) +
+                                                  "\r\n");
+        place.write("Data Tables/CLS0.csv",
+                    "head,,,,,,,,,\r\n100,0,0,0,0,0,0,.0006,.0014,0\r\n200,0,0,0,0,0,0,.001,.002,0\r\n");
+        state.criteria = {1.0, 20.0, 0.1, 3.0, 1.0, 20.0, 0.1, 3.0};
+        state.loads.radialLoadDisplay = 500.0;
+        convertLoads(state);
+        style("4-POINT CONTACT", "X");
+    }
+
+    void section(const std::string& rows) {
+        for (const char* const family : {"C", "X", "A"}) {
+            const std::string head = ".6,,,,,,,,,\r\n13,,,,,,,,,\r\n";
+            place.write(std::string("Data Tables/13-") + family + ".csv", head + rows);
+            place.write(std::string("Data Tables/8-") + family + ".csv", head);
+            place.write(std::string("Data Tables/20-") + family + ".csv", head);
+        }
+    }
+
+    void style(const std::string& caption, const std::string& letter) { state.style = {caption, letter}; }
+
+    SearchEnd run(int stopAt = -1) {
+        Watch watch(stopAt);
+        return RunBearingSearch(state, ProgramFolder(place.path()), messages, watch);
+    }
+
+    TemporaryFolder place;
+    ProgramState state;
+    RecordingMessages messages;
+};
+
+TEST(Search, ListsEveryRowThatFitsWithItsTexts) {
+    Catalogue catalogue;
+    catalogue.section(rowOf("K10013XP0", 100, 1) + rowOf("K20013XP0", 200, 2));
+    catalogue.state.loads.speed = 100.0;
+    EXPECT_EQ(catalogue.run(), SearchEnd::Found);
+    ASSERT_EQ(catalogue.state.search.rows.size(), 2U);
+    EXPECT_EQ(catalogue.state.search.hitCount, 3);
+    const SearchHit& hit = catalogue.state.search.rows[0];
+    EXPECT_EQ(hit.name, "K10013XP0");
+    EXPECT_EQ(hit.boreText, "3.9370") << "100 / 25.4";
+    EXPECT_EQ(hit.odText, "4.9606") << "126 / 25.4";
+    EXPECT_EQ(hit.heightText, "0.5118") << "13 / 25.4";
+    EXPECT_EQ(hit.stock, "YES ");
+    EXPECT_EQ(catalogue.state.search.rows[1].stock, "CALL");
+}
+
+TEST(Search, GivesTheLifeOfASolveOfItsOwn) {
+    Catalogue catalogue;
+    catalogue.section(rowOf("K10013XP0", 100));
+    catalogue.state.loads.speed = 100.0;
+    catalogue.run();
+    ProgramState alone;
+    alone.bearing.pitchDiameter = Single(Single(Single(126.0 / 25.4) + Single(100.0 / 25.4)) / 2.0);
+    const SolveArguments arguments{
+        "K10013XP0", alone.bearing.pitchDiameter, 0.25, 60, 0.1325, 0.0, clearance, 30.0, 500.0, 0.0, 0.0};
+    const auto solved = SolveCoupledRows(alone, arguments, catalogue.messages);
+    ASSERT_TRUE(solved.has_value());
+    const double life = solved->lifeRevolutions;
+    const SearchHit& hit = catalogue.state.search.rows.at(0);
+    EXPECT_EQ(leadingNumber(hit.l10Revolutions), leadingNumber(plainText(Single(std::floor(life)))));
+    EXPECT_EQ(hit.l10Hours, plainText(Single(std::floor(life / 6000.0))));
+}
+
+TEST(Search, KeepsOutWhatIsOutsideOfTheEnvelope) {
+    Catalogue catalogue;
+    catalogue.section(rowOf("SMALL", 100) + rowOf("FITS", 150) + rowOf("LARGE", 200));
+    catalogue.state.criteria.minBore = 5.0;
+    catalogue.state.criteria.maxOd = 8.0;
+    catalogue.run();
+    ASSERT_EQ(catalogue.state.search.rows.size(), 1U);
+    EXPECT_EQ(catalogue.state.search.rows[0].name, "FITS");
+}
+
+TEST(Search, TakesTheSetTwiceAsHighAndNamesIt) {
+    Catalogue catalogue;
+    catalogue.section(rowOf("K10013AR0", 100));
+    catalogue.style("BACK-TO-BACK SET", "A");
+    catalogue.state.criteria.maxHeight = 1.0;
+    EXPECT_EQ(catalogue.run(), SearchEnd::NoneFound) << "two rows of 0.5118 inch are higher than one inch";
+    catalogue.state.criteria.maxHeight = 1.1;
+    EXPECT_EQ(catalogue.run(), SearchEnd::Found);
+    EXPECT_EQ(catalogue.state.search.rows[0].name, "K10013BR0A");
+    EXPECT_EQ(catalogue.state.search.rows[0].heightText, "1.0236");
+}
+
+TEST(Search, FillsWhatIsLeftWithSpacersUpToTheMaximumHeight) {
+    Catalogue catalogue;
+    catalogue.section(rowOf("K10013AR0", 100));
+    catalogue.style("FACE-TO-FACE SET WITH SPACERS", "A");
+    catalogue.state.criteria.maxHeight = 1.2;
+    catalogue.state.criteria.maxHeightDisplay = 1.2;
+    EXPECT_EQ(catalogue.run(), SearchEnd::Found);
+    // 1.2 - 2 x 13 / 25.4 = 0.17638
+    EXPECT_EQ(catalogue.state.search.rows[0].name, "K10013FR0A W/ 0.1764 spacers");
+    EXPECT_EQ(catalogue.state.search.rows[0].heightText, "1.2000");
+}
+
+TEST(Search, TakesTheThrustNumbersForAPureThrustLoadAlone) {
+    Catalogue catalogue;
+    catalogue.section(rowOf("K10013XP0", 100));
+    catalogue.state.loads = {};
+    catalogue.state.loads.axialLoadDisplay = 100.0;
+    convertLoads(catalogue.state);
+    catalogue.run();
+    // A light load, so the factor is 1: 20 x 1000 / 3.93700790405, the 32-bit bore, is 5079.99996.
+    EXPECT_EQ(catalogue.state.search.rows.at(0).speedLimit, "5079");
+    catalogue.state.loads.momentLoadDisplay = 1.0;
+    convertLoads(catalogue.state);
+    catalogue.run();
+    EXPECT_EQ(catalogue.state.search.rows.at(0).speedLimit, "2031")
+        << "8 x 1000 / 3.93700790405 is 2031.99998";
+}
+
+TEST(Search, WithoutAFitSaysSoAndAsksForSizesAgain) {
+    Catalogue catalogue;
+    catalogue.state.sizesChosen = true;
+    EXPECT_EQ(catalogue.run(), SearchEnd::NoneFound);
+    ASSERT_EQ(catalogue.messages.shown.size(), 1U);
+    EXPECT_EQ(catalogue.messages.shown[0].title, "SEARCH PARAMETERS OUTSIDE OF SIZE RANGE");
+    EXPECT_EQ(catalogue.messages.shown[0].prompt,
+              "SORRY, NO BEARINGS WERE FOUND WHICH MET THE SIZE REQUIREMENTS");
+    EXPECT_TRUE(catalogue.state.search.noResultFlag);
+    EXPECT_FALSE(catalogue.state.sizesChosen);
+}
+
+int faultOf(Catalogue& catalogue) {
+    try {
+        catalogue.run();
+    } catch (const RuntimeError& error) {
+        return error.number();
+    }
+    return 0;
+}
+
+TEST(Search, HoldsThreeHundredRowsAndFaultsAtTheNext) {
+    Catalogue catalogue;
+    std::string rows;
+    for (int i = 0; i < 300; ++i)
+        rows += rowOf("K10013XP0", 100);
+    catalogue.section(rows);
+    EXPECT_EQ(catalogue.run(), SearchEnd::Found);
+    EXPECT_EQ(catalogue.state.search.rows.size(), 300U);
+    catalogue.section(rows + rowOf("K10013XP0", 100));
+    EXPECT_EQ(faultOf(catalogue), fault::kSubscript);
+    EXPECT_TRUE(catalogue.state.search.rows.empty());
+}
+
+TEST(Search, FaultsForASpeedIndexOutsideOfOneToFour) {
+    for (const int index : {0, 5}) {
+        Catalogue catalogue;
+        catalogue.section(rowOf("K10013XP0", 100, 1, index));
+        EXPECT_EQ(faultOf(catalogue), fault::kSubscript) << index;
+    }
+}
+
+TEST(Search, FaultsForASpeedTableWithoutItsKey) {
+    Catalogue catalogue;
+    catalogue.section(rowOf("K10013CP0", 100));
+    catalogue.style("RADIAL CONTACT", "C");
+    catalogue.place.write("Data Tables/SPEEDC.CSV", "");
+    EXPECT_EQ(faultOf(catalogue), fault::kPastEnd);
+}
+
+TEST(Search, StoppedKeepsNoRows) {
+    Catalogue catalogue;
+    catalogue.section(rowOf("ONE", 100) + rowOf("TWO", 150) + rowOf("THREE", 200));
+    EXPECT_EQ(catalogue.run(3), SearchEnd::Stopped);
+    EXPECT_TRUE(catalogue.state.search.rows.empty());
+    EXPECT_TRUE(catalogue.messages.shown.empty());
+}
+
+TEST(Search, KeepsThePreviousRowsClearanceWhereThePrecisionTableHasNoLine) {
+    Catalogue catalogue;
+    catalogue.section(rowOf("A", 100) + rowOf("B", 150));
+    catalogue.run();
+    const double after = catalogue.state.bearing.meanClearance;
+    EXPECT_EQ(after, static_cast<double>(static_cast<float>(
+                         (static_cast<double>(0.0006F) + static_cast<double>(0.0014F)) / 2.0)));
+}
+
+TEST(Search, KeepsStaleHoursWithoutASpeed) {
+    Catalogue catalogue;
+    catalogue.section(rowOf("A", 100));
+    catalogue.state.life.l10Hours = 77.0;
+    catalogue.run();
+    EXPECT_EQ(catalogue.state.search.rows.at(0).l10Hours, "77");
+}
+
+TEST(Search, ListsAnUnstableRowWithLifeZeroAndLeavesTheLoadsAlone) {
+    Catalogue catalogue;
+    // A groove as large as the gap has a contact line of no length: the pair is unstable for it.
+    catalogue.section(rowOf("K10013AR0", 100) + rowOf("K15013AR0", 150));
+    catalogue.style("FACE-TO-FACE SET", "A");
+    catalogue.state.criteria.maxHeight = 1.1;
+    catalogue.run();
+    EXPECT_EQ(catalogue.state.loads.axialLoad, 0.0);
+    EXPECT_EQ(catalogue.state.search.rows.size(), 2U);
+}
+
+TEST(HitLine, ShowsHoursAndMarkOnlyWithASpeed) {
+    ProgramState state;
+    const SearchHit hit{"K10013XP0", "900", "123456789", "2345", "", "", "", "CALL"};
+    EXPECT_EQ(FormatHitLine(state, hit, "   Over Speed!"), "K10013XP0    1.23E+08 revs.    STOCK - CALL");
+    state.loads.speed = 1000.0;
+    EXPECT_EQ(FormatHitLine(state, hit, overSpeedMark(state, hit)),
+              "K10013XP0    1.23E+08 revs.    2.35E+03 hrs.    STOCK - CALL   Over Speed!");
+    state.loads.speed = 900.0;
+    EXPECT_EQ(overSpeedMark(state, hit), "") << "a speed at the limit is not over it";
+}
+
+}  // namespace
+}  // namespace norlaplan
