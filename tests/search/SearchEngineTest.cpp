@@ -109,6 +109,7 @@ TEST(Search, GivesTheLifeOfASolveOfItsOwn) {
     catalogue.run();
     ProgramState alone;
     alone.bearing.pitchDiameter = Single(Single(Single(126.0 / 25.4) + Single(100.0 / 25.4)) / 2.0);
+    const Single clearance = (static_cast<double>(0.0006F) + static_cast<double>(0.0014F)) / 2.0;
     const SolveArguments arguments{
         "K10013XP0", alone.bearing.pitchDiameter, 0.25, 60, 0.1325, 0.0, clearance, 30.0, 500.0, 0.0, 0.0};
     const auto solved = SolveCoupledRows(alone, arguments, catalogue.messages);

@@ -1,0 +1,235 @@
+"""norlaplan-cli as a user's shell sees it: results, messages, exit statuses, files.
+
+NORLAPLAN_CLI names the program.
+"""
+
+import json
+import os
+import shutil
+import subprocess
+import tempfile
+import unittest
+from pathlib import Path
+
+CLI = os.environ["NORLAPLAN_CLI"]
+PROGRAM_FOLDER = Path(CLI).parent
+WITH_PICTURES = (PROGRAM_FOLDER / "norlaplan-paint.so").exists()
+
+
+def run(*words, **options):
+    return subprocess.run([CLI, *words], capture_output=True, text=True, check=False, timeout=60, **options)
+
+
+def result(*words):
+    done = run("--json", *words)
+    return done.returncode, json.loads(done.stdout)
+
+
+class Decode(unittest.TestCase):
+    def test_repairs_small_letters_and_the_letter_o(self):
+        status, bearing = result("decode", "k19o13xp0")
+        self.assertEqual(status, 0)
+        self.assertEqual(bearing["partNumber"], "K19013XP0")
+        self.assertEqual(bearing["ballDiameter"], 0.25)
+        self.assertEqual(bearing["raceRadius"], 0.1325)
+        self.assertEqual(bearing["drawingScale"], 3.91)
+        self.assertEqual(bearing["stockCode"], 2)
+        self.assertEqual(bearing["warnings"], [])
+
+    def test_prints_32_bit_fields_as_their_shortest_text(self):
+        done = run("--json", "decode", "K19013XP0")
+        # 190 / 25.4 = 7.48031496; the nearest 32-bit value is 7.48031473, and 7.480315 would read back as its neighbour
+        self.assertIn('"bore": 7.4803147,', done.stdout)
+        self.assertIn('"boreTolerance": -0.0012,', done.stdout)
+
+    def test_refuses_each_bad_number_with_its_message_and_status_1(self):
+        rows = (
+            ("K19013XP", "Part Number too short", "Please verify Part Number and try again"),
+            ("K19013XP0AA", "Part Number too long", "Please verify Part Number and try again"),
+            ("Q19013XP0", "Material Q Not valid", "Unsupported Material Type"),
+            ("K19014XP0", "Width of 14 Not Valid", "Unsupported Cross Section"),
+            ("K19013OP0", "Type O not known", "Undefined Bearing Style"),
+            ("K19013BR0", "Please supply internal fitup", "Missing Fit"),
+            ("K19013XP0[", "Invalid character entry", "Fitup character must be a letter"),
+            ("K19013XP3", "Precision class 3 not available", "Unsupported Precision Class"),
+            ("K1X013XP0", "character must be numeric", "Error in position 3 of the part number"),
+            ("K19113XP0", "Retry Data Entry", "Bore size not found"),
+            ("K19013XZ0", "Missing Data", "Please specify which Z separator"),
+            ("K19013XQ0", "WRONG SEPARATOR CODE", "SEPARATOR NOT PERMITTED FOR THIS BEARING"),
+            ("K19013XP0@", "Please correct Part Number", "Unavailable fitup"),
+        )
+        for number, title, prompt in rows:
+            with self.subTest(number):
+                status, told = result("decode", number)
+                self.assertEqual(status, 1)
+                self.assertEqual(told["error"],
+                                 {"kind": "message", "number": None, "title": title, "prompt": prompt})
+                self.assertEqual(run("decode", number).stderr, f"{title}: {prompt}\n")
+
+    def test_warns_of_a_dropped_fit_code_and_goes_on(self):
+        status, bearing = result("decode", "K19013AR0K")
+        self.assertEqual(status, 0)
+        self.assertEqual(bearing["partNumber"], "K19013AR0")
+        self.assertEqual(bearing["warnings"], [{"title": "Dropping fitup code", "prompt": "No fitup allowed"}])
+
+    def test_tells_of_a_missing_table_as_a_run_time_error(self):
+        with tempfile.TemporaryDirectory() as folder:
+            status, told = result("--program-folder", folder, "decode", "K19013XP0")
+        self.assertEqual(status, 3)
+        self.assertEqual(told["error"]["kind"], "runtime")
+        self.assertEqual(told["error"]["number"], 53)
+        self.assertEqual(told["error"]["title"], "Please recheck validity of part number")
+
+    def test_takes_a_z_separator_only_for_a_z(self):
+        self.assertEqual(result("decode", "K19013XZ0", "--z-separator", "T")[1]["separatorCode"], "ZT")
+        self.assertEqual(result("decode", "K19013XP0", "--z-separator", "T")[1]["separatorCode"], "P")
+
+    def test_decodes_every_preload_letter_of_a_pair(self):
+        for letter in "KLMNOPQRSTUVWXY":
+            for style in "BF":
+                status, bearing = result("decode", f"K19013{style}R0{letter}")
+                self.assertEqual(status, 0, letter)
+                self.assertGreater(bearing["loadPercent"], 0)
+                self.assertLess(bearing["meanClearance"], 0)
+
+    def test_units_change_texts_and_not_values(self):
+        us, metric = result("decode", "K19013XP0")[1], result("--units", "METRIC", "decode", "K19013XP0")[1]
+        self.assertEqual(us["bore"], metric["bore"])
+        self.assertEqual(us["crossSectionText"], "13 = .512 x .512 Cross Section")
+        self.assertEqual(metric["crossSectionText"], "13 = 13 x 13 Cross Section")
+
+
+class Life(unittest.TestCase):
+    LOADS = ("--radial", "1200", "--axial", "300", "--moment", "900", "--speed", "400")
+
+    def test_gives_the_loads_back_as_the_forces_of_the_balls(self):
+        for number in ("K19013XP0", "K19013BR0A", "K19013FR0A"):
+            with self.subTest(number):
+                status, life = result("life", number, *self.LOADS)
+                self.assertEqual(status, 0)
+                self.assertAlmostEqual(life["solver"]["ForceRadialSum"], 1200, places=5)
+                self.assertAlmostEqual(life["solver"]["ForceAxialSum"], 300, places=5)
+                self.assertAlmostEqual(life["solver"]["MomentSum"], 900, places=4)
+                self.assertEqual(len(life["balls"]), 2 * result("decode", number)[1]["ballCount"])
+
+    def test_gives_hours_and_a_verdict_only_with_a_speed(self):
+        life = result("life", "K19013CP0", "--radial", "500")[1]
+        for name in ("l10Hours", "loadPercent", "speedFactor", "speedLimit", "speedVerdict", "speedVerdictColor"):
+            self.assertIsNone(life[name])
+        life = result("life", "K19013CP0", "--radial", "500", "--speed", "-100")[1]
+        self.assertEqual(life["l10Hours"], int(life["l10Revolutions"] / 6000 * 10 + 0.5) / 10)
+        self.assertIn("100 RPM", life["speedVerdict"])
+
+    def test_drops_axial_load_and_moment_of_a_radial_bearing(self):
+        self.assertEqual(result("life", "K19013CP0", "--radial", "500")[1]["l10Revolutions"],
+                         result("life", "K19013CP0", "--radial", "500", "--axial", "9", "--moment", "9")[1]
+                         ["l10Revolutions"])
+
+    def test_refuses_as_the_screens_do(self):
+        rows = ((("K19013XP0",), "Missing Loads", "At least one load must be entered!"),
+                (("K19013AR0", "--radial", "5"), "Try another Bearing type", "Bearing type A Not allowed"))
+        for words, title, prompt in rows:
+            status, told = result("life", *words)
+            self.assertEqual((status, told["error"]["title"], told["error"]["prompt"]), (1, title, prompt))
+
+    def test_negative_axial_load_is_run_time_error_5_with_advice(self):
+        status, told = result("life", "K19013XP0", "--axial", "-100")
+        self.assertEqual((status, told["error"]["number"]), (3, 5))
+        self.assertIn("positive", told["error"]["prompt"])
+
+    def test_metric_loads_are_newtons(self):
+        metric = result("--units", "METRIC", "life", "K19013XP0", "--radial", "1000")[1]
+        # 1000 N are 224.8089 lbs
+        pounds = result("life", "K19013XP0", "--radial", "224.8089")[1]
+        self.assertAlmostEqual(metric["l10Revolutions"] / pounds["l10Revolutions"], 1, places=6)
+
+
+class Search(unittest.TestCase):
+    ENVELOPE = ("--min-bore", "5", "--max-od", "9", "--min-height", ".2", "--max-height", "1.2", "--radial", "500",
+                "--axial", "50")
+
+    def test_lists_every_style(self):
+        for style in ("RADIAL CONTACT", "4-POINT CONTACT", "BACK-TO-BACK SET", "FACE-TO-FACE SET",
+                      "BACK-TO-BACK SET WITH SPACERS", "FACE-TO-FACE SET WITH SPACERS"):
+            status, found = result("search", "--style", style, *self.ENVELOPE)
+            self.assertEqual(status, 0, style)
+            self.assertGreater(found["hitCount"], 0)
+            self.assertEqual(found["hitCount"], len(found["rows"]))
+            for row in found["rows"]:
+                self.assertTrue(row["line"].startswith(row["name"] + "    "))
+                self.assertGreaterEqual(float(row["boreText"]), 5)
+
+    def test_sorts(self):
+        rows = result("search", "--style", "4-POINT CONTACT", *self.ENVELOPE, "--sort", "life", "--descending")[1]["rows"]
+        lives = [float(row["l10Revolutions"]) for row in rows]
+        self.assertEqual(lives, sorted(lives, reverse=True))
+
+    def test_says_that_nothing_fits(self):
+        status, told = result("search", "--style", "4-POINT CONTACT", "--min-bore", "1", "--max-od", "1.1",
+                              "--min-height", "1", "--max-height", "2", "--radial", "5")
+        self.assertEqual(status, 1)
+        self.assertEqual(told["error"]["title"], "SEARCH PARAMETERS OUTSIDE OF SIZE RANGE")
+
+
+class Files(unittest.TestCase):
+    def setUp(self):
+        self.folder = Path(tempfile.mkdtemp())
+        self.addCleanup(shutil.rmtree, self.folder)
+
+    def test_writes_sheet_and_reports_as_rtf_with_balanced_groups(self):
+        loads = ("--radial", "500", "--speed", "100")
+        calls = (("datasheet", "K19013BR0N"), ("report", "life", "K19013XP0", *loads),
+                 ("report", "search", "--style", "4-POINT CONTACT", *Search.ENVELOPE))
+        for words in calls:
+            with self.subTest(words[0:2]):
+                target = self.folder / "out.rtf"
+                status, told = result(*words, "--output", str(target))
+                self.assertEqual((status, told["file"]), (0, str(target)))
+                text = target.read_text("ascii")
+                plain = text.replace("\\\\", "").replace("\\{", "").replace("\\}", "")
+                depth = 0
+                for character in plain.rstrip():
+                    self.assertFalse(depth == 0 and character != "{", "nothing stands behind the document")
+                    depth += {"{": 1, "}": -1}.get(character, 0)
+                self.assertEqual(depth, 0)
+
+    @unittest.skipUnless(WITH_PICTURES, "built without pictures")
+    def test_writes_pictures(self):
+        for name, beginning in (("a.pdf", b"%PDF"), ("a.png", b"\x89PNG"), ("a.bmp", b"BM")):
+            target = self.folder / name
+            done = run("datasheet", "K19013XP0", "--output", str(target))
+            self.assertEqual(done.returncode, 0, done.stderr)
+            self.assertTrue(target.read_bytes().startswith(beginning))
+
+    def test_writes_nothing_into_the_program_folder(self):
+        before = sorted(PROGRAM_FOLDER.rglob("*"))
+        run("datasheet", "K19013XP0", "--output", str(self.folder / "a.rtf"))
+        self.assertEqual(sorted(PROGRAM_FOLDER.rglob("*")), before)
+
+    def test_leaves_what_stood_there_when_the_folder_is_missing(self):
+        done = run("datasheet", "K19013XP0", "--output", str(self.folder / "none" / "a.rtf"))
+        self.assertEqual(done.returncode, 3)
+
+    def test_refuses_an_unknown_format_as_wrong_usage(self):
+        status, told = result("datasheet", "K19013XP0", "--output", str(self.folder / "a.doc"))
+        self.assertEqual((status, told["error"]["kind"]), (2, "usage"))
+        self.assertEqual(list(self.folder.iterdir()), [])
+
+
+class Usage(unittest.TestCase):
+    def test_help_and_version(self):
+        self.assertEqual(run("--version").stdout, "NORLAPLAN-MM version 1.00\n")
+        for words in ((), ("decode",), ("life",), ("report",), ("report", "life"), ("search",), ("datasheet",)):
+            done = run(*words, "--help")
+            self.assertEqual(done.returncode, 0)
+            self.assertIn("--help", done.stdout)
+
+    def test_wrong_words_are_status_2(self):
+        for words in ((), ("nonsense",), ("decode",), ("decode", "K19013XP0", "--nonsense"),
+                      ("life", "K19013XP0", "--radial", "abc"), ("--units", "feet", "decode", "K19013XP0")):
+            self.assertEqual(run(*words).returncode, 2, words)
+        self.assertEqual(result("nonsense")[1]["error"]["kind"], "usage")
+
+
+if __name__ == "__main__":
+    unittest.main()
