@@ -100,8 +100,8 @@ Stiffness ballStiffness(const Contact& contact, int row, double A0, double R, do
     return k;
 }
 
-/// Row 2 pulls against row 1 along the axis, so its axial terms over the radial displacement and the tilt count
-/// negative: only so is the sum the derivative of the forces.
+/// Row 2 pulls against row 1 along the axis, so its axial terms over the radial displacement and the tilt
+/// count negative: only so is the sum the derivative of the forces.
 void addStiffness(Matrix3& J, const Stiffness& a, const Stiffness& b, double c) {
     J[1][1] += a.k11 + b.k11;
     J[1][2] += a.k12 - b.k12;
