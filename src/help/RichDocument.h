@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -10,16 +11,17 @@ namespace norlaplan {
 // A formatted document as the viewer shows it, whatever it was read from. Lengths are twips (1440 to the
 // inch), texts UTF-8, colours 24-bit with red in the low byte.
 
+using Colour = std::uint32_t;
+
 enum class TextAlignment { Left, Centre, Right, Justified };
 enum class Script { Normal, Sub, Super };
 
 struct CharacterLook {
     std::string font;
     double points = 12.0;
-    bool bold = false, italic = false, underline = false, strike = false;
+    bool bold = false, italic = false, underline = false, strike = false, hidden = false;
     Script script = Script::Normal;
-    std::uint32_t colour = 0;
-    bool hasColour = false;
+    std::optional<Colour> colour, highlight;
 
     bool operator==(const CharacterLook&) const = default;
 };
@@ -38,10 +40,21 @@ struct PictureRun {
 
 using Run = std::variant<TextRun, PictureRun>;
 
+enum class TabAlignment { Left, Centre, Right, Decimal };
+
+struct TabStop {
+    int position = 0;  ///< from the left margin of the page, not from the paragraph's indent
+    TabAlignment alignment = TabAlignment::Left;
+
+    bool operator==(const TabStop&) const = default;
+};
+
 struct ParagraphLook {
     TextAlignment alignment = TextAlignment::Left;
     int leftIndent = 0, rightIndent = 0, firstIndent = 0, spaceBefore = 0, spaceAfter = 0;
-    std::vector<int> tabs;
+    double lineSpacing = 1.0;  ///< as a multiple of a single line
+    std::vector<TabStop> tabs;
+    std::optional<Colour> fill;
     bool pageBreakBefore = false;
 };
 
@@ -50,17 +63,31 @@ struct Paragraph {
     std::vector<Run> runs;
 };
 
-/// One row of a table: the right edges of its cells and their paragraphs. Rows that follow each other make a
-/// table.
+/// What a row's definition says of a cell.
+struct CellLook {
+    int rightEdge = 0;
+    bool left = false, top = false, right = false, bottom = false;  ///< which of its sides have a line
+    std::optional<Colour> fill;
+
+    bool operator==(const CellLook&) const = default;
+};
+
+struct TableCell {
+    CellLook look;
+    std::vector<Paragraph> paragraphs;
+};
+
+/// One row of a table. Rows that follow each other make a table.
 struct TableRow {
-    std::vector<int> edges;
-    std::vector<std::vector<Paragraph>> cells;
+    int leftEdge = 0;
+    std::vector<TableCell> cells;
 };
 
 using Block = std::variant<Paragraph, TableRow>;
 
 struct RichDocument {
     std::vector<Block> blocks;
+    bool cutShort = false;  ///< it was longer than a viewer can show; what is here is its beginning
 };
 
 }  // namespace norlaplan

@@ -5,60 +5,77 @@
 namespace norlaplan {
 namespace {
 
+// Some five hundred pages: what is read stays small and shows at once, however large the file is.
+constexpr std::size_t kMostParagraphs = 10000;
+constexpr std::size_t kMostRuns = 40000;
+constexpr std::size_t kMostTextBytes = 2U << 20U;
+constexpr std::size_t kMostPictureBytes = 32U << 20U;
 constexpr std::size_t kMostCells = 64;
 
 }  // namespace
 
-void RtfBuilder::addText(const std::string& text) {
-    if (text.empty()) return;
+bool RtfBuilder::isFull() const {
+    return paragraphCount_ >= kMostParagraphs || runCount_ >= kMostRuns || textBytes_ >= kMostTextBytes ||
+           pictureBytes_ >= kMostPictureBytes;
+}
+
+void RtfBuilder::addText(const std::string& text, const CharacterLook& look) {
+    if (text.empty() || look.hidden) return;
+    textBytes_ += text.size();
     if (!runs_.empty()) {
         if (auto* const last = std::get_if<TextRun>(&runs_.back()); last != nullptr && last->look == look) {
             last->text += text;
             return;
         }
     }
-    runs_.push_back(TextRun{text, look});
+    ++runCount_;
+    runs_.emplace_back(TextRun{text, look});
 }
 
 void RtfBuilder::addPicture(PictureRun picture) {
-    runs_.push_back(std::move(picture));
+    ++runCount_;
+    pictureBytes_ += picture.bytes.size();
+    runs_.emplace_back(std::move(picture));
 }
 
-Paragraph RtfBuilder::takeParagraph() {
-    Paragraph paragraph{paragraphLook, std::exchange(runs_, {})};
-    paragraph.look.pageBreakBefore = std::exchange(breakBefore_, false);
+Paragraph RtfBuilder::takeParagraph(const ParagraphLook& look) {
+    ++paragraphCount_;
+    Paragraph paragraph{look, std::exchange(runs_, {})};
+    if (std::exchange(breakBefore_, false)) paragraph.look.pageBreakBefore = true;
     return paragraph;
 }
 
-void RtfBuilder::endParagraph() {
+void RtfBuilder::endParagraph(const ParagraphLook& look, bool inTable) {
     if (inTable) {
-        cell_.push_back(takeParagraph());
-    } else {
-        document_.blocks.emplace_back(takeParagraph());
+        cell_.push_back(takeParagraph(look));
+        return;
     }
+    document_.blocks.emplace_back(takeParagraph(look));
 }
 
-void RtfBuilder::endCell() {
-    cell_.push_back(takeParagraph());
-    if (row_.cells.size() < kMostCells) row_.cells.push_back(std::exchange(cell_, {}));
+void RtfBuilder::endCell(const ParagraphLook& look) {
+    cell_.push_back(takeParagraph(look));
+    if (row_.cells.size() < kMostCells) row_.cells.push_back({{}, std::move(cell_)});
     cell_.clear();
 }
 
-void RtfBuilder::endRow() {
-    if (!row_.cells.empty()) {
-        row_.edges = cellEdges;
-        document_.blocks.emplace_back(std::exchange(row_, {}));
+void RtfBuilder::endRow(const RtfRow& definition) {
+    row_.leftEdge = definition.leftEdge();
+    for (std::size_t i = 0; i < row_.cells.size() && i < definition.cells().size(); ++i) {
+        row_.cells[i].look = definition.cells()[i];
+    }
+    if (!row_.cells.empty()) document_.blocks.emplace_back(std::exchange(row_, {}));
+    // Paragraphs that no cell's end claimed are text of their own.
+    for (Paragraph& paragraph : cell_) {
+        document_.blocks.emplace_back(std::move(paragraph));
     }
     cell_.clear();
-    inTable = false;
 }
 
-RichDocument RtfBuilder::take() {
-    if (!row_.cells.empty()) endRow();
-    if (!runs_.empty()) {
-        inTable = false;
-        endParagraph();
-    }
+RichDocument RtfBuilder::take(const ParagraphLook& look, const RtfRow& definition) {
+    document_.cutShort = isFull();
+    endRow(definition);
+    if (!runs_.empty()) endParagraph(look, false);
     return std::move(document_);
 }
 

@@ -1,37 +1,39 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "help/RichDocument.h"
+#include "help/RtfRow.h"
 
 namespace norlaplan {
 
 /// Puts a document together from texts, breaks and cells in the order in which they are read.
 class RtfBuilder {
   public:
-    CharacterLook look;
-    ParagraphLook paragraphLook;
-    bool inTable = false;
-    std::vector<int> cellEdges;  ///< of the row in hand
-
-    void addText(const std::string& text);
+    void addText(const std::string& text, const CharacterLook& look);
     void addPicture(PictureRun picture);
-    void endParagraph();
-    void endCell();
-    void endRow();
+    /// `inTable`: the paragraph belongs to the cell in hand.
+    void endParagraph(const ParagraphLook& look, bool inTable);
+    void endCell(const ParagraphLook& look);
+    void endRow(const RtfRow& definition);
     void pageBreak() { breakBefore_ = true; }
 
-    /// The document, with what was not ended yet.
-    RichDocument take();
+    /// True when the document is as long as a viewer can show; the rest need not be read.
+    bool isFull() const;
+
+    /// The document, with what was not ended yet: the paragraph with its look, the row with its definition.
+    RichDocument take(const ParagraphLook& look, const RtfRow& definition);
 
   private:
-    Paragraph takeParagraph();
+    Paragraph takeParagraph(const ParagraphLook& look);
 
     RichDocument document_;
     std::vector<Run> runs_;
     std::vector<Paragraph> cell_;
     TableRow row_;
     bool breakBefore_ = false;
+    std::size_t paragraphCount_ = 0, runCount_ = 0, textBytes_ = 0, pictureBytes_ = 0;
 };
 
 }  // namespace norlaplan

@@ -27,6 +27,25 @@ int shownTwips(double goal, double scale) {
     return static_cast<int>(std::clamp(goal * scale / 100.0, 0.0, kMostTwips));
 }
 
+/// The bitmap that a Windows metafile draws, as a device independent one: so older programs keep pictures.
+/// Empty when it draws none.
+std::string dibOf(const std::string& metafile) {
+    constexpr std::uint32_t kPlaceableKey = 0x9AC6CDD7U;
+    constexpr std::size_t kPlaceableHead = 22, kHead = 18, kRecordHead = 6;
+    constexpr std::uint32_t kStretchDib = 0x0F43, kDibStretchBlt = 0x0B41;
+    if (metafile.size() < kHead) return {};
+    std::size_t at = kHead + (littleEndian(metafile, 0, 4) == kPlaceableKey ? kPlaceableHead : 0);
+    while (at + kRecordHead <= metafile.size()) {
+        const std::size_t length = std::size_t{2} * littleEndian(metafile, at, 4);
+        if (length < kRecordHead || length > metafile.size() - at) return {};
+        const std::uint32_t function = littleEndian(metafile, at + 4, 2);
+        const std::size_t bitmap = function == kStretchDib ? 28 : function == kDibStretchBlt ? 26 : length;
+        if (bitmap < length) return metafile.substr(at + bitmap, length - bitmap);
+        at += length;
+    }
+    return {};
+}
+
 }  // namespace
 
 void RtfPicture::word(const RtfToken& token) {
@@ -34,6 +53,7 @@ void RtfPicture::word(const RtfToken& token) {
     if (name == "pngblip") kind_ = Kind::Png;
     if (name == "jpegblip") kind_ = Kind::Jpeg;
     if (name == "dibitmap") kind_ = Kind::Dib;
+    if (name == "wmetafile") kind_ = Kind::Metafile;
     if (name == "picwgoal") width_ = token.number;
     if (name == "pichgoal") height_ = token.number;
     if (name == "picscalex") scaleX_ = token.number;
@@ -63,24 +83,27 @@ std::optional<PictureRun> RtfPicture::take() {
     picture.height = shownTwips(height_, scaleY_);
     picture.format = kind_ == Kind::Png ? "png" : kind_ == Kind::Jpeg ? "jpg" : "bmp";
     if (kind_ == Kind::Unknown) return std::nullopt;
-    picture.bytes = kind_ == Kind::Dib ? bitmapFileOf(bytes_) : std::move(bytes_);
+    if (kind_ == Kind::Metafile) bytes_ = dibOf(bytes_);
+    const bool isDib = kind_ == Kind::Dib || kind_ == Kind::Metafile;
+    picture.bytes = isDib ? bitmapFileOf(bytes_) : std::move(bytes_);
     if (picture.bytes.empty()) return std::nullopt;
     return picture;
 }
 
 std::string bitmapFileOf(const std::string& dib) {
     constexpr std::size_t kHead = 40;
-    constexpr std::uint32_t kFileHead = 14;
+    constexpr std::uint32_t kFileHead = 14, kBitFields = 3, kMasks = 12;
     if (dib.size() < kHead) return {};
     const std::uint32_t headSize = littleEndian(dib, 0, 4);
     const std::uint32_t bits = littleEndian(dib, 14, 2);
+    const bool hasMasks = headSize == kHead && littleEndian(dib, 16, 4) == kBitFields;
     std::uint32_t colours = littleEndian(dib, 32, 4);
     if (headSize < kHead || headSize > dib.size() || colours > 256) return {};
     if (colours == 0 && bits <= 8) colours = 1U << bits;
     std::string file = "BM";
     append(file, kFileHead + static_cast<std::uint32_t>(dib.size()));
     append(file, 0);
-    append(file, kFileHead + headSize + colours * 4U);
+    append(file, kFileHead + headSize + (hasMasks ? kMasks : 0U) + colours * 4U);
     return file + dib;
 }
 

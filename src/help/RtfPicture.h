@@ -23,7 +23,7 @@ class RtfPicture {
     std::optional<PictureRun> take();
 
   private:
-    enum class Kind { Unknown, Png, Jpeg, Dib };
+    enum class Kind { Unknown, Png, Jpeg, Dib, Metafile };
     Kind kind_ = Kind::Unknown;
     std::string bytes_;
     int pendingDigit_ = -1;

@@ -1,12 +1,16 @@
 #include "help/RtfReader.h"
 
 #include <algorithm>
-#include <map>
 #include <string>
+#include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "help/RtfBuilder.h"
+#include "help/RtfLook.h"
 #include "help/RtfPicture.h"
+#include "help/RtfRow.h"
+#include "help/RtfTables.h"
 #include "help/RtfTokens.h"
 
 namespace norlaplan {
@@ -14,31 +18,84 @@ namespace {
 
 /// Deeper groups than any document has are read as if they were not nested.
 constexpr std::size_t kDeepest = 200;
-constexpr std::size_t kMostTabs = 50;
-constexpr std::size_t kMostColours = 1024;
-constexpr std::size_t kMostEdges = 64;
-constexpr int kLongestIndent = 10000;
 
 enum class Destination { Body, Fonts, Colours, Picture, Skipped };
 
 /// What a group changes and its end brings back.
 struct GroupState {
-    CharacterLook look;
-    ParagraphLook paragraph;
+    RtfLook look;
     Destination destination = Destination::Body;
     int fallbackLength = 1;  ///< characters that stand in for a Unicode one
     bool starred = false;
 };
+
+/// What a word at a group's head makes of the group; nothing for a word that is none of a head.
+const Destination* headOf(std::string_view name) {
+    static const std::unordered_map<std::string_view, Destination> kHeads = [] {
+        std::unordered_map<std::string_view, Destination> heads = {{"fonttbl", Destination::Fonts},
+                                                                   {"colortbl", Destination::Colours},
+                                                                   {"pict", Destination::Picture}};
+        for (const char* const skipped : {"stylesheet",
+                                          "info",
+                                          "header",
+                                          "headerf",
+                                          "headerl",
+                                          "headerr",
+                                          "footer",
+                                          "footerf",
+                                          "footerl",
+                                          "footerr",
+                                          "footnote",
+                                          "annotation",
+                                          "fldinst",
+                                          "nonshppict",
+                                          "objclass",
+                                          "objname",
+                                          "objdata",
+                                          "panose",
+                                          "falt",
+                                          "shprslt",
+                                          "bkmkstart",
+                                          "bkmkend",
+                                          "listtable",
+                                          "filetbl",
+                                          "revtbl",
+                                          "pntxta",
+                                          "pntxtb",
+                                          "xe",
+                                          "tc",
+                                          "nonesttables",
+                                          "listoverridetable",
+                                          "do",
+                                          "themedata",
+                                          "datastore"}) {
+            heads.emplace(skipped, Destination::Skipped);
+        }
+        return heads;
+    }();
+    const auto found = kHeads.find(name);
+    return found == kHeads.end() ? nullptr : &found->second;
+}
+
+const char* characterOf(std::string_view name) {
+    static const std::unordered_map<std::string_view, const char*> kCharacters = {
+        {"tab", "\t"},           {"line", "\n"},        {"bullet", "\u2022"}, {"emdash", "\u2014"},
+        {"endash", "\u2013"},    {"lquote", "\u2018"},  {"rquote", "\u2019"}, {"ldblquote", "\u201C"},
+        {"rdblquote", "\u201D"}, {"emspace", "\u2003"}, {"enspace", "\u2002"}};
+    const auto found = kCharacters.find(name);
+    return found == kCharacters.end() ? nullptr : found->second;
+}
 
 class Reader {
   public:
     explicit Reader(std::string_view bytes) : tokens_(bytes) {}
 
     RichDocument run() {
-        for (RtfToken token = tokens_.next(); token.kind != RtfToken::Kind::End; token = tokens_.next()) {
+        for (RtfToken token = tokens_.next(); token.kind != RtfToken::Kind::End && !builder_.isFull();
+             token = tokens_.next()) {
             handle(token);
         }
-        return builder_.take();
+        return builder_.take(state_.look.paragraph, row_);
     }
 
   private:
@@ -66,32 +123,30 @@ class Reader {
     }
 
     void open() {
+        skip_ = 0;
         ++depth_;
         if (stack_.size() < kDeepest) stack_.push_back(state_);
     }
 
     void close() {
-        if (state_.destination == Destination::Picture && enclosing() != Destination::Picture) {
-            if (auto picture = picture_.take()) builder_.addPicture(std::move(*picture));
-            picture_ = {};
-        }
+        skip_ = 0;
         if (depth_ > stack_.size()) {
             --depth_;
             return;
         }
         if (stack_.empty()) return;
         --depth_;
-        state_ = stack_.back();
+        const Destination ended = state_.destination;
+        state_ = std::move(stack_.back());
         stack_.pop_back();
-        skip_ = 0;
-        applyState();
+        if (ended == state_.destination) return;
+        if (ended == Destination::Picture) endPicture();
+        if (ended == Destination::Fonts) makePlain(tables_, state_.look);
     }
 
-    Destination enclosing() const { return stack_.empty() ? Destination::Body : stack_.back().destination; }
-
-    void applyState() {
-        builder_.look = state_.look;
-        builder_.paragraphLook = state_.paragraph;
+    void endPicture() {
+        if (auto picture = picture_.take()) builder_.addPicture(std::move(*picture));
+        picture_ = {};
     }
 
     void symbol(char c) {
@@ -99,21 +154,28 @@ class Reader {
             case '*':
                 state_.starred = true;
                 return;
-            case '~':
-                text("\xA0");
-                return;
-            case '_':
-            case '-':
-                return;
             case '\'':
                 hexByte();
                 return;
+            case '~':
+                character("\u00A0");
+                return;
+            case '_':
+                character("\u2011");
+                return;
+            case '\t':
+                character("\t");
+                return;
             case '\r':
             case '\n':
-                endParagraph();
+                if (state_.destination == Destination::Body) endParagraph();
+                return;
+            case '\\':
+            case '{':
+            case '}':
+                text(std::string_view(&c, 1));
                 return;
             default:
-                text(std::string_view(&c, 1));
                 return;
         }
     }
@@ -129,10 +191,10 @@ class Reader {
     void text(std::string_view bytes) {
         switch (state_.destination) {
             case Destination::Fonts:
-                fontName(bytes);
+                tables_.fontText(bytes);
                 return;
             case Destination::Colours:
-                endColours(bytes);
+                tables_.colourText(bytes);
                 return;
             case Destination::Picture:
                 picture_.hex(bytes);
@@ -142,35 +204,29 @@ class Reader {
             case Destination::Body:
                 break;
         }
+        const std::size_t passedOver = std::min(bytes.size(), static_cast<std::size_t>(skip_));
+        skip_ -= static_cast<int>(passedOver);
+        bytes.remove_prefix(passedOver);
+        if (!bytes.empty()) firstHalf_ = 0;
         std::string utf8;
         for (const char c : bytes) {
-            if (skip_ > 0) {
-                --skip_;
-            } else {
-                utf8 += utf8OfWestern(static_cast<unsigned char>(c));
-            }
+            const auto byte = static_cast<unsigned char>(c);
+            utf8 += state_.look.symbols ? utf8OfSign(byte) : utf8OfWestern(byte);
         }
-        builder_.addText(utf8);
+        builder_.addText(utf8, state_.look.character);
     }
 
-    void fontName(std::string_view bytes) {
-        std::string& name = fonts_[font_];
-        for (const char c : bytes) {
-            if (c != ';' && name.size() < 100) name += c;
-        }
-    }
-
-    void endColours(std::string_view bytes) {
-        for (const char c : bytes) {
-            if (c != ';' || colours_.size() >= kMostColours) continue;
-            colours_.push_back(colour_);
-            colour_ = 0;
+    /// A character that has a word or symbol of its own. It may stand in for a Unicode one like any other.
+    void character(const char* utf8) {
+        if (state_.destination != Destination::Body) return;
+        if (skip_ > 0) {
+            --skip_;
+        } else {
+            builder_.addText(utf8, state_.look.character);
         }
     }
 
-    void endParagraph() {
-        if (state_.destination == Destination::Body) builder_.endParagraph();
-    }
+    void endParagraph() { builder_.endParagraph(state_.look.paragraph, state_.look.inTable); }
 
     void word(const RtfToken& token) {
         if (token.text == "bin") {
@@ -178,13 +234,13 @@ class Reader {
             if (state_.destination == Destination::Picture) picture_.binary(bytes);
             return;
         }
-        if (destinationWord(token.text)) return;
+        if (state_.destination == Destination::Skipped || isHead(token.text)) return;
         switch (state_.destination) {
             case Destination::Fonts:
-                if (token.text == "f") font_ = token.number;
+                tables_.fontWord(token);
                 return;
             case Destination::Colours:
-                colourWord(token);
+                tables_.colourWord(token);
                 return;
             case Destination::Picture:
                 picture_.word(token);
@@ -192,159 +248,71 @@ class Reader {
             case Destination::Skipped:
                 return;
             case Destination::Body:
-                break;
-        }
-        if (characterWord(token) || paragraphWord(token)) {
-            applyState();
-        } else {
-            bodyWord(token);
+                bodyWord(token);
         }
     }
 
-    /// Words that say what their group is.
-    bool destinationWord(std::string_view name) {
-        if (state_.destination == Destination::Skipped) return true;
-        static const std::map<std::string_view, Destination> kDestinations = {
-            {"fonttbl", Destination::Fonts},      {"colortbl", Destination::Colours},
-            {"pict", Destination::Picture},       {"stylesheet", Destination::Skipped},
-            {"info", Destination::Skipped},       {"header", Destination::Skipped},
-            {"footer", Destination::Skipped},     {"headerf", Destination::Skipped},
-            {"footerf", Destination::Skipped},    {"headerl", Destination::Skipped},
-            {"headerr", Destination::Skipped},    {"footerl", Destination::Skipped},
-            {"footerr", Destination::Skipped},    {"footnote", Destination::Skipped},
-            {"nonshppict", Destination::Skipped}, {"object", Destination::Skipped},
-            {"fldinst", Destination::Skipped},    {"panose", Destination::Skipped},
-            {"falt", Destination::Skipped},       {"shprslt", Destination::Skipped},
-            {"bkmkstart", Destination::Skipped},  {"bkmkend", Destination::Skipped},
-        };
-        static const std::vector<std::string_view> kStarredBody = {"shppict", "pntext", "listtext"};
-        const auto found = kDestinations.find(name);
-        if (found != kDestinations.end()) {
-            // Only the first of a group decides; a picture inside a picture's properties is none.
-            if (state_.destination == Destination::Body || found->second == Destination::Skipped) {
-                state_.destination = found->second;
-            }
+    /// Takes a word that says what its group is.
+    bool isHead(std::string_view name) {
+        if (const Destination* const head = headOf(name)) {
+            // A table or picture inside another one is none, and its group is read for nothing.
+            const bool within = state_.destination != Destination::Body;
+            state_.destination = within ? Destination::Skipped : *head;
+            if (state_.destination == Destination::Picture) picture_ = {};
             return true;
         }
+        // A starred group may be skipped by who doesn't know it; this one holds the better copy of a picture.
         if (!state_.starred) return false;
-        const bool body = std::find(kStarredBody.begin(), kStarredBody.end(), name) != kStarredBody.end();
-        if (!body) state_.destination = Destination::Skipped;
+        if (name != "shppict") state_.destination = Destination::Skipped;
         return true;
     }
 
-    void colourWord(const RtfToken& token) {
-        const auto part = static_cast<std::uint32_t>(std::clamp(token.number, 0, 255));
-        if (token.text == "red") colour_ = (colour_ & 0xFFFF00U) | part;
-        if (token.text == "green") colour_ = (colour_ & 0xFF00FFU) | part << 8U;
-        if (token.text == "blue") colour_ = (colour_ & 0x00FFFFU) | part << 16U;
-    }
-
-    bool characterWord(const RtfToken& token) {
-        CharacterLook& look = state_.look;
-        const bool on = !token.hasNumber || token.number != 0;
-        const std::string_view name = token.text;
-        if (name == "b") return look.bold = on, true;
-        if (name == "i") return look.italic = on, true;
-        if (name == "ul" || name == "ulw" || name == "uldb") return look.underline = on, true;
-        if (name == "ulnone") return look.underline = false, true;
-        if (name == "strike") return look.strike = on, true;
-        if (name == "sub") return look.script = on ? Script::Sub : Script::Normal, true;
-        if (name == "super") return look.script = on ? Script::Super : Script::Normal, true;
-        if (name == "nosupersub") return look.script = Script::Normal, true;
-        if (name == "fs") return look.points = std::clamp(token.number, 2, 400) / 2.0, true;
-        if (name == "plain") return look = defaultLook(), true;
-        if (name == "f") {
-            const auto font = fonts_.find(token.number);
-            look.font = font == fonts_.end() ? "" : font->second;
-            return true;
-        }
-        if (name == "cf") {
-            const bool known = token.number > 0 && static_cast<std::size_t>(token.number) < colours_.size();
-            look.hasColour = known;
-            look.colour = known ? colours_[static_cast<std::size_t>(token.number)] : 0;
-            return true;
-        }
-        return false;
-    }
-
-    CharacterLook defaultLook() const {
-        CharacterLook look;
-        if (const auto font = fonts_.find(defaultFont_); font != fonts_.end()) look.font = font->second;
-        return look;
-    }
-
-    bool paragraphWord(const RtfToken& token) {
-        ParagraphLook& look = state_.paragraph;
-        const int number = std::clamp(token.number, -kLongestIndent, kLongestIndent);
-        const std::string_view name = token.text;
-        if (name == "pard") return look = {}, builder_.inTable = false, true;
-        if (name == "ql") return look.alignment = TextAlignment::Left, true;
-        if (name == "qc") return look.alignment = TextAlignment::Centre, true;
-        if (name == "qr") return look.alignment = TextAlignment::Right, true;
-        if (name == "qj") return look.alignment = TextAlignment::Justified, true;
-        if (name == "li") return look.leftIndent = number, true;
-        if (name == "ri") return look.rightIndent = number, true;
-        if (name == "fi") return look.firstIndent = number, true;
-        if (name == "sb") return look.spaceBefore = number, true;
-        if (name == "sa") return look.spaceAfter = number, true;
-        if (name == "tx") {
-            if (look.tabs.size() < kMostTabs) look.tabs.push_back(number);
-            return true;
-        }
-        return false;
-    }
-
     void bodyWord(const RtfToken& token) {
-        static const std::map<std::string_view, const char*> kCharacters = {
-            {"tab", "\t"},           {"line", "\n"},        {"bullet", "\u2022"}, {"emdash", "\u2014"},
-            {"endash", "\u2013"},    {"lquote", "\u2018"},  {"rquote", "\u2019"}, {"ldblquote", "\u201C"},
-            {"rdblquote", "\u201D"}, {"emspace", "\u2003"}, {"enspace", "\u2002"}};
         const std::string_view name = token.text;
-        if (const auto character = kCharacters.find(name); character != kCharacters.end()) {
-            builder_.addText(character->second);
-        } else if (name == "par" || name == "sect") {
-            builder_.endParagraph();
-        } else if (name == "page") {
-            builder_.pageBreak();
-        } else if (name == "u") {
-            // Negative numbers stand for the upper half of the 16-bit range.
-            builder_.addText(
-                utf8Of(static_cast<unsigned>(token.number < 0 ? token.number + 65536 : token.number)));
-            skip_ = state_.fallbackLength;
-        } else if (name == "uc") {
-            state_.fallbackLength = std::clamp(token.number, 0, 16);
-        } else if (name == "deff") {
-            defaultFont_ = token.number;
-        } else {
-            tableWord(token);
-        }
+        if (const char* const utf8 = characterOf(name)) return character(utf8);
+        if (name == "u") return unicode(token.number);
+        if (applyCharacterWord(token, tables_, state_.look)) return;
+        if (applyParagraphWord(token, tables_, state_.look)) return;
+        if (name == "par" || name == "sect") return endParagraph();
+        if (name == "page") return builder_.pageBreak();
+        if (name == "uc") state_.fallbackLength = std::clamp(token.number, 0, 16);
+        if (name == "deff") tables_.defaultFont = token.number;
+        // The cells of a table in a table are shown as paragraphs of the outer one's cell.
+        if (name == "nestcell") return builder_.endParagraph(state_.look.paragraph, true);
+        if (name == "cell") return builder_.endCell(state_.look.paragraph);
+        if (name == "row") return builder_.endRow(row_);
+        row_.word(token, tables_);
     }
 
-    void tableWord(const RtfToken& token) {
-        const std::string_view name = token.text;
-        if (name == "trowd") builder_.cellEdges.clear();
-        if (name == "cellx" && builder_.cellEdges.size() < kMostEdges)
-            builder_.cellEdges.push_back(token.number);
-        if (name == "intbl") builder_.inTable = true;
-        if (name == "cell") builder_.endCell();
-        if (name == "row") builder_.endRow();
+    void unicode(int number) {
+        // Negative numbers stand for the upper half of the 16-bit range.
+        const unsigned code = static_cast<unsigned>(number < 0 ? number + 65536 : number);
+        skip_ = state_.fallbackLength;
+        const bool completes = code >= 0xDC00 && code <= 0xDFFF && firstHalf_ != 0;
+        const unsigned first = std::exchange(firstHalf_, code >= 0xD800 && code <= 0xDBFF ? code : 0U);
+        if (firstHalf_ != 0) return;
+        const unsigned whole = completes ? 0x10000U + ((first - 0xD800U) << 10U) + (code - 0xDC00U) : code;
+        builder_.addText(utf8Of(whole), state_.look.character);
     }
 
     RtfTokens tokens_;
     RtfBuilder builder_;
+    RtfTables tables_;
     RtfPicture picture_;
+    RtfRow row_;
     GroupState state_;
     std::vector<GroupState> stack_;
     std::size_t depth_ = 0;
-    std::map<int, std::string> fonts_;
-    std::vector<std::uint32_t> colours_;
-    std::uint32_t colour_ = 0;
-    int font_ = 0, defaultFont_ = 0, skip_ = 0;
+    int skip_ = 0;            ///< bytes that a Unicode character stands for
+    unsigned firstHalf_ = 0;  ///< of a character that is written as two
 };
 
 }  // namespace
 
 std::optional<RichDocument> readRtf(std::string_view bytes) {
+    constexpr std::string_view kMark = "\xEF\xBB\xBF";
+    if (bytes.starts_with(kMark)) bytes.remove_prefix(kMark.size());
+    bytes.remove_prefix(std::min(bytes.find_first_not_of(" \t\r\n"), bytes.size()));
     if (!bytes.starts_with("{\\rtf")) return std::nullopt;
     return Reader(bytes).run();
 }

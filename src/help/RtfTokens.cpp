@@ -7,9 +7,16 @@ namespace norlaplan {
 namespace {
 
 constexpr int kLargestNumber = 100000000;
+constexpr std::size_t kLongestText = 4096;
 
 bool isLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+bool isNoText(unsigned code) {
+    const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
+    const bool noCharacter = (code >= 0xFDD0 && code <= 0xFDEF) || (code & 0xFFFEU) == 0xFFFE;
+    const bool separator = code == 0x2028 || code == 0x2029 || code == 0xFFFC;
+    return code > 0x10FFFF || surrogate || noCharacter || separator;
 }
 bool isDigit(char c) {
     return c >= '0' && c <= '9';
@@ -40,7 +47,8 @@ RtfToken RtfTokens::next() {
         default:
             break;
     }
-    const std::size_t length = std::min(rest_.find_first_of(std::string_view("{}\\\r\n\0", 6)), rest_.size());
+    const std::string_view reach = rest_.substr(0, kLongestText);
+    const std::size_t length = std::min(reach.find_first_of(std::string_view("{}\\\r\n\0", 6)), reach.size());
     const RtfToken token{RtfToken::Kind::Text, rest_.substr(0, length), false, 0};
     rest_.remove_prefix(length);
     return token;
@@ -85,7 +93,8 @@ int hexDigit(char c) {
 }
 
 std::string utf8Of(unsigned code) {
-    if (code > 0x10FFFF || (code >= 0xD800 && code <= 0xDFFF) || code == 0) code = 0xFFFD;
+    if ((code < 0x20 && code != '\t') || (code >= 0x7F && code < 0xA0)) return {};
+    if (isNoText(code)) code = 0xFFFD;
     std::string text;
     const auto add = [&](unsigned byte) { text += static_cast<char>(static_cast<unsigned char>(byte)); };
     if (code < 0x80) {
@@ -108,6 +117,13 @@ std::string utf8Of(unsigned code) {
 
 std::string utf8OfWestern(unsigned char byte) {
     return utf8Of(byte >= 0x80 && byte <= 0x9F ? kWestern[byte - 0x80U] : byte);
+}
+
+std::string utf8OfSign(unsigned char byte) {
+    constexpr unsigned char kRound = 0xB7;
+    constexpr unsigned char kSquare = 0xA7;
+    if (byte == kRound) return "\u2022";
+    return byte == kSquare ? "\u25AA" : utf8OfWestern(byte);
 }
 
 }  // namespace norlaplan

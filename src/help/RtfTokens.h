@@ -5,7 +5,8 @@
 
 namespace norlaplan {
 
-/// A piece of RTF: a brace, a control word with its number, a control symbol, or a stretch of plain text.
+/// A piece of RTF: a brace, a control word with its number, a control symbol, or a stretch of plain text,
+/// which may come in several pieces.
 struct RtfToken {
     enum class Kind { Open, Close, Word, Symbol, Text, End };
     Kind kind = Kind::End;
@@ -32,10 +33,14 @@ class RtfTokens {
 /// The value of a hexadecimal digit; -1 for another character.
 int hexDigit(char c);
 
-/// A code point as UTF-8; a replacement character for one that is none.
+/// A code point as UTF-8. A replacement character for one that is none or that text can't hold (an object's
+/// place, a separator of paragraphs); nothing for a control character other than the tab.
 std::string utf8Of(unsigned code);
 
 /// A byte of the Western code page 1252 as UTF-8.
 std::string utf8OfWestern(unsigned char byte);
+
+/// A byte of a font of signs: bullets as such, any other as in the Western code page.
+std::string utf8OfSign(unsigned char byte);
 
 }  // namespace norlaplan

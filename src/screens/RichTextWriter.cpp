@@ -1,0 +1,236 @@
+#include "screens/RichTextWriter.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QImageReader>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextTable>
+#include <QUrl>
+#include <algorithm>
+#include <cmath>
+
+#include "help/RichDocument.h"
+
+namespace norlaplan {
+namespace {
+
+constexpr double kTwipsPerPixel = 15.0;
+constexpr int kMostPixels = 16 * 1000 * 1000;
+constexpr int kDefaultCell = 1440;
+
+double pixels(int twips) {
+    return twips / kTwipsPerPixel;
+}
+
+QColor colourOf(Colour colour) {
+    return {static_cast<int>(colour & 0xFFU), static_cast<int>(colour >> 8U & 0xFFU),
+            static_cast<int>(colour >> 16U & 0xFFU)};
+}
+
+/// The metric twins of the fonts that documents name, which every machine with this program has.
+QString familyFor(const std::string& font) {
+    if (font.find("Courier") != std::string::npos) return "Liberation Mono";
+    if (font.find("Times") != std::string::npos || font.find("Roman") != std::string::npos)
+        return "Liberation Serif";
+    if (font.find("Arial") != std::string::npos || font.empty()) return "Liberation Sans";
+    return QString::fromStdString(font);
+}
+
+QTextCharFormat formatOf(const CharacterLook& look) {
+    QTextCharFormat format;
+    format.setFontFamilies({familyFor(look.font), "Liberation Sans"});
+    format.setFontPointSize(look.points);
+    format.setFontWeight(look.bold ? QFont::Bold : QFont::Normal);
+    format.setFontItalic(look.italic);
+    format.setFontUnderline(look.underline);
+    format.setFontStrikeOut(look.strike);
+    if (look.script == Script::Sub) format.setVerticalAlignment(QTextCharFormat::AlignSubScript);
+    if (look.script == Script::Super) format.setVerticalAlignment(QTextCharFormat::AlignSuperScript);
+    if (look.colour) format.setForeground(colourOf(*look.colour));
+    if (look.highlight) format.setBackground(colourOf(*look.highlight));
+    return format;
+}
+
+QList<QTextOption::Tab> tabsOf(const ParagraphLook& look) {
+    constexpr QTextOption::TabType kKinds[] = {QTextOption::LeftTab, QTextOption::CenterTab,
+                                               QTextOption::RightTab, QTextOption::DelimiterTab};
+    QList<QTextOption::Tab> tabs;
+    // The end of a hanging indent is a tab stop that no word states; stops count from the indent on.
+    if (look.firstIndent < 0) tabs.append(QTextOption::Tab(0.0, QTextOption::LeftTab));
+    for (const TabStop& tab : look.tabs) {
+        if (tab.position <= look.leftIndent) continue;
+        const bool decimal = tab.alignment == TabAlignment::Decimal;
+        tabs.append(QTextOption::Tab(pixels(tab.position - look.leftIndent),
+                                     kKinds[static_cast<int>(tab.alignment)], decimal ? '.' : QChar()));
+    }
+    return tabs;
+}
+
+QTextBlockFormat formatOf(const ParagraphLook& look) {
+    QTextBlockFormat format;
+    constexpr Qt::Alignment kAlignments[] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight,
+                                             Qt::AlignJustify};
+    format.setAlignment(kAlignments[static_cast<int>(look.alignment)]);
+    format.setLeftMargin(pixels(look.leftIndent));
+    format.setRightMargin(pixels(look.rightIndent));
+    format.setTextIndent(pixels(look.firstIndent));
+    format.setTopMargin(pixels(look.spaceBefore));
+    format.setBottomMargin(pixels(look.spaceAfter));
+    if (look.lineSpacing != 1.0) {
+        format.setLineHeight(look.lineSpacing * 100.0, QTextBlockFormat::ProportionalHeight);
+    }
+    if (look.fill) format.setBackground(colourOf(*look.fill));
+    if (look.pageBreakBefore) format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+    if (const auto tabs = tabsOf(look); !tabs.isEmpty()) format.setTabPositions(tabs);
+    return format;
+}
+
+/// The picture, unless it is damaged or so large that it can only be meant to fill the memory.
+QImage imageOf(const PictureRun& picture) {
+    QByteArray bytes =
+        QByteArray::fromRawData(picture.bytes.data(), static_cast<qsizetype>(picture.bytes.size()));
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer, picture.format.c_str());
+    reader.setAutoDetectImageFormat(false);
+    const QSize size = reader.size();
+    if (!size.isValid() || size.isEmpty() || size.width() > kMostPixels / size.height()) return {};
+    return reader.read();
+}
+
+void insertPicture(QTextCursor& cursor, const PictureRun& picture) {
+    const QImage image = imageOf(picture);
+    if (image.isNull()) return;
+    QTextImageFormat format;
+    const QString name = QString("picture-%1").arg(cursor.position());
+    cursor.document()->addResource(QTextDocument::ImageResource, QUrl(name), image);
+    format.setName(name);
+    if (picture.width > 0) format.setWidth(pixels(picture.width));
+    if (picture.height > 0) format.setHeight(pixels(picture.height));
+    cursor.insertImage(format);
+}
+
+void insertParagraph(QTextCursor& cursor, const Paragraph& paragraph) {
+    cursor.setBlockFormat(formatOf(paragraph.look));
+    for (const Run& run : paragraph.runs) {
+        if (const auto* const text = std::get_if<TextRun>(&run)) {
+            QString shown = QString::fromStdString(text->text);
+            // A line break inside a paragraph is no paragraph's end.
+            shown.replace('\n', QChar::LineSeparator);
+            const QTextCharFormat format = formatOf(text->look);
+            cursor.setBlockCharFormat(format);
+            cursor.insertText(shown, format);
+        } else {
+            insertPicture(cursor, std::get<PictureRun>(run));
+        }
+    }
+}
+
+QList<QTextLength> columnWidths(const TableRow& row) {
+    QList<QTextLength> widths;
+    int left = row.leftEdge;
+    for (const TableCell& cell : row.cells) {
+        const int right = cell.look.rightEdge > left ? cell.look.rightEdge : left + kDefaultCell;
+        widths.append(QTextLength(QTextLength::FixedLength, pixels(right - left)));
+        left = right;
+    }
+    return widths;
+}
+
+bool areOfOneTable(const TableRow& a, const TableRow& b) {
+    return a.leftEdge == b.leftEdge && std::equal(a.cells.begin(), a.cells.end(), b.cells.begin(),
+                                                  b.cells.end(), [](const TableCell& x, const TableCell& y) {
+                                                      return x.look.rightEdge == y.look.rightEdge;
+                                                  });
+}
+
+QTextTableCellFormat formatOf(const CellLook& look) {
+    const QColor line(150, 156, 180);
+    QTextTableCellFormat format;
+    const auto side = [&](bool has, auto setStyle, auto setWidth, auto setBrush) {
+        (format.*setStyle)(has ? QTextFrameFormat::BorderStyle_Solid : QTextFrameFormat::BorderStyle_None);
+        (format.*setWidth)(has ? 1.0 : 0.0);
+        (format.*setBrush)(line);
+    };
+    using Format = QTextTableCellFormat;
+    side(look.left, &Format::setLeftBorderStyle, &Format::setLeftBorder, &Format::setLeftBorderBrush);
+    side(look.top, &Format::setTopBorderStyle, &Format::setTopBorder, &Format::setTopBorderBrush);
+    side(look.right, &Format::setRightBorderStyle, &Format::setRightBorder, &Format::setRightBorderBrush);
+    side(look.bottom, &Format::setBottomBorderStyle, &Format::setBottomBorder, &Format::setBottomBorderBrush);
+    if (look.fill) format.setBackground(colourOf(*look.fill));
+    return format;
+}
+
+void fillCell(QTextTableCell place, const TableCell& cell) {
+    place.setFormat(formatOf(cell.look));
+    QTextCursor inside = place.firstCursorPosition();
+    for (std::size_t i = 0; i < cell.paragraphs.size(); ++i) {
+        if (i > 0) inside.insertBlock();
+        insertParagraph(inside, cell.paragraphs[i]);
+    }
+}
+
+/// A table of the rows from `first` to before `end`, which have the same cells.
+void insertTable(QTextCursor& cursor, const std::vector<Block>& blocks, std::size_t first, std::size_t end) {
+    const auto& head = std::get<TableRow>(blocks[first]);
+    QTextTableFormat format;
+    format.setCellPadding(4.0);
+    format.setCellSpacing(0.0);
+    format.setBorderCollapse(true);
+    format.setBorder(0.0);
+    format.setBorderStyle(QTextFrameFormat::BorderStyle_None);
+    format.setLeftMargin(pixels(std::max(head.leftEdge, 0)));
+    format.setColumnWidthConstraints(columnWidths(head));
+    QTextTable* const table =
+        cursor.insertTable(static_cast<int>(end - first), static_cast<int>(head.cells.size()), format);
+    for (std::size_t i = first; i < end; ++i) {
+        const TableRow& row = std::get<TableRow>(blocks[i]);
+        for (std::size_t cell = 0; cell < row.cells.size(); ++cell) {
+            fillCell(table->cellAt(static_cast<int>(i - first), static_cast<int>(cell)), row.cells[cell]);
+        }
+    }
+    cursor.movePosition(QTextCursor::End);
+}
+
+std::size_t tableEnd(const std::vector<Block>& blocks, std::size_t first) {
+    std::size_t end = first + 1;
+    while (end < blocks.size() && std::holds_alternative<TableRow>(blocks[end]) &&
+           areOfOneTable(std::get<TableRow>(blocks[first]), std::get<TableRow>(blocks[end]))) {
+        ++end;
+    }
+    return end;
+}
+
+/// The line that a text needs before, behind and between its tables takes no room.
+void makeLow(QTextCursor& cursor) {
+    QTextBlockFormat format;
+    format.setLineHeight(1.0, QTextBlockFormat::FixedHeight);
+    cursor.setBlockFormat(format);
+}
+
+}  // namespace
+
+void writeRichText(const RichDocument& document, QTextCursor& cursor) {
+    const std::vector<Block>& blocks = document.blocks;
+    bool onFreshLine = true;
+    for (std::size_t i = 0; i < blocks.size();) {
+        if (std::holds_alternative<TableRow>(blocks[i])) {
+            if (onFreshLine) makeLow(cursor);
+            const std::size_t end = tableEnd(blocks, i);
+            insertTable(cursor, blocks, i, end);
+            makeLow(cursor);
+            onFreshLine = true;
+            i = end;
+            continue;
+        }
+        if (!onFreshLine) cursor.insertBlock();
+        insertParagraph(cursor, std::get<Paragraph>(blocks[i]));
+        onFreshLine = false;
+        ++i;
+    }
+    if (!document.cutShort) return;
+    cursor.insertBlock();
+    insertParagraph(cursor, {{}, {TextRun{"The rest of this document is too long to be shown.", {}}}});
+}
+
+}  // namespace norlaplan
