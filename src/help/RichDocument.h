@@ -61,6 +61,7 @@ struct ParagraphLook {
 struct Paragraph {
     ParagraphLook look;
     std::vector<Run> runs;
+    CharacterLook endLook;  ///< of the sign that ends it: an empty paragraph is as high as that
 };
 
 /// What a row's definition says of a cell.

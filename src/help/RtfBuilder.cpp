@@ -7,7 +7,8 @@ namespace {
 
 // Some five hundred pages: what is read stays small and shows at once, however large the file is.
 constexpr std::size_t kMostParagraphs = 10000;
-constexpr std::size_t kMostRuns = 40000;
+constexpr std::size_t kMostRuns = 20000;
+constexpr std::size_t kMostRows = 3000;
 constexpr std::size_t kMostTextBytes = 2U << 20U;
 constexpr std::size_t kMostPictureBytes = 32U << 20U;
 constexpr std::size_t kMostCells = 64;
@@ -15,8 +16,8 @@ constexpr std::size_t kMostCells = 64;
 }  // namespace
 
 bool RtfBuilder::isFull() const {
-    return paragraphCount_ >= kMostParagraphs || runCount_ >= kMostRuns || textBytes_ >= kMostTextBytes ||
-           pictureBytes_ >= kMostPictureBytes;
+    return paragraphCount_ >= kMostParagraphs || runCount_ >= kMostRuns || rowCount_ >= kMostRows ||
+           textBytes_ >= kMostTextBytes || pictureBytes_ >= kMostPictureBytes;
 }
 
 void RtfBuilder::addText(const std::string& text, const CharacterLook& look) {
@@ -38,28 +39,29 @@ void RtfBuilder::addPicture(PictureRun picture) {
     runs_.emplace_back(std::move(picture));
 }
 
-Paragraph RtfBuilder::takeParagraph(const ParagraphLook& look) {
+Paragraph RtfBuilder::takeParagraph(const RtfLook& look) {
     ++paragraphCount_;
-    Paragraph paragraph{look, std::exchange(runs_, {})};
+    Paragraph paragraph{look.paragraph, std::exchange(runs_, {}), look.character};
     if (std::exchange(breakBefore_, false)) paragraph.look.pageBreakBefore = true;
     return paragraph;
 }
 
-void RtfBuilder::endParagraph(const ParagraphLook& look, bool inTable) {
-    if (inTable) {
+void RtfBuilder::endParagraph(const RtfLook& look) {
+    if (look.inTable) {
         cell_.push_back(takeParagraph(look));
         return;
     }
     document_.blocks.emplace_back(takeParagraph(look));
 }
 
-void RtfBuilder::endCell(const ParagraphLook& look) {
+void RtfBuilder::endCell(const RtfLook& look) {
     cell_.push_back(takeParagraph(look));
     if (row_.cells.size() < kMostCells) row_.cells.push_back({{}, std::move(cell_)});
     cell_.clear();
 }
 
 void RtfBuilder::endRow(const RtfRow& definition) {
+    ++rowCount_;
     row_.leftEdge = definition.leftEdge();
     for (std::size_t i = 0; i < row_.cells.size() && i < definition.cells().size(); ++i) {
         row_.cells[i].look = definition.cells()[i];
@@ -72,10 +74,10 @@ void RtfBuilder::endRow(const RtfRow& definition) {
     cell_.clear();
 }
 
-RichDocument RtfBuilder::take(const ParagraphLook& look, const RtfRow& definition) {
+RichDocument RtfBuilder::take(const RtfLook& look, const RtfRow& definition) {
     document_.cutShort = isFull();
     endRow(definition);
-    if (!runs_.empty()) endParagraph(look, false);
+    if (!runs_.empty()) document_.blocks.emplace_back(takeParagraph(look));
     return std::move(document_);
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "help/RichDocument.h"
+#include "help/RtfLook.h"
 #include "help/RtfRow.h"
 
 namespace norlaplan {
@@ -13,9 +14,8 @@ class RtfBuilder {
   public:
     void addText(const std::string& text, const CharacterLook& look);
     void addPicture(PictureRun picture);
-    /// `inTable`: the paragraph belongs to the cell in hand.
-    void endParagraph(const ParagraphLook& look, bool inTable);
-    void endCell(const ParagraphLook& look);
+    void endParagraph(const RtfLook& look);
+    void endCell(const RtfLook& look);
     void endRow(const RtfRow& definition);
     void pageBreak() { breakBefore_ = true; }
 
@@ -23,17 +23,17 @@ class RtfBuilder {
     bool isFull() const;
 
     /// The document, with what was not ended yet: the paragraph with its look, the row with its definition.
-    RichDocument take(const ParagraphLook& look, const RtfRow& definition);
+    RichDocument take(const RtfLook& look, const RtfRow& definition);
 
   private:
-    Paragraph takeParagraph(const ParagraphLook& look);
+    Paragraph takeParagraph(const RtfLook& look);
 
     RichDocument document_;
     std::vector<Run> runs_;
     std::vector<Paragraph> cell_;
     TableRow row_;
     bool breakBefore_ = false;
-    std::size_t paragraphCount_ = 0, runCount_ = 0, textBytes_ = 0, pictureBytes_ = 0;
+    std::size_t paragraphCount_ = 0, runCount_ = 0, rowCount_ = 0, textBytes_ = 0, pictureBytes_ = 0;
 };
 
 }  // namespace norlaplan

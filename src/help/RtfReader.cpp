@@ -95,7 +95,7 @@ class Reader {
              token = tokens_.next()) {
             handle(token);
         }
-        return builder_.take(state_.look.paragraph, row_);
+        return builder_.take(state_.look, row_);
     }
 
   private:
@@ -226,7 +226,7 @@ class Reader {
         }
     }
 
-    void endParagraph() { builder_.endParagraph(state_.look.paragraph, state_.look.inTable); }
+    void endParagraph() { builder_.endParagraph(state_.look); }
 
     void word(const RtfToken& token) {
         if (token.text == "bin") {
@@ -278,8 +278,8 @@ class Reader {
         if (name == "uc") state_.fallbackLength = std::clamp(token.number, 0, 16);
         if (name == "deff") tables_.defaultFont = token.number;
         // The cells of a table in a table are shown as paragraphs of the outer one's cell.
-        if (name == "nestcell") return builder_.endParagraph(state_.look.paragraph, true);
-        if (name == "cell") return builder_.endCell(state_.look.paragraph);
+        if (name == "nestcell") return endParagraph();
+        if (name == "cell") return builder_.endCell(state_.look);
         if (name == "row") return builder_.endRow(row_);
         row_.word(token, tables_);
     }

@@ -11,7 +11,7 @@ namespace norlaplan {
 RichTextBox::RichTextBox() {
     setReadOnly(true);
     setUndoRedoEnabled(false);
-    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setCursorWidth(0);
     setPalette(theme::paper());
     document()->setDocumentMargin(24.0);
 }

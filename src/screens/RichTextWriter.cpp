@@ -17,7 +17,10 @@ namespace {
 
 constexpr double kTwipsPerPixel = 15.0;
 constexpr int kMostPixels = 16 * 1000 * 1000;
+/// The viewer has no pages: a new one shows as a wide gap.
+constexpr double kPageGap = 48.0;
 constexpr int kDefaultCell = 1440;
+constexpr char16_t kNoWidth = 0x200B;
 
 double pixels(int twips) {
     return twips / kTwipsPerPixel;
@@ -56,13 +59,14 @@ QList<QTextOption::Tab> tabsOf(const ParagraphLook& look) {
     constexpr QTextOption::TabType kKinds[] = {QTextOption::LeftTab, QTextOption::CenterTab,
                                                QTextOption::RightTab, QTextOption::DelimiterTab};
     QList<QTextOption::Tab> tabs;
-    // The end of a hanging indent is a tab stop that no word states; stops count from the indent on.
-    if (look.firstIndent < 0) tabs.append(QTextOption::Tab(0.0, QTextOption::LeftTab));
+    // Stops count from where the first line starts, whose end of a hanging indent is one that no word states.
+    const int start = look.leftIndent + look.firstIndent;
+    if (look.firstIndent < 0) tabs.append(QTextOption::Tab(pixels(-look.firstIndent), QTextOption::LeftTab));
     for (const TabStop& tab : look.tabs) {
-        if (tab.position <= look.leftIndent) continue;
+        if (tab.position <= std::max(start, look.leftIndent)) continue;
         const bool decimal = tab.alignment == TabAlignment::Decimal;
-        tabs.append(QTextOption::Tab(pixels(tab.position - look.leftIndent),
-                                     kKinds[static_cast<int>(tab.alignment)], decimal ? '.' : QChar()));
+        tabs.append(QTextOption::Tab(pixels(tab.position - start), kKinds[static_cast<int>(tab.alignment)],
+                                     decimal ? '.' : QChar()));
     }
     return tabs;
 }
@@ -81,7 +85,10 @@ QTextBlockFormat formatOf(const ParagraphLook& look) {
         format.setLineHeight(look.lineSpacing * 100.0, QTextBlockFormat::ProportionalHeight);
     }
     if (look.fill) format.setBackground(colourOf(*look.fill));
-    if (look.pageBreakBefore) format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+    if (look.pageBreakBefore) {
+        format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+        format.setTopMargin(kPageGap);
+    }
     if (const auto tabs = tabsOf(look); !tabs.isEmpty()) format.setTabPositions(tabs);
     return format;
 }
@@ -112,14 +119,14 @@ void insertPicture(QTextCursor& cursor, const PictureRun& picture) {
 
 void insertParagraph(QTextCursor& cursor, const Paragraph& paragraph) {
     cursor.setBlockFormat(formatOf(paragraph.look));
+    // Without a sign of its own, an empty line beside a table would have no height.
+    if (paragraph.runs.empty()) cursor.insertText(QChar(kNoWidth), formatOf(paragraph.endLook));
     for (const Run& run : paragraph.runs) {
         if (const auto* const text = std::get_if<TextRun>(&run)) {
             QString shown = QString::fromStdString(text->text);
             // A line break inside a paragraph is no paragraph's end.
             shown.replace('\n', QChar::LineSeparator);
-            const QTextCharFormat format = formatOf(text->look);
-            cursor.setBlockCharFormat(format);
-            cursor.insertText(shown, format);
+            cursor.insertText(shown, formatOf(text->look));
         } else {
             insertPicture(cursor, std::get<PictureRun>(run));
         }
@@ -162,12 +169,19 @@ QTextTableCellFormat formatOf(const CellLook& look) {
 }
 
 void fillCell(QTextTableCell place, const TableCell& cell) {
-    place.setFormat(formatOf(cell.look));
     QTextCursor inside = place.firstCursorPosition();
     for (std::size_t i = 0; i < cell.paragraphs.size(); ++i) {
         if (i > 0) inside.insertBlock();
         insertParagraph(inside, cell.paragraphs[i]);
     }
+    // The cell's look is kept where that of its first paragraph is, so it comes last.
+    place.setFormat(formatOf(cell.look));
+}
+
+/// The room below the paragraph before a table, which its own margin doesn't give there.
+double roomAbove(const std::vector<Block>& blocks, std::size_t first) {
+    const auto* const before = first == 0 ? nullptr : std::get_if<Paragraph>(&blocks[first - 1]);
+    return before == nullptr ? 0.0 : pixels(before->look.spaceAfter);
 }
 
 /// A table of the rows from `first` to before `end`, which have the same cells.
@@ -180,6 +194,7 @@ void insertTable(QTextCursor& cursor, const std::vector<Block>& blocks, std::siz
     format.setBorder(0.0);
     format.setBorderStyle(QTextFrameFormat::BorderStyle_None);
     format.setLeftMargin(pixels(std::max(head.leftEdge, 0)));
+    format.setTopMargin(roomAbove(blocks, first));
     format.setColumnWidthConstraints(columnWidths(head));
     QTextTable* const table =
         cursor.insertTable(static_cast<int>(end - first), static_cast<int>(head.cells.size()), format);
@@ -201,13 +216,6 @@ std::size_t tableEnd(const std::vector<Block>& blocks, std::size_t first) {
     return end;
 }
 
-/// The line that a text needs before, behind and between its tables takes no room.
-void makeLow(QTextCursor& cursor) {
-    QTextBlockFormat format;
-    format.setLineHeight(1.0, QTextBlockFormat::FixedHeight);
-    cursor.setBlockFormat(format);
-}
-
 }  // namespace
 
 void writeRichText(const RichDocument& document, QTextCursor& cursor) {
@@ -215,10 +223,8 @@ void writeRichText(const RichDocument& document, QTextCursor& cursor) {
     bool onFreshLine = true;
     for (std::size_t i = 0; i < blocks.size();) {
         if (std::holds_alternative<TableRow>(blocks[i])) {
-            if (onFreshLine) makeLow(cursor);
             const std::size_t end = tableEnd(blocks, i);
             insertTable(cursor, blocks, i, end);
-            makeLow(cursor);
             onFreshLine = true;
             i = end;
             continue;
@@ -230,7 +236,7 @@ void writeRichText(const RichDocument& document, QTextCursor& cursor) {
     }
     if (!document.cutShort) return;
     cursor.insertBlock();
-    insertParagraph(cursor, {{}, {TextRun{"The rest of this document is too long to be shown.", {}}}});
+    insertParagraph(cursor, {{}, {TextRun{"The rest of this document is too long to be shown.", {}}}, {}});
 }
 
 }  // namespace norlaplan

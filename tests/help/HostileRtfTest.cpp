@@ -44,7 +44,7 @@ TEST_P(LargeRtf, EndsSoonWithADocumentOfBoundedSize) {
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
     ASSERT_TRUE(document.has_value());
     EXPECT_LE(document->blocks.size(), 10001U);
-    EXPECT_LE(runsOf(*document), 40001U);
+    EXPECT_LE(runsOf(*document), 20001U);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -134,6 +134,13 @@ TEST(RtfReader, TheDefaultFontHoldsUntilAnotherIsNamed) {
     EXPECT_EQ(firstRun(*document).look.font, "Courier New");
 }
 
+TEST(RtfReader, AnEmptyParagraphKeepsTheSizeOfItsEnd) {
+    const auto document = readRtf(R"({\rtf1 a\par{\fs8\par}})");
+    const auto& empty = std::get<Paragraph>(document->blocks.at(1));
+    EXPECT_TRUE(empty.runs.empty());
+    EXPECT_EQ(empty.endLook.points, 4.0);
+}
+
 TEST(RtfReader, APageBreakStandsBeforeTheNextParagraph) {
     const auto document = readRtf(R"({\rtf1 a\par\page b\par c\par})");
     EXPECT_FALSE(std::get<Paragraph>(document->blocks.at(0)).look.pageBreakBefore);
