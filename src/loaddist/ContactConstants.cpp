@@ -1,7 +1,9 @@
 #include "loaddist/ContactConstants.h"
 
 #include <cmath>
+#include <optional>
 
+#include "loaddist/EllipticEstimate.h"
 #include "loaddist/EllipticIntegrals.h"
 #include "numbers/Arithmetic.h"
 #include "numbers/PiValue.h"
@@ -14,6 +16,23 @@ namespace {
 struct Ellipse {
     Single K, E, kappaSq;
 };
+
+/// The curvature ratio that belongs to an ellipse, in 32 bits.
+Single curvatureRatio(Single kappaSq, const EllipticResult& integrals) {
+    return divide(kappaSq * integrals.E - integrals.K, integrals.K - integrals.E);
+}
+
+/// Where the estimate of the integrals settles the sign of the bisection's function, that function near
+/// enough; nothing where only the panels can tell.
+std::optional<Single> settledDifference(Single m, Single q, Single kappaSq, double ratio) {
+    constexpr double kLeastSquare = 0.25;
+    constexpr double kMargin = 1e-6;
+    if (m < kLeastSquare || q < kLeastEstimatedComplement) return std::nullopt;
+    const double f = curvatureRatio(kappaSq, estimateEllipticIntegrals(m, q)) - ratio;
+    // Far beyond what 32 bits and the panels can differ by.
+    if (std::fabs(f) < kMargin * (std::fabs(ratio) + 1.0)) return std::nullopt;
+    return f;
+}
 
 /// Bisects the square m of the eccentricity until the ratio of the curvatures is met or the 32-bit m stands
 /// still.
@@ -28,11 +47,16 @@ Ellipse matchEllipse(double ratio, MessagePort& messages) {
         const Single m = (lo + hi) / 2.0;
         const Single q = 1.0 - m;
         const Single kappaSq = divide(1.0, q);
-        const EllipticResult integrals = EllipticIntegrals(m);
-        const Single r = divide(kappaSq * integrals.E - integrals.K, integrals.K - integrals.E);
-        const Single f = r - ratio;
+        Single f;
+        if (const auto settled = m == previous ? std::nullopt : settledDifference(m, q, kappaSq, ratio)) {
+            f = *settled;
+        } else {
+            const EllipticResult integrals = EllipticIntegrals(m);
+            f = curvatureRatio(kappaSq, integrals) - ratio;
+            if (f == 0.0 || m == previous) return {integrals.K, integrals.E, kappaSq};
+        }
+        // Only the signs of these two go on to the next pass.
         const Single p = flo * f;
-        if (f == 0.0 || m == previous) return {integrals.K, integrals.E, kappaSq};
         if (p < 0.0) hi = m;
         if (p > 0.0) {
             lo = m;

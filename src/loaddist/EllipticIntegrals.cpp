@@ -31,20 +31,24 @@ const Panels& squaredSines() {
 EllipticResult EllipticIntegrals(double m) {
     const Panels& squares = squaredSines();
     // Roots and quotients have no order among themselves; only the two sums do.
-    Panels w;
-    Panels v;
-    for (std::size_t j = 0; j < kPanels; ++j) {
-        w[j] = std::sqrt(1.0 - m * squares[j]);
-        v[j] = 1.0 / w[j];
-    }
+    std::array<double, kPanels + 1> w;
+    std::array<double, kPanels + 1> v;
+    w[0] = 1.0;
+    v[0] = 1.0;
+    for (std::size_t j = 0; j < kPanels; ++j)
+        w[j + 1] = std::sqrt(1.0 - m * squares[j]);
+    for (std::size_t j = 0; j < kPanels; ++j)
+        v[j + 1] = 1.0 / w[j + 1];
+    Panels panelK;
+    Panels panelE;
+    for (std::size_t j = 0; j < kPanels; ++j)
+        panelK[j] = (v[j + 1] + v[j]) * PiValue / 4000.0;
+    for (std::size_t j = 0; j < kPanels; ++j)
+        panelE[j] = (w[j + 1] + w[j]) * PiValue / 4000.0;
     EllipticResult sum;
-    double wPrevious = 1.0;
-    double vPrevious = 1.0;
     for (std::size_t j = 0; j < kPanels; ++j) {
-        sum.K = sum.K + (v[j] + vPrevious) * PiValue / 4000.0;
-        sum.E = sum.E + (w[j] + wPrevious) * PiValue / 4000.0;
-        vPrevious = v[j];
-        wPrevious = w[j];
+        sum.K = sum.K + panelK[j];
+        sum.E = sum.E + panelE[j];
     }
     if (std::isfinite(sum.K) && std::isfinite(sum.E)) return sum;
     for (const double square : squares)

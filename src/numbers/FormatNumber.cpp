@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
 
 #include "numbers/Arithmetic.h"
@@ -55,15 +55,18 @@ struct Decimal {
 
 Decimal toDecimal(double magnitude) {
     std::array<char, 40> buffer{};
-    std::snprintf(buffer.data(), buffer.size(), "%.*e", kSignificantDigits - 1, magnitude);
-    const std::string text(buffer.data());
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
+                                   std::chars_format::scientific, kSignificantDigits - 1)
+                         .ptr;
+    const std::string_view text(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
     const std::size_t mark = text.find('e');
     Decimal decimal;
     for (const char c : text.substr(0, mark)) {
-        // Whatever the locale prints for a point is passed over.
-        if (c >= '0' && c <= '9') decimal.digits += c;
+        if (c != '.') decimal.digits += c;
     }
-    decimal.scale = std::atoi(text.c_str() + mark + 1) + 1;
+    const std::size_t digits = mark + (text[mark + 1] == '+' ? 2 : 1);
+    std::from_chars(text.data() + digits, text.data() + text.size(), decimal.scale);
+    ++decimal.scale;
     if (decimal.isZero()) decimal.scale = 0;
     return decimal;
 }
