@@ -1,0 +1,117 @@
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "documents/OverlayReader.h"
+
+namespace norlaplan {
+namespace {
+
+std::vector<SheetRecord> drawn(const std::string& plot) {
+    RtfDocument document;
+    OverlayToRtf(document, plot);
+    return readSheetRecords(document.records());
+}
+
+std::size_t shapes(const std::string& plot) {
+    return drawn(plot).size();
+}
+
+const SheetLine& line(const std::vector<SheetRecord>& records, std::size_t index) {
+    return std::get<SheetLine>(records.at(index));
+}
+
+TEST(Overlay, MapsPlotterUnitsToPageInches) {
+    const auto records = drawn("IN;PU1016,2032;PD2032,2032,2032,0;");
+    ASSERT_EQ(records.size(), 2U);
+    EXPECT_DOUBLE_EQ(line(records, 0).from.x, 1.25);
+    EXPECT_DOUBLE_EQ(line(records, 0).from.y, 2.625);
+    EXPECT_DOUBLE_EQ(line(records, 0).to.x, 2.25);
+    EXPECT_DOUBLE_EQ(line(records, 1).from.x, 2.25) << "the pen has moved";
+    EXPECT_DOUBLE_EQ(line(records, 1).to.y, 0.625);
+}
+
+TEST(Overlay, StartsThickAndBlackAndGoesThinWithItsPens) {
+    const auto records = drawn("PD1,1;SP1;PD2,2;SP99;PD3,3;PW.45;PD4,4;LT5;PD5,5;LT-3;PD6,6;LT0;PD7,7;");
+    ASSERT_EQ(records.size(), 7U);
+    EXPECT_EQ(line(records, 0).width, 19050.0);
+    EXPECT_EQ(line(records, 0).colour, 0U);
+    EXPECT_EQ(line(records, 1).width, 9525.0);
+    EXPECT_EQ(line(records, 1).colour, 255U);
+    EXPECT_EQ(line(records, 2).colour, 255U) << "another pen changes nothing";
+    EXPECT_EQ(line(records, 3).colour, 16711680U);
+    EXPECT_EQ(line(records, 4).dash, 8);
+    EXPECT_EQ(line(records, 5).dash, 6);
+    EXPECT_EQ(line(records, 6).dash, 0);
+}
+
+TEST(Overlay, DrawsNothingForAPenThatGoesNowhere) {
+    EXPECT_EQ(shapes("PU100,100;PD;"), 0U);
+    EXPECT_EQ(shapes("PU;PD5,5;"), 1U);
+    EXPECT_EQ(shapes("LBTEXT PD1,1;"), 0U) << "capitals belong to a label";
+    EXPECT_EQ(shapes("\x1B.PD1,1;\nPD1,1;"), 1U) << "an escape skips its line";
+}
+
+TEST(Overlay, ReadsParametersUpToTheNextMnemonic) {
+    EXPECT_EQ(shapes("PU0 0PD 10  10PD20,20"), 2U);
+}
+
+TEST(Overlay, DrawsAFullTurnAsOneCircle) {
+    for (const char* const sweep : {"359", "360", "720"}) {
+        const auto records = drawn(std::string("PU1016,0;AA0,0,") + sweep + ";");
+        ASSERT_EQ(records.size(), 1U);
+        EXPECT_DOUBLE_EQ(std::get<SheetCircle>(records[0]).radius, 1.0);
+    }
+    EXPECT_EQ(shapes("PU1016,0;AA0,0,0;"), 0U) << "no sweep, no arc";
+}
+
+TEST(Overlay, TakesMoreChordsForALargerArc) {
+    const struct {
+        double radius;
+        std::size_t chords;
+    } rows[] = {{0.02, 6}, {0.04, 10}, {0.2, 20}, {0.9, 30}, {1.5, 50}};
+    for (const auto& row : rows) {
+        const std::string x = std::to_string(static_cast<int>(row.radius * 1016.0));
+        EXPECT_EQ(shapes("PU" + x + ",0;AA0,0,90;"), row.chords) << row.radius;
+    }
+}
+
+TEST(Overlay, BeginsAnArcAtThePensAngle) {
+    const struct {
+        const char* pen;
+        double x, y;  ///< where the first chord begins, from the centre in inches
+    } rows[] = {{"1016,0", 1, 0},    {"0,1016", 0, 1},      {"-1016,0", -1, 0},      {"0,-1016", 0, -1},
+                {"1016,1016", 1, 1}, {"-1016,1016", -1, 1}, {"-1016,-1016", -1, -1}, {"1016,-1016", 1, -1}};
+    for (const auto& row : rows) {
+        const auto records = drawn(std::string("PU") + row.pen + ";AA0,0,90;");
+        EXPECT_NEAR(line(records, 0).from.x - 0.25, row.x, 1e-6) << row.pen;
+        EXPECT_NEAR(line(records, 0).from.y - 0.625, row.y, 1e-6) << row.pen;
+        // A quarter turn counter-clockwise of (x, y) is (-y, x).
+        EXPECT_NEAR(line(records, records.size() - 1).to.x - 0.25, -row.y, 1e-6) << row.pen;
+        EXPECT_NEAR(line(records, records.size() - 1).to.y - 0.625, row.x, 1e-6) << row.pen;
+    }
+}
+
+TEST(Overlay, SurvivesGarbage) {
+    std::string garbage;
+    unsigned random = 99;
+    for (int i = 0; i < 300000; ++i) {
+        random = random * 1664525U + 1013904223U;
+        garbage += static_cast<char>(static_cast<unsigned char>(random >> 24U));
+    }
+    EXPECT_NO_THROW(shapes(garbage));
+    EXPECT_NO_THROW(shapes("PD99999999999999999999,1e308,nan,inf;AA1e99,2,3;PDx,y;AA"));
+    EXPECT_LE(shapes([] {
+                  std::string plot = "PD";
+                  for (int i = 0; i < 100000; ++i)
+                      plot += "1,2,3,4,";
+                  return plot;
+              }()),
+              20000U)
+        << "a plot has an end";
+}
+
+}  // namespace
+}  // namespace norlaplan
