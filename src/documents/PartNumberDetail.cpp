@@ -25,7 +25,8 @@ class DetailWriter {
     void line(const std::string& code, const std::string& meaning) {
         const double codeWidth = 0.085 * static_cast<double>(std::max<std::size_t>(code.size(), 1));
         sheet_.text({kLeft, y_, kLeft + codeWidth + 0.1, y_ - kLine}, code, {kSize, "BLUE", true});
-        sheet_.text({kLeft + codeWidth, y_, kRight, y_ - kLine}, " " + meaning, {kSize});
+        const std::string gap = meaning.starts_with(" ") ? "" : " ";
+        sheet_.text({kLeft + codeWidth, y_, kRight, y_ - kLine}, gap + meaning, {kSize});
         y_ -= kLine;
     }
 
