@@ -77,12 +77,12 @@ def overview():
                   "characters, or *ten* when the internal fit is not the "
                   "standard one."),
         strip("K19013XP0", (
-            ("1", 1400, "K", "Ring material"),
-            ("2  3  4", 1500, "190", "Bore in mm"),
-            ("5  6", 1500, "13", "Cross-section in mm"),
-            ("7", 1240, "X", "Style"), ("8", 1240, "P", "Separator"),
+            ("1", 1300, "K", "Ring material"),
+            ("2  3  4", 1300, "190", "Bore in mm"),
+            ("5  6", 1860, "13", "Cross-section in mm"),
+            ("7", 1200, "X", "Style"), ("8", 1240, "P", "Separator"),
             ("9", 1240, "0", "Precision"),
-            ("10", 1240, "\u2013", "Internal fit"))),
+            ("10", 1220, "\u2013", "Internal fit"))),
         paragraph("Rings of vacuum degassed 52100 steel, 190 mm bore, a "
                   "cross-section of 13 mm, four-point contact, a snapover "
                   "brass ribbon, precision class 1, and the standard "
