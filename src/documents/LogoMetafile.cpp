@@ -83,7 +83,7 @@ Words textWords(std::string_view text) {
 }
 
 void addFont(Metafile& metafile) {
-    constexpr int kFontHeight = -560;
+    constexpr int kFontHeight = -440;
     constexpr std::uint16_t kBold = 700;
     Words font = {Metafile::word(kFontHeight), 0, 0, 0, kBold, 0, 0, 0, 0};
     std::string face = "Arial";
@@ -150,7 +150,7 @@ std::string logoMetafileHex() {
         metafile.add(kSelectObject, {object});
     metafile.add(kSetTextColour, {kNavyLow, kNavyHigh});
     addRing(metafile);
-    addText(metafile, "VARDEN", 980, 150);
+    addText(metafile, "VARDEN", 980, 210);
     return hexOf(metafile.file(3));
 }
 
