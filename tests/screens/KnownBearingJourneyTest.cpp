@@ -1,0 +1,184 @@
+#include <QLabel>
+#include <QLineEdit>
+
+#include "screens/Program.h"
+
+namespace norlaplan::testing {
+namespace {
+
+/// From a part number to its load-life report, by the controls that a user works with.
+class KnownBearingJourneyTest : public QObject {
+    Q_OBJECT
+
+  private:
+    static void type(Program& program, const std::string& form, const char* field, const char* text) {
+        QLineEdit& edit = program.control<QLineEdit>(form, field);
+        edit.clear();
+        QTest::keyClicks(&edit, text);
+    }
+    static QString label(Program& program, const char* name) {
+        return program.control<QLabel>("Form19", name).text();
+    }
+
+    static void enterNumber(Program& program, const char* number) {
+        program.screens.showAlone("Form3");
+        program.click("Form3", "Command8");
+        type(program, "Form9", "Text1", number);
+        QTest::keyClick(&program.control<QLineEdit>("Form9", "Text1"), Qt::Key_Return);
+    }
+    static void openLife(Program& program, const char* radial, const char* axial, const char* moment,
+                         const char* speed) {
+        program.click("Form3", "Command13");
+        type(program, "Form14", "Text1", radial);
+        type(program, "Form14", "Text2", axial);
+        type(program, "Form14", "Text3", moment);
+        type(program, "Form14", "Text4", speed);
+        program.click("Form14", "Command1");
+    }
+
+  private slots:
+    void showsLifeSafetyTorqueAndVerdict() {
+        Program program;
+        program.state.unitSystem = "US";
+        enterNumber(program, "k19013xp0");
+        QCOMPARE(program.inFront(), std::string("Form3"));
+        openLife(program, "1200", "300", "900", "400");
+        QCOMPARE(program.inFront(), std::string("Form19"));
+        QCOMPARE(program.screens.form("Form19").windowTitle(),
+                 QString("LOAD-LIFE CALCULATION FOR K19013XP0"));
+        QCOMPARE(label(program, "Label1"), QString("BORE       = 7.4803 inches"));
+        QCOMPARE(label(program, "Label4"), QString("RADIAL = 1,200 pounds"));
+        QCOMPARE(label(program, "Label7"), QString("SPEED =  400 RPM"));
+        QVERIFY(label(program, "Label8").startsWith("L10 LIFE = "));
+        QVERIFY(label(program, "Label9").endsWith(" HOURS"));
+        QVERIFY(label(program, "Label10").startsWith("STATIC SAFETY FACTOR = "));
+        QVERIFY(label(program, "Label11").startsWith("The speed of 400 RPM is below"));
+        QVERIFY(program.control<QLabel>("Form19", "Label11").isVisible());
+    }
+
+    void hidesSpeedHoursAndVerdictWithoutASpeed() {
+        Program program;
+        enterNumber(program, "K19013XP0");
+        openLife(program, "1200", "", "", "");
+        QCOMPARE(program.inFront(), std::string("Form19"));
+        for (const char* const name : {"Label7", "Label9", "Label11"}) {
+            QVERIFY2(!program.control<QLabel>("Form19", name).isVisible(), name);
+        }
+    }
+
+    void savesAndPrintsTheReport() {
+        Program program;
+        enterNumber(program, "K19013BR0N");
+        openLife(program, "500", "100", "50", "100");
+        program.saveDialog.choice = SaveChoice{program.files.path() / "life.rtf", 1};
+        program.click("Form19", "Command4");
+        QCOMPARE(program.saveDialog.requests.back().name, std::string("K19013BR0N-load.rtf"));
+        QVERIFY(program.files.read("life.rtf").find("K19013BR0N") != std::string::npos);
+        QCOMPARE(program.state.lastSavedFile, (program.files.path() / "life.rtf").string());
+        program.click("Form19", "Command3");
+        QCOMPARE(program.printer.documents.size(), std::size_t{1});
+        QVERIFY(program.printer.canvas.hasText("RESULTS OF LOAD-LIFE CALCULATION FOR : "));
+    }
+
+    void leavesNothingBehindWhenTheSaveIsCancelled() {
+        Program program;
+        enterNumber(program, "K19013XP0");
+        openLife(program, "500", "", "", "");
+        program.click("Form19", "Command4");
+        QVERIFY(program.state.lastSavedFile.empty());
+        QVERIFY(program.messages.shown.empty());
+    }
+
+    void goesBackToTheLoadsWithPreviousAndToTheMenuOnClosing() {
+        Program program;
+        enterNumber(program, "K19013XP0");
+        openLife(program, "500", "", "", "");
+        program.click("Form19", "Command1");
+        QCOMPARE(program.inFront(), std::string("Form14"));
+        QVERIFY(program.state.knownBearingLoadInput);
+        QCOMPARE(program.control<QLineEdit>("Form14", "Text1").text(), QString("500"));
+        program.click("Form14", "Command1");
+        program.screens.form("Form19").close();
+        QCOMPARE(program.inFront(), std::string("Form3"));
+        QVERIFY(!program.state.knownBearingLoadInput);
+    }
+
+    void hidesOnEscape() {
+        Program program;
+        enterNumber(program, "K19013XP0");
+        openLife(program, "500", "", "", "");
+        QTest::keyClick(&program.screens.form("Form19"), Qt::Key_Escape);
+        QCOMPARE(program.inFront(), std::string("Form3"));
+    }
+
+    void tellsOfABadLoadAndStays() {
+        Program program;
+        enterNumber(program, "K19013XP0");
+        program.click("Form3", "Command13");
+        program.control<QLineEdit>("Form14", "Text2").setText("abc");
+        program.click("Form14", "Command1");
+        QCOMPARE(program.lastMessage().title, std::string("Please correct load"));
+        QCOMPARE(program.lastMessage().prompt, std::string("Axial Load input error"));
+        QCOMPARE(program.inFront(), std::string("Form14"));
+    }
+
+    void tellsOfANegativeAxialLoadWithAdviceAndStays() {
+        Program program;
+        enterNumber(program, "K19013XP0");
+        openLife(program, "500", "-100", "", "");
+        QCOMPARE(program.lastMessage().title, std::string("Run-time error '5'"));
+        QVERIFY(program.lastMessage().prompt.find("Proceed to life calculation") != std::string::npos);
+        QVERIFY(program.lastMessage().prompt.find("positive number") != std::string::npos);
+        QCOMPARE(program.inFront(), std::string("Form14"));
+    }
+
+    void takesOnlyARadialLoadForARadialBearing() {
+        Program program;
+        enterNumber(program, "K19013CP0");
+        program.click("Form3", "Command13");
+        for (const char* const name : {"Text2", "Text3"}) {
+            QVERIFY(!program.control<QLineEdit>("Form14", name).isVisible());
+        }
+        QVERIFY(program.control<QLineEdit>("Form14", "Text4").isVisible());
+    }
+
+    void takesNoSpeedForABearingWithoutSeparator() {
+        Program program;
+        enterNumber(program, "K19013XF0");
+        program.click("Form3", "Command13");
+        QVERIFY(!program.control<QLineEdit>("Form14", "Text4").isEnabled());
+    }
+
+    void showsTheSideScreenButtonsByTheirOptions() {
+        Program program;
+        program.state.options.ballShowOption = true;
+        program.state.options.pathStressOption = true;
+        enterNumber(program, "K19013XP0");
+        openLife(program, "500", "", "", "");
+        QVERIFY(program.control<QAbstractButton>("Form19", "Command5").isVisible());
+        QVERIFY(!program.control<QAbstractButton>("Form19", "Command6").isVisible());
+        QVERIFY(program.control<QAbstractButton>("Form19", "Command7").isVisible());
+        QVERIFY(!program.control<QAbstractButton>("Form19", "Command8").isVisible());
+    }
+
+    void keepsItsValuesOnTheWayBackFromASideScreen() {
+        Program program;
+        program.blank("Form27");
+        program.state.options.lubeFilmOption = true;
+        enterNumber(program, "K19013XP0");
+        openLife(program, "500", "", "", "");
+        const QString before = label(program, "Label8");
+        program.click("Form19", "Command6");
+        QCOMPARE(program.inFront(), std::string("Form27"));
+        program.state.loads.radialLoad = 5000.0;
+        program.screens.form("Form27").close();
+        QCOMPARE(program.inFront(), std::string("Form19"));
+        QCOMPARE(label(program, "Label8"), before);
+    }
+};
+
+}  // namespace
+}  // namespace norlaplan::testing
+
+QTEST_MAIN(norlaplan::testing::KnownBearingJourneyTest)
+#include "KnownBearingJourneyTest.moc"

@@ -1,0 +1,195 @@
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include "screens/Program.h"
+#include "state/StyleTable.h"
+
+namespace norlaplan::testing {
+namespace {
+
+/// From a style to a chosen bearing, by the controls that a user works with.
+class SearchJourneyTest : public QObject {
+    Q_OBJECT
+
+  private:
+    static void type(Program& program, const std::string& form, const char* field, const char* text) {
+        QLineEdit& edit = program.control<QLineEdit>(form, field);
+        edit.clear();
+        QTest::keyClicks(&edit, text);
+    }
+    static void chooseStyle(Program& program, std::size_t row) {
+        program.screens.showAlone("Form3");
+        program.click("Form3", "Command4");
+        program.click("Form16", qPrintable(QString("Image%1").arg(row + 1)));
+        program.click("Form16", "Command1");
+    }
+    static void enterSizes(Program& program, const char* bore, const char* od, const char* low,
+                           const char* high) {
+        type(program, "Form12", "Text1", bore);
+        type(program, "Form12", "Text2", od);
+        type(program, "Form12", "Text3", low);
+        type(program, "Form12", "Text4", high);
+        program.click("Form12", "Command2");
+    }
+    static void enterLoads(Program& program, const char* radial, const char* speed) {
+        type(program, "Form14", "Text1", radial);
+        type(program, "Form14", "Text4", speed);
+        program.click("Form14", "Command1");
+    }
+    static void search(Program& program, std::size_t row, const char* speed = "") {
+        chooseStyle(program, row);
+        enterSizes(program, "5", "9", ".2", "1.2");
+        enterLoads(program, "500", speed);
+    }
+    static QComboBox& list(Program& program) { return program.control<QComboBox>("Form15", "Combo1"); }
+
+  private slots:
+    void listsWhatFitsForEveryStyle() {
+        for (std::size_t row = 0; row < kStyles.size(); ++row) {
+            Program program;
+            search(program, row, "100");
+            QCOMPARE(program.inFront(), std::string("Form15"));
+            QCOMPARE(program.screens.form("Form15").windowTitle(),
+                     QString("LIFE CALCULATION RESULTS FOR ") + kStyles[row].caption);
+            QVERIFY(list(program).count() > 0);
+            QVERIFY(list(program).currentText().contains(" hrs.    STOCK - "));
+            QVERIFY(program.control<QLabel>("Form15", "Label8").isVisible());
+            QVERIFY(program.control<QGroupBox>("Form15", "Frame5").isVisible());
+        }
+    }
+
+    void showsNoHoursWithoutASpeed() {
+        Program program;
+        search(program, 1);
+        QVERIFY(!list(program).currentText().contains("hrs."));
+        QVERIFY(!program.control<QLabel>("Form15", "Label8").isVisible());
+    }
+
+    void wantsAStyleFirst() {
+        Program program;
+        program.screens.showAlone("Form3");
+        program.click("Form3", "Command4");
+        program.click("Form16", "Command1");
+        QCOMPARE(program.lastMessage().title, std::string("No bearing style chosen"));
+        QCOMPARE(program.inFront(), std::string("Form16"));
+    }
+
+    void wantsEverySizeAndSwapsThoseInTheWrongOrder() {
+        Program program;
+        chooseStyle(program, 1);
+        program.click("Form12", "Command2");
+        QCOMPARE(program.lastMessage().prompt, std::string("Please Enter Minimum Bore"));
+        enterSizes(program, "9", "5", "1.2", ".2");
+        QCOMPARE(program.inFront(), std::string("Form14"));
+        QCOMPARE(program.state.criteria.minBore, Single(5.0));
+        QCOMPARE(program.control<QLineEdit>("Form12", "Text1").text(), QString("5"));
+    }
+
+    void comesBackToTheSizesWhenNothingFits() {
+        Program program;
+        chooseStyle(program, 1);
+        enterSizes(program, "1", "1.1", "1", "2");
+        enterLoads(program, "500", "");
+        QCOMPARE(program.lastMessage().title, std::string("SEARCH PARAMETERS OUTSIDE OF SIZE RANGE"));
+        QCOMPARE(program.inFront(), std::string("Form12"));
+    }
+
+    void comesBackToTheLoadsWithARunTimeErrorWhenATableIsMissing() {
+        Program program;
+        chooseStyle(program, 1);
+        enterSizes(program, "5", "9", ".2", "1.2");
+        std::filesystem::remove(program.files.path() / "Data Tables");
+        enterLoads(program, "500", "");
+        QCOMPARE(program.lastMessage().title, std::string("Run-time error '53'"));
+        QCOMPARE(program.inFront(), std::string("Form14"));
+        QVERIFY(program.state.search.rows.empty());
+    }
+
+    void sortsTheListAndDropsItsMarks() {
+        Program program;
+        search(program, 1, "3000");
+        const int rows = list(program).count();
+        QVERIFY(list(program).itemText(rows - 1).endsWith("Over Speed!"));
+        program.click("Form15", "Command5");
+        QCOMPARE(program.inFront(), std::string("Form13"));
+        program.control<QRadioButton>("Form13", "Option3").setChecked(true);
+        program.control<QRadioButton>("Form13", "Option6").setChecked(true);
+        program.click("Form13", "Command1");
+        QCOMPARE(program.inFront(), std::string("Form15"));
+        QCOMPARE(list(program).count(), rows);
+        for (int i = 0; i < rows; ++i)
+            QVERIFY(!list(program).itemText(i).contains("Over Speed!"));
+        double before = 1e30;
+        for (const SearchHit& hit : program.state.search.rows) {
+            const double life = QString::fromStdString(hit.l10Revolutions).toDouble();
+            QVERIFY(life <= before);
+            before = life;
+        }
+    }
+
+    void keepsTheListWhenTheSortScreenIsClosed() {
+        Program program;
+        search(program, 1);
+        const QString first = list(program).itemText(0);
+        program.click("Form15", "Command5");
+        program.screens.form("Form13").close();
+        QCOMPARE(program.inFront(), std::string("Form15"));
+        QCOMPARE(list(program).itemText(0), first);
+        QVERIFY(!program.state.search.sortPending);
+    }
+
+    void makesTheChosenBearingTheCurrentOne() {
+        Program program;
+        search(program, 1);
+        list(program).setCurrentIndex(1);
+        const std::string chosen = program.state.search.rows[1].name;
+        QCOMPARE(program.control<QGroupBox>("Form15", "Frame5").title().toStdString(), chosen);
+        program.click("Form15", "Command1");
+        QCOMPARE(program.inFront(), std::string("Form3"));
+        QCOMPARE(program.state.bearing.partNumber, chosen);
+        QVERIFY(program.state.bearing.dynamicRadial > 0.0);
+    }
+
+    void shortCutsToTheDataSheetOfTheSetWithoutSpacers() {
+        Program program;
+        search(program, 3);
+        QVERIFY(program.control<QLabel>("Form15", "Label14").isVisible());
+        const std::string number = program.state.search.rows[0].name.substr(0, 9) + "A";
+        program.click("Form15", "Command4");
+        QCOMPARE(program.inFront(), std::string("Form17"));
+        QCOMPARE(program.state.bearing.partNumber, number);
+        QVERIFY(program.files.read("CONDENSED.DAT").find(number) != std::string::npos);
+    }
+
+    void savesAndPrintsTheList() {
+        Program program;
+        search(program, 1, "100");
+        program.saveDialog.choice = SaveChoice{program.files.path() / "list.rtf", 1};
+        program.click("Form15", "Command6");
+        QCOMPARE(program.saveDialog.requests.back().name, std::string("Search Results.rtf"));
+        QVERIFY(program.files.read("list.rtf").find(program.state.search.rows[0].name) != std::string::npos);
+        program.click("Form15", "Command3");
+        QVERIFY(program.printer.canvas.hasText("RESULTS OF BEARING SEARCH FOR : "));
+    }
+
+    void convertsWhatWasEnteredOnAChangeOfUnits() {
+        Program program;
+        program.state.unitSystem = "US";
+        search(program, 1);
+        program.screens.showAlone("Form3");
+        program.screens.show("Form6");
+        program.control<QRadioButton>("Form6", "Option2").setChecked(true);
+        program.click("Form6", "Command1");
+        QCOMPARE(program.state.entries.minBore, std::string("127.000"));
+        QCOMPARE(program.state.entries.radial, std::string("2224"));
+    }
+};
+
+}  // namespace
+}  // namespace norlaplan::testing
+
+QTEST_MAIN(norlaplan::testing::SearchJourneyTest)
+#include "SearchJourneyTest.moc"
