@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "capacity/SpeedLimits.h"
+#include "loaddist/AssembleRows.h"
 #include "loaddist/radlodestar2.h"
 #include "numbers/Arithmetic.h"
 #include "numbers/FormatNumber.h"
@@ -105,6 +106,7 @@ bool computeLoadLife(ProgramState& state, MessagePort& messages) {
     state.solver.SolveAborted = false;
     const std::optional<SolveResult> result = solveWithAdvice(state, messages);
     if (!result) return false;
+    if (state.solver.RowCount == 2) writeBallAngles(state.solver);
     life.staticSafetyFactor = result->safetyFactor;
     life.l10Revolutions = result->lifeRevolutions;
     life.startingTorque = result->torque;

@@ -48,27 +48,43 @@ struct Contact {
     double Q = 0.0;
 };
 
-Contact placeBall(SolverState& state, int row, int ball, double x, double y, double c) {
+/// One row of the ball tables, for writing ball after ball.
+struct BallRow {
+    BallRow(SolverState& state, int row)
+        : x(state.BallX.row(row)),
+          y(state.BallY.row(row)),
+          dist(state.BallDist.row(row)),
+          sine(state.BallSinAngle.row(row)),
+          cosine(state.BallCosAngle.row(row)),
+          deflection(state.BallDeflection.row(row)),
+          load(state.BallLoad.row(row)),
+          radialForce(state.BallRadialForce.row(row)),
+          axialForce(state.BallAxialForce.row(row)) {}
+
+    double *x, *y, *dist, *sine, *cosine, *deflection, *load, *radialForce, *axialForce;
+};
+
+Contact placeBall(const BallRow& row, int ball, double x, double y, double c, double A0, double Kn) {
     Contact contact;
     contact.x = x;
     contact.y = y;
     contact.d = std::sqrt(x * x + y * y);
     contact.sine = divide(y, contact.d);
     contact.cosine = divide(x, contact.d);
-    contact.e = contact.d - state.CentreDistance;
+    contact.e = contact.d - A0;
     // The angle's text divides by x, so a contact line along the axis is a fault here as well.
     if (contact.e >= 0.0 && x == 0.0) raise(fault::kDivisionByZero);
     const double deflection = contact.e > 0.0 ? contact.e : 0.0;
-    contact.Q = deflection > 0.0 ? power(deflection, 3.0 / 2.0) * state.Kn : 0.0;
-    state.BallX(row, ball) = x;
-    state.BallY(row, ball) = y;
-    state.BallDist(row, ball) = contact.d;
-    state.BallSinAngle(row, ball) = contact.sine;
-    state.BallCosAngle(row, ball) = contact.cosine;
-    state.BallDeflection(row, ball) = deflection;
-    state.BallLoad(row, ball) = contact.Q;
-    state.BallRadialForce(row, ball) = (c * contact.Q) * contact.cosine;
-    state.BallAxialForce(row, ball) = contact.Q * contact.sine;
+    contact.Q = deflection > 0.0 ? power(deflection, 3.0 / 2.0) * Kn : 0.0;
+    row.x[ball] = x;
+    row.y[ball] = y;
+    row.dist[ball] = contact.d;
+    row.sine[ball] = contact.sine;
+    row.cosine[ball] = contact.cosine;
+    row.deflection[ball] = deflection;
+    row.load[ball] = contact.Q;
+    row.radialForce[ball] = (c * contact.Q) * contact.cosine;
+    row.axialForce[ball] = contact.Q * contact.sine;
     return contact;
 }
 
@@ -133,6 +149,9 @@ Assembly AssembleRows(SolverState& state, const std::vector<double>& cosines) {
     const double dr = state.RadialDisp;
     const double t = state.Tilt;
     const double m = rows.m;
+    const double Kn = state.Kn;
+    const BallRow first(state, 1);
+    const BallRow second(state, 2);
     Assembly assembly;
     double axial = 0.0;
     double radial = 0.0;
@@ -140,11 +159,11 @@ Assembly AssembleRows(SolverState& state, const std::vector<double>& cosines) {
     for (int i = 1; i <= state.BallCount; ++i) {
         const double c = cosines[static_cast<std::size_t>(i)];
         const Contact one =
-            placeBall(state, 1, i, (rows.x1 + dr * c) - (m * c) * t, (rows.y1 + da) + (R * c) * t, c);
+            placeBall(first, i, (rows.x1 + dr * c) - (m * c) * t, (rows.y1 + da) + (R * c) * t, c, A0, Kn);
         const Contact two =
-            placeBall(state, 2, i, (rows.x2 + dr * c) + (m * c) * t, (rows.y2 - da) - (R * c) * t, c);
-        axial = (axial + state.BallAxialForce(1, i)) - state.BallAxialForce(2, i);
-        radial = (radial + state.BallRadialForce(1, i)) + state.BallRadialForce(2, i);
+            placeBall(second, i, (rows.x2 + dr * c) + (m * c) * t, (rows.y2 - da) - (R * c) * t, c, A0, Kn);
+        axial = (axial + first.axialForce[i]) - second.axialForce[i];
+        radial = (radial + first.radialForce[i]) + second.radialForce[i];
         const double arm1 = divide(rows.h * one.x, one.y) + dm;
         const double arm2 = divide(rows.h * two.x, two.y) + dm;
         moment = (moment + ((one.sine * one.Q * c) * arm1) / 2.0) - ((two.Q * two.sine * c) * arm2) / 2.0;

@@ -21,7 +21,8 @@ std::vector<double> ballCosines(int balls, double spacing);
 /// contact line without length or axial part), 5 and 6 as the powers raise them.
 Assembly AssembleRows(SolverState& state, const std::vector<double>& cosines);
 
-/// The contact angles of the last assembly as texts, "  N/A " for a ball that is out of touch.
+/// The contact angles of the last assembly as texts, "  N/A " for a ball that is out of touch. They are for
+/// showing a result; a search that solves hundreds of rows goes without.
 void writeBallAngles(SolverState& state);
 
 }  // namespace norlaplan

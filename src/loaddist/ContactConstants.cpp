@@ -17,21 +17,22 @@ struct Ellipse {
     Single K, E, kappaSq;
 };
 
-/// The curvature ratio that belongs to an ellipse, in 32 bits.
-Single curvatureRatio(Single kappaSq, const EllipticResult& integrals) {
+/// The curvature ratio that belongs to an ellipse.
+double curvatureRatio(double kappaSq, const EllipticResult& integrals) {
     return divide(kappaSq * integrals.E - integrals.K, integrals.K - integrals.E);
 }
 
-/// Where the estimate of the integrals settles the sign of the bisection's function, that function near
-/// enough; nothing where only the panels can tell.
-std::optional<Single> settledDifference(Single m, Single q, Single kappaSq, double ratio) {
-    constexpr double kLeastSquare = 0.25;
-    constexpr double kMargin = 1e-6;
+/// The 32 bits of the curvature ratio, where the estimate of the integrals settles them; nothing where only
+/// the panels can tell.
+std::optional<Single> settledRatio(double m, double q, double kappaSq) {
+    constexpr double kLeastSquare = 0.25;  // below it K - E loses too many digits
+    constexpr double kMargin = 1e-9;       // a hundred times what panels and estimate differ by
     if (m < kLeastSquare || q < kLeastEstimatedComplement) return std::nullopt;
-    const double f = curvatureRatio(kappaSq, estimateEllipticIntegrals(m, q)) - ratio;
-    // Far beyond what 32 bits and the panels can differ by.
-    if (std::fabs(f) < kMargin * (std::fabs(ratio) + 1.0)) return std::nullopt;
-    return f;
+    const double ratio = curvatureRatio(kappaSq, estimateEllipticIntegrals(m, q));
+    const Single least = ratio * (1.0 - kMargin);
+    const Single most = ratio * (1.0 + kMargin);
+    if (least != most) return std::nullopt;
+    return least;
 }
 
 /// Bisects the square m of the eccentricity until the ratio of the curvatures is met or the 32-bit m stands
@@ -47,15 +48,14 @@ Ellipse matchEllipse(double ratio, MessagePort& messages) {
         const Single m = (lo + hi) / 2.0;
         const Single q = 1.0 - m;
         const Single kappaSq = divide(1.0, q);
-        Single f;
-        if (const auto settled = m == previous ? std::nullopt : settledDifference(m, q, kappaSq, ratio)) {
-            f = *settled;
-        } else {
+        const auto settled = settledRatio(m, q, kappaSq);
+        Single f = settled ? *settled - ratio : 0.0;
+        // The pass that ends the search hands out its integrals, so it sums them.
+        if (!settled || f == 0.0 || m == previous) {
             const EllipticResult integrals = EllipticIntegrals(m);
-            f = curvatureRatio(kappaSq, integrals) - ratio;
+            f = Single(curvatureRatio(kappaSq, integrals)) - ratio;
             if (f == 0.0 || m == previous) return {integrals.K, integrals.E, kappaSq};
         }
-        // Only the signs of these two go on to the next pass.
         const Single p = flo * f;
         if (p < 0.0) hi = m;
         if (p > 0.0) {

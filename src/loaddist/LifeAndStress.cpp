@@ -41,8 +41,10 @@ void stressOfBall(SolverState& state, int row, int ball) {
 /// Sum of the row's loads to a power; it runs in 32 bits.
 Single sumOfPowers(const SolverState& state, int row, double exponent) {
     Single sum = 0.0;
-    for (int ball = 1; ball <= state.BallCount; ++ball)
-        sum += power(state.BallLoad(row, ball), exponent);
+    for (int ball = 1; ball <= state.BallCount; ++ball) {
+        // Half of the balls and more carry nothing, and nothing adds nothing.
+        if (state.BallLoad(row, ball) != 0.0) sum += power(state.BallLoad(row, ball), exponent);
+    }
     return sum;
 }
 

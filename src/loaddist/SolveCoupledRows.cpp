@@ -161,7 +161,6 @@ std::optional<SolveResult> SolveCoupledRows(ProgramState& state, const SolveArgu
         solver.Iteration = solver.Iteration + 1;
         if (solver.Iteration == kPassesBeforeTheQuestion && !goesOn(solver, messages)) return std::nullopt;
     }
-    writeBallAngles(solver);
     return outValues(state);
 }
 
