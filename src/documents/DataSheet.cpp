@@ -50,9 +50,11 @@ void writeOverlays(const SheetWriter& sheet, const ProgramFolder& folder) {
 }
 
 void writeClosingLines(const SheetWriter& sheet) {
-    sheet.text({2.65, 0.875, 6.5, 0.75}, sheet.bearing.availabilityText, {9.0, "BLUE"});
-    sheet.text({2.83, 0.75, 6.5, 0.625}, "For More Information, call Varden at 1-800-555-0142");
-    sheet.text({1.8, 0.625, 7.5, 0.5},
+    // Boxes are higher than the lines' step: word processors cut what hangs below a box.
+    constexpr double kHeight = 0.17;
+    sheet.text({2.65, 0.875, 6.5, 0.875 - kHeight}, sheet.bearing.availabilityText, {9.0, "BLUE"});
+    sheet.text({2.83, 0.75, 6.5, 0.75 - kHeight}, "For More Information, call Varden at 1-800-555-0142");
+    sheet.text({1.8, 0.625, 7.5, 0.625 - kHeight},
                "Varden Reserves the Right to Change Specifications and Other Information Without Notice");
 }
 

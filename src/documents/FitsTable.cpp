@@ -52,7 +52,7 @@ void writeOnePair(const SheetWriter& sheet) {
     constexpr double kLine = 0.125;
     double y = kBelowHeading - 0.01;
     for (const char* const words : note) {
-        sheet.text({kSplit, y, kRight, y - kLine}, words, {8.0});
+        sheet.text({kSplit, y, kRight, y - kLine - 0.02}, words, {8.0});
         y -= kLine;
     }
 }

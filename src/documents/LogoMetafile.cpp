@@ -26,8 +26,6 @@ constexpr std::uint16_t kSetTextColour = 0x0209;
 constexpr std::uint16_t kEllipse = 0x0418;
 constexpr std::uint16_t kTextOut = 0x0521;
 
-constexpr int kWidth = 2880;
-constexpr int kHeight = 941;
 constexpr std::uint16_t kNavyLow = 0x2800;   // red 0, green 40
 constexpr std::uint16_t kNavyHigh = 0x006E;  // blue 110
 
@@ -83,9 +81,8 @@ Words textWords(std::string_view text) {
 }
 
 void addFont(Metafile& metafile) {
-    constexpr int kFontHeight = -440;
     constexpr std::uint16_t kBold = 700;
-    Words font = {Metafile::word(kFontHeight), 0, 0, 0, kBold, 0, 0, 0, 0};
+    Words font = {Metafile::word(-mark::kNameSize), 0, 0, 0, kBold, 0, 0, 0, 0};
     std::string face = "Arial";
     face.resize(32, '\0');
     const Words name = textWords(face);
@@ -102,21 +99,9 @@ void addText(Metafile& metafile, std::string_view text, int x, int y) {
     metafile.add(kTextOut, parameters);
 }
 
-void addRing(Metafile& metafile) {
-    constexpr int kCentreX = 470;
-    constexpr int kCentreY = 470;
-    const auto circle = [&](double x, double y, int radius) {
-        const int cx = kCentreX + static_cast<int>(std::lround(x));
-        const int cy = kCentreY + static_cast<int>(std::lround(y));
-        metafile.ellipse(cx - radius, cy - radius, cx + radius, cy + radius);
-    };
-    circle(0.0, 0.0, 430);
-    circle(0.0, 0.0, 230);
-    constexpr int kBalls = 12;
-    for (int ball = 0; ball < kBalls; ++ball) {
-        const double angle = ball * TwoPiValue / kBalls;
-        circle(330.0 * std::cos(angle), 330.0 * std::sin(angle), 74);
-    }
+void addCircle(Metafile& metafile, const MarkCircle& circle) {
+    metafile.ellipse(circle.x - circle.radius, circle.y - circle.radius, circle.x + circle.radius,
+                     circle.y + circle.radius);
 }
 
 std::string hexOf(const Words& words) {
@@ -135,22 +120,36 @@ std::string hexOf(const Words& words) {
 
 }  // namespace
 
+std::vector<MarkCircle> markCircles() {
+    constexpr int kCentre = 470;
+    constexpr int kBalls = 12;
+    constexpr double kPitchRadius = 330.0;
+    std::vector<MarkCircle> circles = {{kCentre, kCentre, 430}, {kCentre, kCentre, 230}};
+    for (int ball = 0; ball < kBalls; ++ball) {
+        const double angle = ball * TwoPiValue / kBalls;
+        circles.push_back({kCentre + static_cast<int>(std::lround(kPitchRadius * std::cos(angle))),
+                           kCentre + static_cast<int>(std::lround(kPitchRadius * std::sin(angle))), 74});
+    }
+    return circles;
+}
+
 std::string logoMetafileHex() {
     Metafile metafile;
     constexpr std::uint16_t kAnisotropic = 8;
     constexpr std::uint16_t kTransparent = 1;
     metafile.add(kSetMapMode, {kAnisotropic});
     metafile.add(kSetWindowOrigin, {0, 0});
-    metafile.add(kSetWindowExtent, {Metafile::word(kHeight), Metafile::word(kWidth)});
+    metafile.add(kSetWindowExtent, {Metafile::word(mark::kHeight), Metafile::word(mark::kWidth)});
     metafile.add(kSetBackgroundMode, {kTransparent});
-    metafile.add(kCreatePen, {0, 30, 0, kNavyLow, kNavyHigh});
+    metafile.add(kCreatePen, {0, mark::kPen, 0, kNavyLow, kNavyHigh});
     metafile.add(kCreateBrush, {0, 0xFFFF, 0x00FF, 0});
     addFont(metafile);
     for (std::uint16_t object = 0; object < 3; ++object)
         metafile.add(kSelectObject, {object});
     metafile.add(kSetTextColour, {kNavyLow, kNavyHigh});
-    addRing(metafile);
-    addText(metafile, "VARDEN", 980, 210);
+    for (const MarkCircle& circle : markCircles())
+        addCircle(metafile, circle);
+    addText(metafile, mark::kName, mark::kNameLeft, mark::kNameTop);
     return hexOf(metafile.file(3));
 }
 

@@ -1,5 +1,6 @@
 #include "documents/OverlayReader.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <optional>
@@ -22,6 +23,8 @@ constexpr double kFirstWidth = 19050.0;
 /// No plot is longer than this; what goes beyond is a file that is none.
 constexpr std::size_t kLongestPlot = 4U << 20U;
 constexpr int kMostShapes = 20000;
+/// An instruction has two points at most; what stands behind them is not read.
+constexpr std::size_t kMostNumbers = 4;
 /// Beyond these coordinates nothing is on the page.
 constexpr double kFarthest = 1e6;
 
@@ -77,11 +80,12 @@ class PlotReader {
     std::string_view rest_;
 };
 
-/// The numbers of the parameters, split at blanks.
+/// The first numbers of the parameters, split at blanks.
 std::vector<double> numbersOf(const std::string& parameters) {
     std::vector<double> numbers;
     std::size_t at = 0;
-    while ((at = parameters.find_first_not_of(' ', at)) != std::string::npos) {
+    while (numbers.size() < kMostNumbers &&
+           (at = parameters.find_first_not_of(' ', at)) != std::string::npos) {
         const std::size_t end = std::min(parameters.find(' ', at), parameters.size());
         const std::optional<double> value = wholeNumberText(parameters.substr(at, end - at));
         numbers.push_back(value && std::fabs(*value) <= kFarthest ? *value : 0.0);
@@ -176,7 +180,8 @@ class Plotter {
         if (sweep == 0.0) return;
         const int chords = chordsFor(radius);
         const double start = startAngle(pen_, centre);
-        const double step = sweep * PiValue / 180.0 / chords;
+        const double end = start + sweep * PiValue / 180.0;
+        const double step = (end - start) / chords;
         const auto at = [&](double angle) {
             return PagePoint{centre.x + radius * std::cos(angle), centre.y + radius * std::sin(angle)};
         };

@@ -10,6 +10,8 @@ constexpr double kLeft = 0.5;
 constexpr double kRight = 3.4;
 constexpr double kSize = 8.0;
 constexpr double kLine = 0.117;
+/// Boxes are higher than the line's step: word processors cut what hangs below a box.
+constexpr double kBoxHeight = 0.16;
 constexpr double kStackLine = 0.1;
 
 std::string without(const std::string& text, std::size_t characters) {
@@ -24,14 +26,14 @@ class DetailWriter {
     /// A code with its meaning behind it.
     void line(const std::string& code, const std::string& meaning) {
         const double codeWidth = 0.085 * static_cast<double>(std::max<std::size_t>(code.size(), 1));
-        sheet_.text({kLeft, y_, kLeft + codeWidth + 0.1, y_ - kLine}, code, {kSize, "BLUE", true});
+        sheet_.text({kLeft, y_, kLeft + codeWidth + 0.1, y_ - kBoxHeight}, code, {kSize, "BLUE", true});
         const std::string gap = meaning.starts_with(" ") ? "" : " ";
-        sheet_.text({kLeft + codeWidth, y_, kRight, y_ - kLine}, gap + meaning, {kSize});
+        sheet_.text({kLeft + codeWidth, y_, kRight, y_ - kBoxHeight}, gap + meaning, {kSize});
         y_ -= kLine;
     }
 
     void plain(const std::string& words, double left = kLeft) {
-        sheet_.text({left, y_, kRight, y_ - kLine}, words, {kSize});
+        sheet_.text({left, y_, kRight, y_ - kBoxHeight}, words, {kSize});
         y_ -= kLine;
     }
 
@@ -42,9 +44,10 @@ class DetailWriter {
         const double bracket = bracketSize / 72.0;
         sheet_.text({kLeft + 0.08, middle + 0.6 * bracket, kLeft + 0.25, middle - 0.6 * bracket}, "]",
                     {bracketSize});
-        sheet_.text({kLeft + 0.2, middle + 0.07, kRight, middle - 0.07}, meaning, {kSize});
+        sheet_.text({kLeft + 0.2, middle + 0.07, kRight, middle + 0.07 - kBoxHeight}, meaning, {kSize});
         for (const char digit : digits) {
-            sheet_.text({kLeft, y_, kLeft + 0.15, y_ - kLine}, std::string(1, digit), {kSize, "BLUE", true});
+            sheet_.text({kLeft, y_, kLeft + 0.15, y_ - kBoxHeight}, std::string(1, digit),
+                        {kSize, "BLUE", true});
             y_ -= kStackLine;
         }
         y_ -= 0.02;

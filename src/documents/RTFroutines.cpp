@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <utility>
 
 #include "numbers/Arithmetic.h"
@@ -71,30 +72,55 @@ std::string run(const SheetText& text, bool centred) {
     return rtf + word("fs", halfPoints) + fontWord(text.font) + " " + rtfText(text.text) + "\\par }";
 }
 
+struct Character {
+    unsigned code;
+    std::size_t bytes;
+};
+
+/// The first character of a text. A byte that is no UTF-8 stands for itself, as in an old settings file.
+Character firstCharacter(std::string_view text) {
+    const auto byte = [&](std::size_t at) {
+        return static_cast<unsigned>(static_cast<unsigned char>(text[at]));
+    };
+    const unsigned lead = byte(0);
+    const std::size_t bytes = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+    if (lead < 0xC2 || lead > 0xF4 || text.size() < bytes) return {lead, 1};
+    unsigned code = lead & (0xFFU >> (bytes + 1));
+    for (std::size_t at = 1; at < bytes; ++at) {
+        if ((byte(at) & 0xC0U) != 0x80) return {lead, 1};
+        code = code << 6U | (byte(at) & 0x3FU);
+    }
+    return {code, bytes};
+}
+
+void appendUnicode(std::string& rtf, unsigned unit) {
+    rtf += "\\u" + std::to_string(static_cast<std::int16_t>(unit)) + "?";
+}
+
+void appendEscaped(std::string& rtf, unsigned code) {
+    constexpr char kHex[] = "0123456789abcdef";
+    if (code < 0x80) {
+        if (code == '\\' || code == '{' || code == '}') rtf += '\\';
+        rtf += code < 0x20 ? ' ' : static_cast<char>(code);
+    } else if (code <= 0xFF) {
+        rtf += std::string("\\'") + kHex[code >> 4U] + kHex[code & 15U];
+    } else if (code <= 0xFFFF) {
+        appendUnicode(rtf, code);
+    } else {
+        // Beyond 16 bits RTF takes a pair of surrogates.
+        appendUnicode(rtf, 0xD800U + ((code - 0x10000U) >> 10U));
+        appendUnicode(rtf, 0xDC00U + ((code - 0x10000U) & 0x3FFU));
+    }
+}
+
 }  // namespace
 
 std::string rtfText(std::string_view utf8) {
     std::string rtf;
-    for (std::size_t at = 0; at < utf8.size();) {
-        const auto lead = static_cast<unsigned char>(utf8[at]);
-        if (lead < 0x80) {
-            if (lead == '\\' || lead == '{' || lead == '}') rtf += '\\';
-            rtf += lead < 0x20 ? ' ' : static_cast<char>(lead);
-            ++at;
-            continue;
-        }
-        const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-        unsigned code = lead & (0xFFU >> (length + 1));
-        for (std::size_t i = 1; i < length && at + i < utf8.size(); ++i) {
-            code = code << 6U | (static_cast<unsigned char>(utf8[at + i]) & 0x3FU);
-        }
-        at += std::min(length, utf8.size() - at);
-        constexpr char kHex[] = "0123456789abcdef";
-        if (code >= 0xA0 && code <= 0xFF) {
-            rtf += std::string("\\'") + kHex[code >> 4U] + kHex[code & 15U];
-        } else {
-            rtf += "\\u" + std::to_string(static_cast<int>(static_cast<short>(code))) + "?";
-        }
+    while (!utf8.empty()) {
+        const Character character = firstCharacter(utf8);
+        utf8.remove_prefix(character.bytes);
+        appendEscaped(rtf, character.code);
     }
     return rtf;
 }

@@ -1,3 +1,4 @@
+#include "documents/LogoMetafile.h"
 #include "documents/SheetRecords.h"
 #include "numbers/Text.h"
 
@@ -61,15 +62,22 @@ class Painter {
 /// The maker's mark, where the document's head has its picture.
 void paintMark(Canvas& canvas) {
     constexpr Colour kNavy = rgb(0, 40, 110);
-    const PagePen ring{kNavy, 28575.0, 0};
-    canvas.circle({6.33, 10.015}, 0.27, ring);
-    canvas.circle({6.33, 10.015}, 0.15, ring);
+    constexpr PageBox kPlace{5.96, 10.35, 8.0, 9.68};
+    constexpr double kInch = (kPlace.right - kPlace.left) / mark::kWidth;
+    constexpr double kEmuPerInch = 914400.0;
+    constexpr double kPointsPerInch = 72.0;
+    const PagePen pen{kNavy, mark::kPen * kInch * kEmuPerInch, 0};
+    for (const MarkCircle& circle : markCircles()) {
+        canvas.circle({kPlace.left + circle.x * kInch, kPlace.top - circle.y * kInch}, circle.radius * kInch,
+                      pen);
+    }
     TextLook look;
     look.typeface = Typeface::Arial;
-    look.points = 24.0;
+    look.points = mark::kNameSize * kInch * kPointsPerInch;
     look.bold = true;
     look.colour = kNavy;
-    canvas.text({6.68, 10.21, 8.0, 9.85}, "VARDEN", look);
+    const double top = kPlace.top - mark::kNameTop * kInch;
+    canvas.text({kPlace.left + mark::kNameLeft * kInch, top, kPlace.right, kPlace.bottom}, mark::kName, look);
 }
 
 }  // namespace
