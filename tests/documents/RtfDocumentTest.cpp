@@ -33,6 +33,17 @@ TEST(RtfText, EscapesWhatRtfWouldTakeForItsOwn) {
     EXPECT_EQ(rtfText("a\nb"), "a b");
 }
 
+TEST(RtfText, TakesBytesThatAreNoUtf8AsTheyStandInOldFiles) {
+    EXPECT_EQ(rtfText("M\xFCller {1}"), "M\\'fcller \\{1\\}");
+    EXPECT_EQ(rtfText("\xC3"), "\\'c3");
+    EXPECT_EQ(rtfText("\xC3}"), "\\'c3\\}") << "a brace is never swallowed";
+}
+
+TEST(RtfText, TakesTwoEscapesForACharacterBeyondSixteenBits) {
+    // U+1F529: 0xD83D is -10179 and 0xDD29 is -8919 as 16-bit numbers.
+    EXPECT_EQ(rtfText("\U0001F529"), "\\u-10179?\\u-8919?");
+}
+
 TEST(RtfShapes, CountFromOneAndCarryTheirIds) {
     RtfDocument document;
     document.RTFLINE({1, 1}, {2, 1}, 0, 9525.0);
@@ -126,6 +137,54 @@ TEST(RtfShapes, CloseEveryGroupThatTheyOpen) {
     document.RTFDATASHEETLINE({1, 1}, {2, 2}, 0, 9525.0, 0);
     document.RTFCIRCLE({1, 1}, 0.5, 0, 9525.0);
     EXPECT_EQ(depthOf(document.rtf()), 0);
+}
+
+TEST(RtfShapes, HaveNoStrayBackslashInTheirFallback) {
+    RtfDocument document;
+    document.RTFDATASHEETTEXT(sample());
+    EXPECT_TRUE(has(document, "\\dpfillbgcb255\\dpfillpat0\\dplinehollow}}}"));
+    EXPECT_FALSE(has(document, "\\\r")) << "a backslash at a line's end would start a paragraph";
+}
+
+TEST(RtfTextShape, GivesItsParagraphRoomBeyondTheBox) {
+    RtfDocument document;
+    document.RTFDATASHEETTEXT(sample());
+    EXPECT_TRUE(has(document, "\\ri-72"));
+}
+
+TEST(RtfTextShape, TurnsItsTextWhenItIsVertical) {
+    RtfDocument document;
+    SheetText text = sample();
+    EXPECT_FALSE(has(document, "txflTextFlow"));
+    text.vertical = true;
+    document.RTFDATASHEETTEXT(text);
+    EXPECT_TRUE(has(document, property("txflTextFlow", "2")));
+    document.RTFTEXTWBOX({text, 0});
+    EXPECT_TRUE(has(document, property("txflTextFlow", "3")));
+}
+
+TEST(RtfTextShape, NamesColoursInAnyCaseAndFontsAsTheyAreStored) {
+    const struct {
+        const char *colour, *font, *run;
+    } rows[] = {{"RED", "TNR", "{\\b\\cf6\\fs28 "},
+                {"Green", "Courier New", "{\\b\\cf4\\fs28\\f2 "},
+                {"black", "Book Antiqua", "{\\b\\cf1\\fs28\\f3 "},
+                {"PURPLE", "ARIEL", "{\\b\\cf5\\fs28\\f1 "},
+                {"PINK", "TNR", "{\\b\\fs28 "}};
+    for (const auto& row : rows) {
+        RtfDocument document;
+        SheetText text = sample();
+        text.colour = row.colour;
+        text.font = row.font;
+        document.RTFDATASHEETTEXT(text);
+        EXPECT_TRUE(has(document, row.run)) << row.colour;
+    }
+}
+
+TEST(RtfHead, KeepsTheFooterClearOfTheLastLine) {
+    RtfDocument document;
+    document.RtfHeader();
+    EXPECT_TRUE(has(document, "\\footery360"));
 }
 
 TEST(RtfHead, LeavesTheDocumentAndOneGroupOpen) {
