@@ -3,6 +3,7 @@
 #include "loaddist/radlodestar2.h"
 #include "support/PlainSolver.h"
 #include "support/RecordingPorts.h"
+#include "support/SolverCases.h"
 
 namespace norlaplan {
 namespace {
@@ -11,22 +12,8 @@ plain::Bearing bearingOf(char style) {
     return {style, 7.992126F, 0.25F, 81, 0.1325F, 0.51181102F, 0.00135F, 30.0F, 1200.0F, 300.0F, 900.0F};
 }
 
-SolveArguments argumentsOf(const plain::Bearing& bearing) {
-    return {std::string("K19013") + bearing.style + "P0",
-            bearing.pitchDiameter,
-            bearing.ballDiameter,
-            bearing.balls,
-            bearing.grooveRadius,
-            bearing.spacing,
-            bearing.clearance,
-            bearing.angleDegrees,
-            bearing.radialLoad,
-            bearing.axialLoad,
-            bearing.moment};
-}
-
 void lifeOfTheProgram(benchmark::State& state, char style) {
-    const SolveArguments arguments = argumentsOf(bearingOf(style));
+    const SolveArguments arguments = testing::argumentsOf(bearingOf(style));
     testing::RecordingMessages messages;
     ProgramState program;
     for (auto _ : state)
@@ -44,7 +31,7 @@ BENCHMARK_CAPTURE(lifePlainly, X, 'X');
 BENCHMARK_CAPTURE(lifePlainly, B, 'B');
 
 void radialLifeOfTheProgram(benchmark::State& state) {
-    const SolveArguments arguments = argumentsOf(bearingOf('C'));
+    const SolveArguments arguments = testing::argumentsOf(bearingOf('C'));
     testing::RecordingMessages messages;
     ProgramState program;
     for (auto _ : state)

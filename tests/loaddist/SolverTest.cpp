@@ -4,114 +4,100 @@
 
 #include <gtest/gtest.h>
 
-#include "loaddist/Arccos.h"
 #include "loaddist/AssembleRows.h"
-#include "loaddist/EllipticIntegrals.h"
-#include "loaddist/Matrix3.h"
 #include "loaddist/radlodestar2.h"
 #include "numbers/PiValue.h"
 #include "numbers/RuntimeError.h"
 #include "support/PlainSolver.h"
 #include "support/RecordingPorts.h"
+#include "support/SolverCases.h"
 
 namespace norlaplan {
 namespace {
 
+using testing::argumentsOf;
 using testing::RecordingMessages;
+using testing::solverCases;
 
-constexpr double kTrueHalfPi = 1.5707963267948966;
-
-SolveArguments argumentsOf(const plain::Bearing& bearing) {
-    return {std::string("K19013") + bearing.style + "P0",
-            bearing.pitchDiameter,
-            bearing.ballDiameter,
-            bearing.balls,
-            bearing.grooveRadius,
-            bearing.spacing,
-            bearing.clearance,
-            bearing.angleDegrees,
-            bearing.radialLoad,
-            bearing.axialLoad,
-            bearing.moment};
-}
-
-struct Section {
-    float ball, groove, width;
-};
-constexpr Section kSections[] = {
-    {0.15625F, 0.0828125F, 0.31496063F}, {0.25F, 0.1325F, 0.51181102F}, {0.375F, 0.19875F, 0.78740157F}};
-
-/// Bearings of all sections under loads of many kinds.
-std::vector<plain::Bearing> cases(char style) {
-    std::vector<plain::Bearing> all;
-    const float loads[][3] = {{500, 0, 0}, {1200, 300, 900}, {10, 800, 0}, {50, 100, 2000}, {300, 50, 10}};
-    for (const Section& section : kSections) {
-        for (const float pitch : {3.0F, 8.0F, 17.5F}) {
-            for (const float clearance : {0.00025F, 0.0012F}) {
-                for (const auto& load : loads) {
-                    const int balls = static_cast<int>(0.8F * 3.14F * pitch / section.ball);
-                    all.push_back({style, pitch, section.ball, balls, section.groove, section.width,
-                                   clearance, 30.0F, load[0], load[1], load[2]});
-                }
-            }
-        }
-    }
-    return all;
-}
-
-void expectSameLoads(const SolverState& solver, const plain::Result& expected, int rows) {
+/// Every value that a solve leaves for the screens and reports.
+void expectTheSame(const SolverState& solver, const plain::Result& expected, int rows) {
+    ASSERT_EQ(solver.ElasticSum.stored(), expected.elasticSum);
+    ASSERT_EQ(solver.Kn.stored(), expected.Kn);
+    ASSERT_EQ(solver.RadialDisp, expected.radial);
+    ASSERT_EQ(solver.Iteration, expected.iterations);
     for (int row = 1; row <= rows; ++row) {
         for (int ball = 1; ball <= solver.BallCount; ++ball) {
-            ASSERT_EQ(solver.BallLoad(row, ball), expected.load[row][static_cast<std::size_t>(ball)])
-                << "row " << row << " ball " << ball;
+            SCOPED_TRACE("row " + std::to_string(row) + " ball " + std::to_string(ball));
+            const auto i = static_cast<std::size_t>(ball);
+            ASSERT_EQ(solver.BallLoad(row, ball), expected.load[row][i]);
+            ASSERT_EQ(solver.InnerSemiMajor(row, ball).stored(), expected.innerMajor[row][i]);
+            ASSERT_EQ(solver.InnerSemiMinor(row, ball).stored(), expected.innerMinor[row][i]);
+            ASSERT_EQ(solver.InnerStress(row, ball).stored(), expected.innerStress[row][i]);
+            ASSERT_EQ(solver.OuterSemiMajor(row, ball).stored(), expected.outerMajor[row][i]);
+            ASSERT_EQ(solver.OuterSemiMinor(row, ball).stored(), expected.outerMinor[row][i]);
+            ASSERT_EQ(solver.OuterStress(row, ball).stored(), expected.outerStress[row][i]);
         }
     }
+    ASSERT_EQ(solver.InnerDynamicCapacity.stored(), expected.innerCapacity);
+    ASSERT_EQ(solver.OuterDynamicCapacity.stored(), expected.outerCapacity);
+    ASSERT_EQ(solver.RmcRow1.stored(), expected.cubeMean[1]);
+    ASSERT_EQ(solver.RmcRow2.stored(), expected.cubeMean[2]);
+    ASSERT_EQ(solver.MeanRow1.stored(), expected.tenthMean[1]);
+    ASSERT_EQ(solver.MeanRow2.stored(), expected.tenthMean[2]);
+    ASSERT_EQ(solver.L10InnerRotationRow1.stored(), expected.innerRotation[1]);
+    ASSERT_EQ(solver.L10InnerRotationRow2.stored(), expected.innerRotation[2]);
+    ASSERT_EQ(solver.L10OuterRotationRow1.stored(), expected.outerRotation[1]);
+    ASSERT_EQ(solver.L10OuterRotationRow2.stored(), expected.outerRotation[2]);
+    ASSERT_EQ(solver.InnerStaticCapacity.stored(), expected.innerStatic);
+    ASSERT_EQ(solver.OuterStaticCapacity.stored(), expected.outerStatic);
+    ASSERT_EQ(solver.MaxBallRow, expected.largestRow);
+    ASSERT_EQ(solver.MaxBallNumber, expected.largestBall);
 }
 
 class CoupledStyles : public ::testing::TestWithParam<char> {};
 
 TEST_P(CoupledStyles, AgreeWithThePlainTranscriptionToTheLastBit) {
-    for (const plain::Bearing& bearing : cases(GetParam())) {
+    int solved = 0;
+    for (const plain::Bearing& bearing : solverCases(GetParam())) {
         // A face-to-face pair of this width carries no large moment; what can't converge is no case here.
         if (bearing.style == 'F' && bearing.moment > 1000.0F) continue;
         const plain::Result expected = plain::solveCoupledRows(bearing);
         if (expected.iterations > 9000) continue;
+        ++solved;
         ProgramState state;
         state.bearing.pitchDiameter = bearing.pitchDiameter;
         RecordingMessages messages;
         const auto result = SolveCoupledRows(state, argumentsOf(bearing), messages);
         ASSERT_TRUE(result.has_value());
         const SolverState& solver = state.solver;
-        ASSERT_EQ(solver.Kn.stored(), expected.Kn);
-        ASSERT_EQ(solver.InnerK.stored(), expected.inner.K);
-        ASSERT_EQ(solver.OuterE.stored(), expected.outer.E);
         ASSERT_EQ(solver.AxialDisp, expected.axial);
-        ASSERT_EQ(solver.RadialDisp, expected.radial);
         ASSERT_EQ(solver.Tilt, expected.tilt);
-        ASSERT_EQ(solver.Iteration, expected.iterations);
-        expectSameLoads(solver, expected, 2);
-        ASSERT_EQ(solver.InnerDynamicCapacity.stored(), expected.innerCapacity);
+        expectTheSame(solver, expected, 2);
         ASSERT_EQ(result->lifeRevolutions.stored(), expected.life);
         ASSERT_EQ(result->safetyFactor.stored(), expected.safety);
     }
+    EXPECT_GE(solved, 70);
 }
 
 TEST_P(CoupledStyles, CarryTheLoadsThatAreApplied) {
-    for (const plain::Bearing& bearing : cases(GetParam())) {
+    int solved = 0;
+    for (const plain::Bearing& bearing : solverCases(GetParam())) {
         if (bearing.style == 'F' && bearing.moment > 1000.0F) continue;
         ProgramState state;
         RecordingMessages messages;
         if (!SolveCoupledRows(state, argumentsOf(bearing), messages)) continue;
+        ++solved;
         EXPECT_NEAR(state.solver.ForceAxialSum, static_cast<double>(bearing.axialLoad), 1e-6);
         EXPECT_NEAR(state.solver.ForceRadialSum, static_cast<double>(bearing.radialLoad), 1e-6);
         EXPECT_NEAR(state.solver.MomentSum, static_cast<double>(bearing.moment), 1e-5);
     }
+    EXPECT_GE(solved, 70);
 }
 
 INSTANTIATE_TEST_SUITE_P(Styles, CoupledStyles, ::testing::Values('X', 'B', 'F'));
 
 TEST(RadialRow, AgreesWithThePlainTranscriptionToTheLastBit) {
-    for (const plain::Bearing& bearing : cases('C')) {
+    for (const plain::Bearing& bearing : solverCases('C')) {
         for (const float clearance : {bearing.clearance, -0.0003F, 0.02F}) {
             plain::Bearing row = bearing;
             row.clearance = clearance;
@@ -119,9 +105,7 @@ TEST(RadialRow, AgreesWithThePlainTranscriptionToTheLastBit) {
             ProgramState state;
             RecordingMessages messages;
             const SolveResult result = SolveRadialRow(state, argumentsOf(row), messages);
-            ASSERT_EQ(state.solver.RadialDisp, expected.radial);
-            ASSERT_EQ(state.solver.Iteration, expected.iterations);
-            expectSameLoads(state.solver, expected, 1);
+            expectTheSame(state.solver, expected, 1);
             ASSERT_EQ(result.lifeRevolutions.stored(), expected.life);
             ASSERT_EQ(result.safetyFactor.stored(), expected.safety);
         }
@@ -131,7 +115,7 @@ TEST(RadialRow, AgreesWithThePlainTranscriptionToTheLastBit) {
 TEST(RadialRow, LoadsAtMostHalfOfTheBallsAndNoneOfTheSecondRow) {
     ProgramState state;
     RecordingMessages messages;
-    SolveRadialRow(state, argumentsOf(cases('C')[0]), messages);
+    SolveRadialRow(state, argumentsOf(solverCases('C')[0]), messages);
     const SolverState& solver = state.solver;
     double sum = 0.0;
     for (int ball = 1; ball <= solver.BallCount; ++ball) {
@@ -162,17 +146,17 @@ int faultOf(const plain::Bearing& bearing) {
 
 TEST(Loads, OfASignThatTheStyleDoesNotTakeAreFaultFive) {
     for (const char style : {'X', 'B', 'F'}) {
-        plain::Bearing bearing = cases(style)[0];
+        plain::Bearing bearing = solverCases(style)[0];
         bearing.axialLoad = -10.0F;
         EXPECT_EQ(faultOf(bearing), fault::kInvalidCall) << style;
     }
-    plain::Bearing radial = cases('C')[0];
+    plain::Bearing radial = solverCases('C')[0];
     radial.radialLoad = -10.0F;
     EXPECT_EQ(faultOf(radial), fault::kInvalidCall);
 }
 
 TEST(Loads, NoneAtAllOnARadialRowIsADivisionByZero) {
-    plain::Bearing radial = cases('C')[0];
+    plain::Bearing radial = solverCases('C')[0];
     radial.radialLoad = 0.0F;
     EXPECT_EQ(faultOf(radial), fault::kDivisionByZero);
 }
@@ -180,7 +164,7 @@ TEST(Loads, NoneAtAllOnARadialRowIsADivisionByZero) {
 TEST(CoupledRows, KeepTheSignOfANegativeRadialLoad) {
     ProgramState state;
     RecordingMessages messages;
-    plain::Bearing bearing = cases('X')[0];
+    plain::Bearing bearing = solverCases('X')[0];
     bearing.radialLoad = -500.0F;
     bearing.axialLoad = 50.0F;
     ASSERT_TRUE(SolveCoupledRows(state, argumentsOf(bearing), messages).has_value());
@@ -191,7 +175,7 @@ TEST(CoupledRows, KeepTheSignOfANegativeRadialLoad) {
 TEST(Assembly, OfAContactLineWithoutAxialPartIsADivisionByZero) {
     ProgramState state;
     RecordingMessages messages;
-    plain::Bearing bearing = cases('X')[2];
+    plain::Bearing bearing = solverCases('X')[2];
     bearing.clearance = 0.0F;
     ASSERT_TRUE(SolveCoupledRows(state, argumentsOf(bearing), messages).has_value());
     SolverState& solver = state.solver;
@@ -210,7 +194,7 @@ TEST(Stiffness, IsTheDerivativeOfTheForcesByEachDisplacement) {
     for (const char style : {'X', 'B', 'F'}) {
         ProgramState state;
         RecordingMessages messages;
-        plain::Bearing bearing = cases(style)[6];
+        plain::Bearing bearing = solverCases(style)[6];
         bearing.moment = 100.0F;
         ASSERT_TRUE(SolveCoupledRows(state, argumentsOf(bearing), messages).has_value());
         SolverState& solver = state.solver;
@@ -236,36 +220,6 @@ TEST(Stiffness, IsTheDerivativeOfTheForcesByEachDisplacement) {
             }
         }
     }
-}
-
-TEST(EllipticIntegrals, AreAQuarterTurnForACircleAndNearTheTextbookElsewhere) {
-    const EllipticResult circle = EllipticIntegrals(0.0);
-    EXPECT_NEAR(circle.K, kTrueHalfPi, 1e-9);
-    EXPECT_NEAR(circle.E, kTrueHalfPi, 1e-9);
-    for (const double m : {0.1, 0.5, 0.9, 0.99}) {
-        const EllipticResult sum = EllipticIntegrals(m);
-        EXPECT_NEAR(sum.K, std::comp_ellint_1(std::sqrt(m)), 1e-6) << m;
-        EXPECT_NEAR(sum.E, std::comp_ellint_2(std::sqrt(m)), 1e-6) << m;
-        EXPECT_EQ(sum.K, plain::ellipticIntegrals(m).K) << m;
-        EXPECT_EQ(sum.E, plain::ellipticIntegrals(m).E) << m;
-    }
-}
-
-TEST(Matrix3, InverseTimesTheMatrixIsTheUnitMatrix) {
-    const Matrix3 a = {{{}, {0, 4, -2, 1}, {0, 3, 6, -4}, {0, 2, 1, 8}}};
-    const Matrix3 product = MatrixProduct3(a, InvertMatrix3(a));
-    for (std::size_t i = 1; i <= 3; ++i) {
-        for (std::size_t j = 1; j <= 3; ++j)
-            EXPECT_NEAR(product[i][j], i == j ? 1.0 : 0.0, 1e-15);
-    }
-    EXPECT_THROW(InvertMatrix3(Matrix3{}), RuntimeError);
-}
-
-TEST(ArccosRoutine, IsTheAngleOfACosine) {
-    EXPECT_NEAR(Arccos(0.5), kTrueHalfPi * 2.0 / 3.0, 1e-15);
-    EXPECT_EQ(Arccos(1.0), 0.0);
-    EXPECT_THROW(Arccos(0.0), RuntimeError);
-    EXPECT_THROW(Arccos(1.5), RuntimeError);
 }
 
 }  // namespace
