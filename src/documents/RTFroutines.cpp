@@ -65,8 +65,9 @@ std::string run(const SheetText& text, bool centred) {
     // A text that is a hair wider than its box would break and vanish; the indent beyond the edge gives it
     // room.
     rtf += centred ? "\\qc\\ri-72\\li-72" : "\\ri-72";
-    // A leading blank may stand left of the box: a five-digit scale label then keeps its last digit whole.
-    if (!centred && text.text.starts_with(" ")) rtf += "\\li-30";
+    // The blank of a label may stand left of its box: a five-digit one then keeps its last digit whole.
+    const bool label = text.text.rfind(' ') == 0;
+    if (!centred && label) rtf += "\\li-30";
     rtf += "\\widctlpar\\adjustright " + word("fs", halfPoints) + "\\cgrid {";
     if (text.bold) rtf += "\\b";
     rtf += colourWord(text.colour);

@@ -110,7 +110,7 @@ void writeFitNote(const SheetWriter& sheet) {
     double y = 1.795;
     for (const char* const words : {" Speeds shown are for '0' preload ", " only.  Check actual fit value ",
                                     " for more information. "}) {
-        sheet.text({4.62, y, 5.9, y - 0.13}, words, {7.0, "RED"});
+        sheet.text({4.6, y, 5.9, y - 0.13}, words, {7.0, "RED"});
         y -= 0.097;
     }
 }

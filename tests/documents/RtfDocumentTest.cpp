@@ -150,8 +150,10 @@ TEST(RtfTextShape, GivesItsParagraphRoomBeyondTheBox) {
     RtfDocument document;
     document.RTFDATASHEETTEXT(sample());
     EXPECT_TRUE(has(document, "\\ri-72"));
-    EXPECT_FALSE(has(document, "\\li-30"));
     SheetText label = sample();
+    label.text = " Speeds shown";
+    document.RTFDATASHEETTEXT(label);
+    EXPECT_FALSE(has(document, "\\li-30"));
     label.text = " 15000";
     document.RTFDATASHEETTEXT(label);
     EXPECT_TRUE(has(document, "\\ri-72\\li-30")) << "the blank gives way to the last digit";
