@@ -1,0 +1,332 @@
+#include <cmath>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "loaddist/AssembleRows.h"
+#include "loaddist/radlodestar2.h"
+#include "numbers/RuntimeError.h"
+#include "state/Patience.h"
+#include "support/PlainSolver.h"
+#include "support/RecordingPorts.h"
+#include "support/SolverCases.h"
+
+namespace norlaplan {
+namespace {
+
+using testing::argumentsOf;
+using testing::RecordingMessages;
+using testing::solverCases;
+
+plain::Bearing radialBearing() {
+    return {'C', 3.0F, 0.375F, 20, 0.19875F, 0.0F, 0.0012F, 0.0F, 500.0F, 0.0F, 0.0F};
+}
+
+/// The fault in which a solve ends; 0 for none.
+template <typename Solve>
+int faultOf(Solve solve) {
+    try {
+        solve();
+    } catch (const RuntimeError& error) {
+        return error.number();
+    }
+    return 0;
+}
+
+TEST(RadialRow, WithoutLoadLeavesEveryBallUnloadedAfterNoIterationAndHasNoSafety) {
+    ProgramState state;
+    RecordingMessages messages;
+    plain::Bearing bearing = radialBearing();
+    bearing.radialLoad = 0.0F;
+    EXPECT_EQ(faultOf([&] { SolveRadialRow(state, argumentsOf(bearing), messages); }),
+              fault::kDivisionByZero);
+    EXPECT_EQ(state.solver.RadialDisp, 0.0);
+    EXPECT_EQ(state.solver.Iteration, 0);
+    for (int ball = 1; ball <= 20; ++ball)
+        EXPECT_EQ(state.solver.BallLoad(1, ball), 0.0) << ball;
+}
+
+TEST(RadialRow, WithALargeClearanceStoresNoDeflectionForTheBallsOutOfTouch) {
+    ProgramState state;
+    RecordingMessages messages;
+    plain::Bearing bearing = radialBearing();
+    bearing.clearance = 0.02F;
+    SolveRadialRow(state, argumentsOf(bearing), messages);
+    int carrying = 0;
+    for (int ball = 1; ball <= 20; ++ball) {
+        const double cosine = std::cos((ball - 1) * plain::kTwoPi / 20);
+        const bool touches = state.solver.RadialDisp * cosine > 0.01;
+        EXPECT_EQ(state.solver.BallDeflection(1, ball) > 0.0, touches) << ball;
+        EXPECT_EQ(state.solver.BallLoad(1, ball) > 0.0, touches) << ball;
+        carrying += touches ? 1 : 0;
+    }
+    EXPECT_GE(carrying, 1);
+    EXPECT_LE(carrying, 5);
+}
+
+/// A load so large that its last digit is coarser than the tolerance: Newton's steps go round in circles.
+plain::Bearing circlingBearing() {
+    return {'C', 17.5F, 0.25F, 175, 0.1325F, 0.0F, 0.0012F, 0.0F, 1e10F, 0.0F, 0.0F};
+}
+
+TEST(RadialRow, GoesOnByBisectionSilentlyAfterTwentySixNewtonPasses) {
+    ProgramState state;
+    RecordingMessages messages;
+    const plain::Result expected = plain::solveRadialRow(circlingBearing());
+    SolveRadialRow(state, argumentsOf(circlingBearing()), messages);
+    EXPECT_GT(state.solver.Iteration, 26);
+    EXPECT_EQ(state.solver.Iteration, expected.iterations);
+    EXPECT_EQ(state.solver.RadialDisp, expected.radial);
+    EXPECT_EQ(state.solver.ForceRadialSum, 1e10);
+    EXPECT_TRUE(messages.shown.empty());
+    EXPECT_TRUE(messages.asked.empty());
+}
+
+TEST(RadialRow, ThatBisectsWithoutEndIsEndedByItsGuardUnasked) {
+    ProgramState state;
+    RecordingMessages messages;
+    plain::Bearing bearing = radialBearing();
+    bearing.ballDiameter = 0.15625F;
+    bearing.grooveRadius = 0.0828125F;
+    bearing.balls = 48;
+    bearing.radialLoad = 1e10F;
+    EXPECT_THROW(SolveRadialRow(state, argumentsOf(bearing), messages), NotConverging);
+    EXPECT_TRUE(messages.asked.empty());
+}
+
+TEST(RadialRow, IgnoresWhatOnlyACoupledSolveReads) {
+    ProgramState plainState;
+    ProgramState state;
+    RecordingMessages messages;
+    plain::Bearing bearing = radialBearing();
+    SolveRadialRow(plainState, argumentsOf(bearing), messages);
+    bearing.axialLoad = 300.0F;
+    bearing.moment = 700.0F;
+    bearing.angleDegrees = 30.0F;
+    SolveRadialRow(state, argumentsOf(bearing), messages);
+    EXPECT_EQ(state.solver.RadialDisp, plainState.solver.RadialDisp);
+    EXPECT_EQ(state.solver.AxialLoad, 0.0);
+    EXPECT_EQ(state.solver.MomentLoad, 0.0);
+    EXPECT_EQ(state.solver.ContactAngle, 0.0);
+    EXPECT_EQ(state.solver.ForceZeroAngle, 0);
+}
+
+TEST(Torque, IsHalfThePitchDiameterOfTheBearingTimesAllBallLoadsTimesTheCoefficient) {
+    for (const char style : {'C', 'X', 'B'}) {
+        ProgramState state;
+        state.bearing.pitchDiameter = 8.0;
+        state.life.torqueCoefficient = 0.004;
+        RecordingMessages messages;
+        // The argument's own pitch diameter is another one.
+        const SolveArguments arguments = argumentsOf(solverCases(style)[1]);
+        const SolveResult result = style == 'C' ? SolveRadialRow(state, arguments, messages)
+                                                : SolveCoupledRows(state, arguments, messages).value();
+        double sum = 0.0;
+        for (int row = 1; row <= 2; ++row) {
+            for (int ball = 1; ball <= state.solver.BallCount; ++ball)
+                sum += state.solver.BallLoad(row, ball);
+        }
+        EXPECT_NEAR(result.torque / (sum * 4.0 * 0.004), 1.0, 1e-6) << style;
+    }
+}
+
+/// Hardly any contact angle and no axial load: the contact lines start without an axial part.
+plain::Bearing unstableBearing(char style) {
+    return {style, 3.0F, 0.25F, 20, 0.1325F, 0.3F, 0.0F, 1e-7F, 0.0F, 0.0F, 0.0F};
+}
+
+struct UnstableCase {
+    char style;
+    const char* title;
+};
+
+class UnstableStyles : public ::testing::TestWithParam<UnstableCase> {};
+
+TEST_P(UnstableStyles, AreToldWithAnAdviceAndAbortTheSolve) {
+    ProgramState state;
+    RecordingMessages messages;
+    const auto result = SolveCoupledRows(state, argumentsOf(unstableBearing(GetParam().style)), messages);
+    EXPECT_FALSE(result.has_value());
+    EXPECT_TRUE(state.solver.SolveAborted);
+    const std::vector<Message> expected = {{GetParam().title, "Unstable Bearing Configuration", Icon::None}};
+    EXPECT_EQ(messages.shown, expected);
+    EXPECT_TRUE(messages.asked.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Styles, UnstableStyles,
+                         ::testing::Values(UnstableCase{'X', "Please try a Back-to-Back set"},
+                                           UnstableCase{'F', "Please try a Back-to-Back set"},
+                                           UnstableCase{'B', "Please try a Four-Point Contact"},
+                                           UnstableCase{'Q', "Please try a different bearing style"}));
+
+TEST(UnstableBearing, TurnsTheEnteredLoadsThatAreZeroIntoOneAndShowsAllThree) {
+    ProgramState state;
+    ApplyUnitSystem("METRIC", state.units);
+    state.loads.radialLoadDisplay = 0.0;
+    state.loads.axialLoadDisplay = 2.5;
+    state.loads.momentLoadDisplay = 0.0;
+    RecordingMessages messages;
+    SolveCoupledRows(state, argumentsOf(unstableBearing('B')), messages);
+    EXPECT_EQ(state.loads.radialLoadDisplay, 1.0);
+    EXPECT_EQ(state.loads.axialLoadDisplay, 2.5);
+    EXPECT_EQ(state.loads.momentLoadDisplay, 1.0);
+    EXPECT_EQ(state.entries.radial, "1");
+    EXPECT_EQ(state.entries.axial, "2.5");
+    EXPECT_EQ(state.entries.moment, "1");
+    EXPECT_EQ(state.loads.radialLoad.stored(), state.units.forceFactor.stored());
+    EXPECT_EQ(state.loads.axialLoad.stored(), static_cast<float>(2.5 * state.units.forceFactor));
+    EXPECT_EQ(state.loads.momentLoad.stored(), state.units.momentFactor.stored());
+}
+
+TEST(UnstableBearing, LeavesLoadsThatAreNotZeroAsTheyWere) {
+    ProgramState state;
+    state.loads.radialLoadDisplay = 7.0;
+    state.loads.axialLoadDisplay = -3.0;
+    state.loads.momentLoadDisplay = 0.5;
+    RecordingMessages messages;
+    SolveCoupledRows(state, argumentsOf(unstableBearing('X')), messages);
+    EXPECT_EQ(state.loads.radialLoadDisplay, 7.0);
+    EXPECT_EQ(state.loads.axialLoadDisplay, -3.0);
+    EXPECT_EQ(state.loads.momentLoadDisplay, 0.5);
+}
+
+/// The displacements from which a solve starts: an unstable one ends before its first step.
+SolverState startOf(plain::Bearing bearing) {
+    ProgramState state;
+    RecordingMessages messages;
+    SolveCoupledRows(state, argumentsOf(bearing), messages);
+    EXPECT_EQ(messages.shown.size(), 1U);
+    return state.solver;
+}
+
+TEST(CoupledRows, StartATenThousandthAsideWithoutRadialLoadAndClearance) {
+    EXPECT_EQ(startOf(unstableBearing('X')).RadialDisp, 0.0001);
+    EXPECT_EQ(startOf(unstableBearing('B')).RadialDisp, 0.0001);
+}
+
+TEST(CoupledRows, StartOnTheSideOfANegativeRadialLoad) {
+    plain::Bearing bearing = unstableBearing('X');
+    bearing.radialLoad = 200.0F;
+    const double positive = startOf(bearing).RadialDisp;
+    bearing.radialLoad = -200.0F;
+    EXPECT_GT(positive, 0.0);
+    EXPECT_EQ(startOf(bearing).RadialDisp, -positive);
+}
+
+TEST(CoupledRows, OfABackToBackPairAtAngleZeroKeepTheClearanceOfTheLastSolveAndDivideByZero) {
+    ProgramState state;
+    state.solver.DiametralClearance = 0.125;
+    RecordingMessages messages;
+    plain::Bearing bearing = solverCases('B')[1];
+    bearing.angleDegrees = 0.0F;
+    EXPECT_EQ(faultOf([&] { SolveCoupledRows(state, argumentsOf(bearing), messages); }),
+              fault::kDivisionByZero);
+    EXPECT_EQ(state.solver.DiametralClearance, 0.125);
+    EXPECT_FALSE(state.solver.SolveAborted);
+    EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST(CoupledRows, OfAFourPointBearingLeaveTheGapOfTheLastPair) {
+    ProgramState state;
+    state.solver.GapDistance = 0.25;
+    state.solver.CenterlineSpacing = 0.5;
+    RecordingMessages messages;
+    const plain::Bearing bearing = solverCases('X')[1];
+    const plain::Result expected = plain::solveCoupledRows(bearing);
+    ASSERT_TRUE(SolveCoupledRows(state, argumentsOf(bearing), messages).has_value());
+    EXPECT_EQ(state.solver.GapDistance, 0.25);
+    EXPECT_EQ(state.solver.CenterlineSpacing, 0.5);
+    EXPECT_EQ(state.solver.AxialDisp, expected.axial);
+}
+
+/// A narrow face-to-face pair under a radial load alone: its steps never settle.
+plain::Bearing wanderingBearing() {
+    return {'F', 3.0F, 0.375F, 20, 0.19875F, 0.78740157F, 0.0012F, 30.0F, 500.0F, 0.0F, 0.0F};
+}
+
+const Message kQuestion{"Difficulty in solving this load case", "Do you want to keep trying?",
+                        Icon::Question};
+
+TEST(CoupledRows, AskAtTheTenThousandthPassAndAbortOnNo) {
+    ProgramState state;
+    RecordingMessages messages;
+    messages.answers = {Answer::No};
+    EXPECT_FALSE(SolveCoupledRows(state, argumentsOf(wanderingBearing()), messages).has_value());
+    EXPECT_EQ(messages.asked, std::vector<Message>{kQuestion});
+    EXPECT_EQ(state.solver.Iteration, 10000);
+    EXPECT_TRUE(state.solver.SolveAborted);
+    EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST(CoupledRows, CountTenThousandPassesAnewOnYes) {
+    ProgramState state;
+    RecordingMessages messages;
+    messages.answers = {Answer::Yes, Answer::No};
+    EXPECT_FALSE(SolveCoupledRows(state, argumentsOf(wanderingBearing()), messages).has_value());
+    EXPECT_EQ(messages.asked, (std::vector<Message>{kQuestion, kQuestion}));
+    EXPECT_EQ(state.solver.Iteration, 10000);
+}
+
+TEST(CoupledRows, LeaveWithoutResultsWhileAnEarlierAbortHasNotBeenLookedAt) {
+    ProgramState state;
+    state.solver.SolveAborted = true;
+    RecordingMessages messages;
+    EXPECT_FALSE(SolveCoupledRows(state, argumentsOf(solverCases('X')[1]), messages).has_value());
+    EXPECT_TRUE(state.solver.SolveAborted);
+}
+
+TEST(BallAngles, AreShownForABallThatJustTouchesAndNotForOneOutOfTouch) {
+    SolverState solver;
+    solver.BallCount = 1;
+    ResetAnalysis(solver);
+    solver.CentreDistance = 5.0;
+    // Row 1 just touches, 3-4-5; row 2 stands a hair apart.
+    solver.BallX(1, 1) = 4.0;
+    solver.BallY(1, 1) = 3.0;
+    solver.BallDist(1, 1) = 5.0;
+    solver.BallX(2, 1) = 4.0;
+    solver.BallY(2, 1) = 3.0;
+    solver.BallDist(2, 1) = std::nextafter(5.0, 0.0);
+    writeBallAngles(solver);
+    EXPECT_EQ(solver.BallAngleText(1, 1), "36.869");  // atan(3/4) = 36.8699 degrees, cut to six characters
+    EXPECT_EQ(solver.BallAngleText(2, 1), "  N/A ");
+}
+
+TEST(Assembly, GivesABallThatJustTouchesNoDeflectionAndNoLoad) {
+    SolverState solver;
+    solver.BallCount = 1;
+    ResetAnalysis(solver);
+    solver.StyleIsX = true;
+    solver.CentreDistance = 1.0;
+    solver.ContactAngle = 0.5;
+    solver.PitchDiameter = 8.0;
+    solver.CentreRadius = 4.0;
+    solver.Kn = 1e6;
+    const Assembly assembly = AssembleRows(solver, ballCosines(1, plain::kTwoPi));
+    ASSERT_EQ(solver.BallDist(1, 1), 1.0);
+    EXPECT_EQ(solver.BallDeflection(1, 1), 0.0);
+    EXPECT_EQ(solver.BallLoad(1, 1), 0.0);
+    EXPECT_EQ(assembly.stiffness[1][1], 0.0);
+    writeBallAngles(solver);
+    EXPECT_EQ(solver.BallAngleText(1, 1), "28.647");  // 0.5 radians
+}
+
+TEST(ResetAnalysis, ClearsTheBallTablesAndKeepsTheSemiAxes) {
+    SolverState solver;
+    solver.BallCount = 3;
+    ResetAnalysis(solver);
+    solver.BallLoad(1, 2) = 7.0;
+    solver.BallDeflection(2, 3) = 7.0;
+    solver.BallAngleText(1, 1) = "30.000";
+    solver.InnerSemiMajor(1, 2) = 0.5;
+    solver.OuterSemiMinor(2, 3) = 0.25;
+    ResetAnalysis(solver);
+    EXPECT_EQ(solver.BallLoad(1, 2), 0.0);
+    EXPECT_EQ(solver.BallDeflection(2, 3), 0.0);
+    EXPECT_EQ(solver.BallAngleText(1, 1), "");
+    EXPECT_EQ(solver.InnerSemiMajor(1, 2), 0.5);
+    EXPECT_EQ(solver.OuterSemiMinor(2, 3), 0.25);
+}
+
+}  // namespace
+}  // namespace norlaplan
