@@ -1,7 +1,6 @@
 #include "screens/Form12.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 
@@ -44,18 +43,7 @@ Form12::Form12(Screens& screens) : Form(screens, "Form12", "Bearing Size Selecti
         grid->addWidget(labels_[i], static_cast<int>(i), 0);
         grid->addWidget(fields[i], static_cast<int>(i), 1);
     }
-    auto* const buttons = theme::spaced(new QHBoxLayout, 0);
-    buttons->addWidget(mainMenu_);
-    buttons->addStretch();
-    buttons->addWidget(previous_);
-    buttons->addWidget(proceed_);
-    auto* const page = theme::spaced(new QVBoxLayout(this));
-    page->addWidget(picture_, 1);
-    page->addLayout(grid);
-    page->addLayout(buttons);
-    setTabOrder(minHeight_, proceed_);
-    setTabOrder(proceed_, previous_);
-    setTabOrder(previous_, mainMenu_);
+    build::layOutEntry(*this, {picture_, grid, minHeight_, proceed_, previous_, mainMenu_});
 }
 
 void Form12::activated() {

@@ -1,7 +1,6 @@
 #include "screens/Form14.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 
@@ -51,18 +50,7 @@ void Form14::layOut() {
         grid->addWidget(field, row, 1);
         ++row;
     }
-    auto* const buttons = theme::spaced(new QHBoxLayout, 0);
-    buttons->addWidget(mainMenu_);
-    buttons->addStretch();
-    buttons->addWidget(previous_);
-    buttons->addWidget(proceed_);
-    auto* const page = theme::spaced(new QVBoxLayout(this));
-    page->addWidget(picture_, 1);
-    page->addLayout(grid);
-    page->addLayout(buttons);
-    setTabOrder(speed_, proceed_);
-    setTabOrder(proceed_, previous_);
-    setTabOrder(previous_, mainMenu_);
+    build::layOutEntry(*this, {picture_, grid, speed_, proceed_, previous_, mainMenu_});
 }
 
 void Form14::activated() {

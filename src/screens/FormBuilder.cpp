@@ -1,6 +1,7 @@
 #include "screens/FormBuilder.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QStyleOptionButton>
 
 #include "screens/Theme.h"
@@ -98,6 +99,21 @@ QLineEdit* entryRow(QGridLayout& grid, int row, const char* labelName, const QSt
     grid.addWidget(field, row, 1);
     grid.addWidget(label(unitName, unit), row, 2);
     return field;
+}
+
+void layOutEntry(QWidget& form, const EntryPage& page) {
+    auto* const buttons = theme::spaced(new QHBoxLayout, 0);
+    buttons->addWidget(page.mainMenu);
+    buttons->addStretch();
+    buttons->addWidget(page.previous);
+    buttons->addWidget(page.proceed);
+    auto* const column = theme::spaced(new QVBoxLayout(&form));
+    column->addWidget(page.picture, 1);
+    column->addLayout(page.fields);
+    column->addLayout(buttons);
+    QWidget::setTabOrder(page.lastField, page.proceed);
+    QWidget::setTabOrder(page.proceed, page.previous);
+    QWidget::setTabOrder(page.previous, page.mainMenu);
 }
 
 }  // namespace norlaplan::build

@@ -36,4 +36,16 @@ QLabel* valueRow(QGridLayout& grid, int row, const char* labelName, const QStrin
 QLineEdit* entryRow(QGridLayout& grid, int row, const char* labelName, const QString& caption,
                     const char* fieldName, const QString& tip, const char* unitName, const QString& unit);
 
+/// The controls of a screen that asks for values under a picture.
+struct EntryPage {
+    QWidget* picture;
+    QGridLayout* fields;
+    QWidget* lastField;
+    QPushButton *proceed, *previous, *mainMenu;
+};
+
+/// Lays such a screen out: picture, fields, buttons; tabs go on from the last field to proceed, previous,
+/// main menu.
+void layOutEntry(QWidget& form, const EntryPage& page);
+
 }  // namespace norlaplan::build
