@@ -85,7 +85,6 @@ def frames(plot, shape):
     runout_frame(plot, inner[0], 5.87, inner[1], inner[2], "B")
     runout_frame(plot, outer[0], 4.68, outer[1], outer[2], "A")
     if shape.style in "AU":
-        plot.path((inner[2], 5.995), (shape.right, 5.995))
         plot.path((3.2, 5.143), (3.2, 4.805), (outer[0], 4.805))
 
 
@@ -95,7 +94,7 @@ def draw_dimensions(plot, shape):
     height(plot, shape.right, 7.09, 7.79, 8.04)
     half_dimension(plot, CENTRE, 8.981, 4.76)
     single = shape.style in "CX"
-    extension_down(plot, shape.right, BOTTOM - GAP, 5.93 if single or shape.is_set else 6.05)
+    extension_down(plot, shape.right, BOTTOM - GAP, 5.93 if single or shape.is_set else 6.18)
     half_dimension(plot, shape.right, 6.36, 5.32)
     extension_down(plot, shape.inner_land, BOTTOM - GAP, 5.634)
     half_dimension(plot, shape.inner_land, 5.634, 4.51)
