@@ -254,6 +254,7 @@ TEST(CoupledRows, AskAtTheTenThousandthPassAndAbortOnNo) {
     EXPECT_FALSE(SolveCoupledRows(state, argumentsOf(wanderingBearing()), messages).has_value());
     EXPECT_EQ(messages.asked, std::vector<Message>{kQuestion});
     EXPECT_EQ(state.solver.Iteration, 10000);
+    EXPECT_EQ(state.solver.RadialDisp, plain::solveCoupledRows(wanderingBearing(), 9999).radial);
     EXPECT_TRUE(state.solver.SolveAborted);
     EXPECT_TRUE(messages.shown.empty());
 }
@@ -265,6 +266,9 @@ TEST(CoupledRows, CountTenThousandPassesAnewOnYes) {
     EXPECT_FALSE(SolveCoupledRows(state, argumentsOf(wanderingBearing()), messages).has_value());
     EXPECT_EQ(messages.asked, (std::vector<Message>{kQuestion, kQuestion}));
     EXPECT_EQ(state.solver.Iteration, 10000);
+    // The count begins at 1, but anew at 0: the second round is one pass longer.
+    EXPECT_EQ(state.solver.RadialDisp, plain::solveCoupledRows(wanderingBearing(), 19999).radial);
+    EXPECT_NE(state.solver.RadialDisp, plain::solveCoupledRows(wanderingBearing(), 19998).radial);
 }
 
 TEST(CoupledRows, LeaveWithoutResultsWhileAnEarlierAbortHasNotBeenLookedAt) {

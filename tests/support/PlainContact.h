@@ -45,6 +45,7 @@ struct Race {
 
 struct Result {
     float elasticSum = 0.0F, Kn = 0.0F;
+    double CiCo = 0.0;
     Race inner, outer;
     double axial = 0.0, radial = 0.0, tilt = 0.0;
     int iterations = 0;
@@ -98,6 +99,12 @@ inline double raceConstant(const Race& race, double elasticSum) {
            (std::pow(T, 1.5) * ((elasticSum * 1.5) * std::sqrt(static_cast<double>(race.curvatureSum))));
 }
 
+inline double raceCompliance(const Race& race, double D) {
+    return std::pow(D, 1.0 / 3.0) * std::pow(static_cast<double>(race.E), -1.0 / 3.0) *
+           std::pow(static_cast<double>(race.curvatureSum), 1.0 / 3.0) *
+           std::pow(1.0 / static_cast<double>(race.kappa), 2.0 / 3.0) * static_cast<double>(race.K);
+}
+
 inline void contactConstants(const Bearing& bearing, double angle, Result& result) {
     const double D = bearing.ballDiameter;
     const double dm = bearing.pitchDiameter;
@@ -111,6 +118,7 @@ inline void contactConstants(const Bearing& bearing, double angle, Result& resul
     const double Ko = raceConstant(result.outer, static_cast<double>(result.elasticSum));
     result.Kn = static_cast<float>(
         std::pow(1.0 / (std::pow(1.0 / Ki, 2.0 / 3.0) + std::pow(1.0 / Ko, 2.0 / 3.0)), 1.5));
+    result.CiCo = raceCompliance(result.inner, D) + raceCompliance(result.outer, D);
 }
 
 }  // namespace norlaplan::plain

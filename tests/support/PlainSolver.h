@@ -177,8 +177,9 @@ inline void solve3(const double (&J)[4][4], const double (&b)[4], double (&x)[4]
     }
 }
 
-/// Two rows, three loads; styles X, B and F at a contact angle above 0.
-inline Result solveCoupledRows(const Bearing& bearing) {
+/// Two rows, three loads; styles X, B and F at a contact angle above 0. It stops after `mostSteps` at the
+/// latest.
+inline Result solveCoupledRows(const Bearing& bearing, int mostSteps = 9000) {
     Result result;
     const double alpha =
         static_cast<double>(static_cast<float>(static_cast<double>(bearing.angleDegrees) * kPi / 180.0));
@@ -232,7 +233,7 @@ inline Result solveCoupledRows(const Bearing& bearing) {
         if (std::fabs(pass.axial - Fa) < 0.00000001 || da == result.axial) ++converged;
         if (std::fabs(pass.radial - Fr) < 0.00000001 || dr == result.radial) ++converged;
         if (std::fabs(pass.moment - M) < 0.00000001 || t == result.tilt) ++converged;
-        if (converged >= 3 || result.iterations > 9000) break;
+        if (converged >= 3 || result.iterations > mostSteps) break;
         result.axial = da;
         result.radial = dr;
         result.tilt = t;
