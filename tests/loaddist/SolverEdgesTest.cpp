@@ -315,6 +315,24 @@ TEST(Assembly, GivesABallThatJustTouchesNoDeflectionAndNoLoad) {
     EXPECT_EQ(solver.BallAngleText(1, 1), "28.647");  // 0.5 radians
 }
 
+TEST(Assembly, OfALoadedContactLineAlongTheAxisIsADivisionByZero) {
+    SolverState solver;
+    solver.BallCount = 1;
+    ResetAnalysis(solver);
+    solver.StyleIsX = true;
+    solver.CentreDistance = 1.0;
+    solver.ContactAngle = 0.5;
+    solver.PitchDiameter = 8.0;
+    solver.Kn = 1e6;
+    solver.RadialDisp = -std::cos(solver.ContactAngle);
+    solver.AxialDisp = 1.0;
+    EXPECT_EQ(faultOf([&] { AssembleRows(solver, ballCosines(1, plain::kTwoPi)); }), fault::kDivisionByZero);
+    ASSERT_EQ(solver.BallLoad(1, 1), 0.0);
+    // Out of touch the same line has no angle to show, and no fault.
+    solver.AxialDisp = 0.25;
+    EXPECT_EQ(faultOf([&] { AssembleRows(solver, ballCosines(1, plain::kTwoPi)); }), 0);
+}
+
 TEST(ResetAnalysis, ClearsTheBallTablesAndKeepsTheSemiAxes) {
     SolverState solver;
     solver.BallCount = 3;
