@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
-#include <optional>
+#include <memory>
 #include <string_view>
 
 #include "numbers/RuntimeError.h"
@@ -26,7 +26,8 @@ void putText(std::string_view from, char* text, std::size_t size) {
 class HeadlessApplication {
   public:
     HeadlessApplication() {
-        if (QCoreApplication::instance() == nullptr) application_.emplace(count_, arguments_.data());
+        if (QCoreApplication::instance() == nullptr)
+            application_ = std::make_unique<QGuiApplication>(count_, arguments_.data());
     }
 
   private:
@@ -35,7 +36,7 @@ class HeadlessApplication {
     char platform_[10] = "offscreen";
     std::array<char*, 4> arguments_ = {name_, option_, platform_, nullptr};
     int count_ = 3;
-    std::optional<QGuiApplication> application_;
+    std::unique_ptr<QGuiApplication> application_;
 };
 
 }  // namespace
