@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "numbers/Arithmetic.h"
+#include "numbers/ExactPowers.h"
 #include "numbers/FormatNumber.h"
 #include "numbers/PiValue.h"
 
@@ -41,51 +42,62 @@ RowGeometry rowGeometry(SolverState& state) {
     return rows;
 }
 
-/// One ball in one row.
+/// The contact lines of one row: radial and axial part and length, from ball 0 on.
+struct Lines {
+    Lines(SolverState& state, int row)
+        : x(state.BallX.row(row)), y(state.BallY.row(row)), length(state.BallDist.row(row)) {}
+
+    double *x, *y, *length;
+};
+
+/// The lines of all balls. They have no order among themselves, so the compiler may take several at once.
+void placeLines(const SolverState& state, const RowGeometry& rows, const std::vector<double>& cosines,
+                const Lines& one, const Lines& two) {
+    const double R = state.CentreRadius;
+    const double da = state.AxialDisp;
+    const double dr = state.RadialDisp;
+    const double t = state.Tilt;
+    const double m = rows.m;
+    const auto balls = static_cast<std::size_t>(state.BallCount) + 1;
+    for (std::size_t i = 1; i < balls; ++i) {
+        const double c = cosines[i];
+        one.x[i] = (rows.x1 + dr * c) - (m * c) * t;
+        one.y[i] = (rows.y1 + da) + (R * c) * t;
+        two.x[i] = (rows.x2 + dr * c) + (m * c) * t;
+        two.y[i] = (rows.y2 - da) - (R * c) * t;
+    }
+    for (const Lines& lines : {one, two}) {
+        for (std::size_t i = 1; i < balls; ++i)
+            lines.length[i] = std::sqrt(lines.x[i] * lines.x[i] + lines.y[i] * lines.y[i]);
+    }
+}
+
+/// One ball in one row. Out of touch it carries nothing, and nothing adds nothing to any sum.
 struct Contact {
-    double x = 0.0, y = 0.0, d = 0.0, sine = 0.0, cosine = 0.0;
-    double e = 0.0;  ///< approach; negative out of touch
-    double Q = 0.0;
+    Contact(const Lines& lines, int ball, double A0)
+        : x(lines.x[ball]), y(lines.y[ball]), d(lines.length[ball]), e(d - A0), touches(!(e < 0.0)) {
+        // The moment's arm divides by y, the angle's text by x.
+        if (y == 0.0 || d == 0.0 || (touches && x == 0.0)) raise(fault::kDivisionByZero);
+    }
+
+    double x, y, d;
+    double e;  ///< approach
+    bool touches;
+    double sine = 0.0, cosine = 0.0, Q = 0.0;
 };
 
-/// One row of the ball tables, for writing ball after ball.
-struct BallRow {
-    BallRow(SolverState& state, int row)
-        : x(state.BallX.row(row)),
-          y(state.BallY.row(row)),
-          dist(state.BallDist.row(row)),
-          sine(state.BallSinAngle.row(row)),
-          cosine(state.BallCosAngle.row(row)),
-          deflection(state.BallDeflection.row(row)),
-          load(state.BallLoad.row(row)),
-          radialForce(state.BallRadialForce.row(row)),
-          axialForce(state.BallAxialForce.row(row)) {}
+inline void load(Contact& contact, double Kn) {
+    contact.sine = divide(contact.y, contact.d);
+    contact.cosine = divide(contact.x, contact.d);
+    if (contact.e > 0.0) contact.Q = powerThreeHalves(contact.e) * Kn;
+}
 
-    double *x, *y, *dist, *sine, *cosine, *deflection, *load, *radialForce, *axialForce;
-};
+inline double momentArm(const Contact& contact, double h, double dm) {
+    return divide(h * contact.x, contact.y) + dm;
+}
 
-Contact placeBall(const BallRow& row, int ball, double x, double y, double c, double A0, double Kn) {
-    Contact contact;
-    contact.x = x;
-    contact.y = y;
-    contact.d = std::sqrt(x * x + y * y);
-    contact.sine = divide(y, contact.d);
-    contact.cosine = divide(x, contact.d);
-    contact.e = contact.d - A0;
-    // The angle's text divides by x, so a contact line along the axis is a fault here as well.
-    if (contact.e >= 0.0 && x == 0.0) raise(fault::kDivisionByZero);
-    const double deflection = contact.e > 0.0 ? contact.e : 0.0;
-    contact.Q = deflection > 0.0 ? power(deflection, 3.0 / 2.0) * Kn : 0.0;
-    row.x[ball] = x;
-    row.y[ball] = y;
-    row.dist[ball] = contact.d;
-    row.sine[ball] = contact.sine;
-    row.cosine[ball] = contact.cosine;
-    row.deflection[ball] = deflection;
-    row.load[ball] = contact.Q;
-    row.radialForce[ball] = (c * contact.Q) * contact.cosine;
-    row.axialForce[ball] = contact.Q * contact.sine;
-    return contact;
+double momentOf(const Contact& contact, double c, double h, double dm) {
+    return ((contact.sine * contact.Q * c) * momentArm(contact, h, dm)) / 2.0;
 }
 
 /// The terms of one ball's stiffness; the rows differ in the two that the tilt makes.
@@ -93,14 +105,13 @@ struct Stiffness {
     double k11 = 0.0, k12 = 0.0, k13 = 0.0, k21 = 0.0, k22 = 0.0, k23 = 0.0;
 };
 
-Stiffness ballStiffness(const Contact& contact, int row, double A0, double R, double m, double c) {
+inline Stiffness ballStiffness(const Contact& contact, int row, double A0, double R, double m, double c) {
     Stiffness k;
-    if (contact.e < 0.0) return k;
     const double x = contact.x;
     const double y = contact.y;
     const double d = contact.d;
     const double e = contact.e;
-    const double S = std::sqrt(e) / std::pow(d, 3.0);
+    const double S = std::sqrt(e) / cube(d);
     const double T = A0 + d / 2.0;
     k.k11 = S * (d * (1.5 * (y * y) + x * x) - A0 * (x * x));
     k.k12 = ((c * x) * y) * S * T;
@@ -145,31 +156,37 @@ Assembly AssembleRows(SolverState& state, const std::vector<double>& cosines) {
     const double A0 = state.CentreDistance;
     const double R = state.CentreRadius;
     const double dm = state.PitchDiameter;
-    const double da = state.AxialDisp;
-    const double dr = state.RadialDisp;
-    const double t = state.Tilt;
-    const double m = rows.m;
     const double Kn = state.Kn;
-    const BallRow first(state, 1);
-    const BallRow second(state, 2);
+    const double h = rows.h;
+    const double m = rows.m;
+    const Lines first(state, 1);
+    const Lines second(state, 2);
+    placeLines(state, rows, cosines, first, second);
     Assembly assembly;
     double axial = 0.0;
     double radial = 0.0;
     double moment = 0.0;
     for (int i = 1; i <= state.BallCount; ++i) {
+        Contact one(first, i, A0);
+        Contact two(second, i, A0);
+        if (i == state.BallCount) assembly.lastArm1 = momentArm(one, h, dm);
+        if (!one.touches && !two.touches) continue;
         const double c = cosines[static_cast<std::size_t>(i)];
-        const Contact one =
-            placeBall(first, i, (rows.x1 + dr * c) - (m * c) * t, (rows.y1 + da) + (R * c) * t, c, A0, Kn);
-        const Contact two =
-            placeBall(second, i, (rows.x2 + dr * c) + (m * c) * t, (rows.y2 - da) - (R * c) * t, c, A0, Kn);
-        axial = (axial + first.axialForce[i]) - second.axialForce[i];
-        radial = (radial + first.radialForce[i]) + second.radialForce[i];
-        const double arm1 = divide(rows.h * one.x, one.y) + dm;
-        const double arm2 = divide(rows.h * two.x, two.y) + dm;
-        moment = (moment + ((one.sine * one.Q * c) * arm1) / 2.0) - ((two.Q * two.sine * c) * arm2) / 2.0;
-        addStiffness(assembly.stiffness, ballStiffness(one, 1, A0, R, m, c),
-                     ballStiffness(two, 2, A0, R, m, c), c);
-        assembly.lastArm1 = arm1;
+        Stiffness a;
+        Stiffness b;
+        if (one.touches) {
+            load(one, Kn);
+            a = ballStiffness(one, 1, A0, R, m, c);
+            moment = moment + momentOf(one, c, h, dm);
+        }
+        if (two.touches) {
+            load(two, Kn);
+            b = ballStiffness(two, 2, A0, R, m, c);
+            moment = moment - momentOf(two, c, h, dm);
+        }
+        axial = (axial + one.Q * one.sine) - two.Q * two.sine;
+        radial = (radial + (c * one.Q) * one.cosine) + (c * two.Q) * two.cosine;
+        addStiffness(assembly.stiffness, a, b, c);
     }
     state.ForceAxialSum = checked(axial);
     state.ForceRadialSum = checked(radial);
@@ -179,6 +196,23 @@ Assembly AssembleRows(SolverState& state, const std::vector<double>& cosines) {
             checked(assembly.stiffness[i][j]);
     }
     return assembly;
+}
+
+void writeBallTables(SolverState& state, const std::vector<double>& cosines) {
+    for (int row = 1; row <= 2; ++row) {
+        const Lines lines(state, row);
+        for (int i = 1; i <= state.BallCount; ++i) {
+            Contact contact(lines, i, state.CentreDistance);
+            load(contact, state.Kn);
+            state.BallSinAngle(row, i) = contact.sine;
+            state.BallCosAngle(row, i) = contact.cosine;
+            state.BallDeflection(row, i) = contact.e > 0.0 ? contact.e : 0.0;
+            state.BallLoad(row, i) = contact.Q;
+            state.BallRadialForce(row, i) =
+                (cosines[static_cast<std::size_t>(i)] * contact.Q) * contact.cosine;
+            state.BallAxialForce(row, i) = contact.Q * contact.sine;
+        }
+    }
 }
 
 void writeBallAngles(SolverState& state) {

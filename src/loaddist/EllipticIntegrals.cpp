@@ -30,25 +30,32 @@ const Panels& squaredSines() {
 
 EllipticResult EllipticIntegrals(double m) {
     const Panels& squares = squaredSines();
-    // Roots and quotients have no order among themselves; only the two sums do.
-    std::array<double, kPanels + 1> w;
-    std::array<double, kPanels + 1> v;
+    // Roots and quotients have no order among themselves; only the two sums do. A block is short enough that
+    // the processor works on the next one while the sums of this one run.
+    constexpr std::size_t kBlock = 50;
+    static_assert(kPanels % kBlock == 0);
+    std::array<double, kBlock + 1> w;
+    std::array<double, kBlock + 1> v;
+    std::array<double, kBlock> panelK;
+    std::array<double, kBlock> panelE;
     w[0] = 1.0;
     v[0] = 1.0;
-    for (std::size_t j = 0; j < kPanels; ++j)
-        w[j + 1] = std::sqrt(1.0 - m * squares[j]);
-    for (std::size_t j = 0; j < kPanels; ++j)
-        v[j + 1] = 1.0 / w[j + 1];
-    Panels panelK;
-    Panels panelE;
-    for (std::size_t j = 0; j < kPanels; ++j)
-        panelK[j] = (v[j + 1] + v[j]) * PiValue / 4000.0;
-    for (std::size_t j = 0; j < kPanels; ++j)
-        panelE[j] = (w[j + 1] + w[j]) * PiValue / 4000.0;
     EllipticResult sum;
-    for (std::size_t j = 0; j < kPanels; ++j) {
-        sum.K = sum.K + panelK[j];
-        sum.E = sum.E + panelE[j];
+    for (std::size_t first = 0; first < kPanels; first += kBlock) {
+        for (std::size_t j = 0; j < kBlock; ++j)
+            w[j + 1] = std::sqrt(1.0 - m * squares[first + j]);
+        for (std::size_t j = 0; j < kBlock; ++j)
+            v[j + 1] = 1.0 / w[j + 1];
+        for (std::size_t j = 0; j < kBlock; ++j)
+            panelK[j] = (v[j + 1] + v[j]) * PiValue / 4000.0;
+        for (std::size_t j = 0; j < kBlock; ++j)
+            panelE[j] = (w[j + 1] + w[j]) * PiValue / 4000.0;
+        for (std::size_t j = 0; j < kBlock; ++j) {
+            sum.K = sum.K + panelK[j];
+            sum.E = sum.E + panelE[j];
+        }
+        w[0] = w[kBlock];
+        v[0] = v[kBlock];
     }
     if (std::isfinite(sum.K) && std::isfinite(sum.E)) return sum;
     for (const double square : squares)

@@ -161,6 +161,7 @@ std::optional<SolveResult> SolveCoupledRows(ProgramState& state, const SolveArgu
         solver.Iteration = solver.Iteration + 1;
         if (solver.Iteration == kPassesBeforeTheQuestion && !goesOn(solver, messages)) return std::nullopt;
     }
+    writeBallTables(solver, cosines);
     return outValues(state);
 }
 

@@ -5,6 +5,7 @@
 #include "loaddist/ContactConstants.h"
 #include "loaddist/SolveSetup.h"
 #include "loaddist/radlodestar2.h"
+#include "numbers/ExactPowers.h"
 #include "numbers/PiValue.h"
 #include "state/Patience.h"
 
@@ -46,7 +47,7 @@ Sums loadBalls(SolverState& state, const std::vector<double>& cosines, double u)
         if (delta < 0.0) delta = 0.0;
         state.BallDeflection(1, i) = delta;
         // Most balls of a bearing carry nothing; their terms are zero without the powers.
-        const double Q = delta > 0.0 ? power(delta, 1.5) * state.Kn : 0.0;
+        const double Q = delta > 0.0 ? powerThreeHalves(delta) * state.Kn : 0.0;
         state.BallLoad(1, i) = Q;
         state.BallRadialForce(1, i) = cosine * Q;
         const double stiffness = (state.Kn * 1.5) * (cosine * cosine) * std::sqrt(delta);

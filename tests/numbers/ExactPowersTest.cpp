@@ -1,0 +1,59 @@
+#include <cmath>
+#include <limits>
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "numbers/ExactPowers.h"
+#include "numbers/RuntimeError.h"
+
+namespace norlaplan {
+namespace {
+
+TEST(ExactPowers, EqualTheLibraryInEveryBit) {
+    std::mt19937_64 generator(20261121);
+    std::uniform_real_distribution<double> exponents(-110.0, 110.0);
+    for (int i = 0; i < 2000000; ++i) {
+        const double base = std::exp2(exponents(generator));
+        ASSERT_EQ(powerThreeHalves(base), std::pow(base, 1.5)) << i << " " << base;
+        ASSERT_EQ(cube(base), std::pow(base, 3.0)) << i << " " << base;
+    }
+}
+
+TEST(ExactPowers, EqualTheLibraryWhereTheResultIsShortOrHalfwayBetweenTwoNumbers) {
+    // Short bases have exact powers; those of 27 and 18 bits have powers that end next to or at a half.
+    for (long n = 1; n < 200000; ++n) {
+        const double base = static_cast<double>(n) / 1024.0;
+        ASSERT_EQ(powerThreeHalves(base), std::pow(base, 1.5)) << base;
+        ASSERT_EQ(cube(base), std::pow(base, 3.0)) << base;
+        const double odd = static_cast<double>(2 * n + 1);
+        ASSERT_EQ(powerThreeHalves(odd * odd), std::pow(odd * odd, 1.5)) << odd;
+        ASSERT_EQ(cube(odd), std::pow(odd, 3.0)) << odd;
+    }
+}
+
+TEST(ExactPowers, OfTheEndsOfTheRangeAreTheLibrarys) {
+    for (const double base : {0.0, 1e-320, 1e-200, 1e-30, 1e30, 1e100}) {
+        EXPECT_EQ(powerThreeHalves(base), std::pow(base, 1.5)) << base;
+        EXPECT_EQ(cube(base), std::pow(base, 3.0)) << base;
+    }
+}
+
+TEST(ExactPowers, RaiseTheFaultsOfAPower) {
+    const auto faultOf = [](double (*function)(double), double base) {
+        try {
+            function(base);
+        } catch (const RuntimeError& error) {
+            return error.number();
+        }
+        return 0;
+    };
+    EXPECT_EQ(faultOf(powerThreeHalves, -1.0), fault::kInvalidCall);
+    EXPECT_EQ(faultOf(powerThreeHalves, 1e300), fault::kOverflow);
+    EXPECT_EQ(faultOf(cube, 1e300), fault::kOverflow);
+    EXPECT_EQ(faultOf(cube, std::numeric_limits<double>::quiet_NaN()), fault::kInvalidCall);
+    EXPECT_EQ(cube(-2.0), -8.0);
+}
+
+}  // namespace
+}  // namespace norlaplan
