@@ -3,45 +3,57 @@
 #include <benchmark/benchmark.h>
 
 #include "search/SearchEngine.h"
-#include "state/LoadEntry.h"
+#include "support/LongCatalogue.h"
 #include "support/PlainSearch.h"
 #include "support/RecordingPorts.h"
+#include "support/SearchCases.h"
 
 namespace norlaplan {
 namespace {
 
-class NeverStops : public SearchWatch {
-  public:
-    bool goOn(double) override { return true; }
-};
-
-void searchOfTheProgram(benchmark::State& bench, const char* caption, const char* table) {
+void searchOfTheProgram(benchmark::State& bench, const testing::SearchCase& style) {
     const ProgramFolder folder(NORLAPLAN_PROGRAM_FOLDER);
     testing::RecordingMessages messages;
-    NeverStops watch;
-    ProgramState state;
-    state.style = {caption, table};
-    state.criteria = {0.5, 30.0, 0.1, 3.0, 0.5, 30.0, 0.1, 3.0};
-    state.loads.radialLoadDisplay = 500.0;
-    state.loads.axialLoadDisplay = 100.0;
-    convertLoads(state);
+    testing::NeverStops watch;
+    ProgramState state = testing::searchState(style);
     for (auto _ : bench)
         benchmark::DoNotOptimize(RunBearingSearch(state, folder, messages, watch));
     bench.counters["rows"] = static_cast<double>(state.search.rows.size());
 }
-BENCHMARK_CAPTURE(searchOfTheProgram, C, "RADIAL CONTACT", "C")->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(searchOfTheProgram, X, "4-POINT CONTACT", "X")->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(searchOfTheProgram, B, "BACK-TO-BACK SET", "A")->Unit(benchmark::kMillisecond);
 
-void searchPlainly(benchmark::State& bench, char style) {
+void searchPlainly(benchmark::State& bench, const testing::SearchCase& style) {
     const std::string tables = std::string(NORLAPLAN_PROGRAM_FOLDER) + "/Data Tables";
     for (auto _ : bench) {
-        benchmark::DoNotOptimize(plain::search(tables, style, {0.5F, 30.0F, 0.1F, 3.0F}, 500.0F, 100.0F));
+        benchmark::DoNotOptimize(
+            plain::search(tables, style.caption, testing::kWideEnvelope, testing::searchLoads(style)));
     }
 }
-BENCHMARK_CAPTURE(searchPlainly, C, 'C')->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(searchPlainly, X, 'X')->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(searchPlainly, B, 'B')->Unit(benchmark::kMillisecond);
+
+/// Reads a catalogue of that many rows: `hits` of them, spread evenly, fit the envelope.
+void costOfARow(benchmark::State& bench, int hits) {
+    const int rows = static_cast<int>(bench.range(0));
+    const testing::LongCatalogue catalogue(rows, hits);
+    testing::RecordingMessages messages;
+    testing::NeverStops watch;
+    ProgramState state = catalogue.state();
+    for (auto _ : bench)
+        benchmark::DoNotOptimize(RunBearingSearch(state, catalogue.folder(), messages, watch));
+    bench.counters["row"] =
+        benchmark::Counter(rows, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+BENCHMARK_CAPTURE(costOfARow, filtered, 0)->RangeMultiplier(10)->Range(100, 10000);
+BENCHMARK_CAPTURE(costOfARow, with100Hits, 100)->RangeMultiplier(10)->Range(100, 10000);
+
+[[maybe_unused]] const bool kRegistered = [] {
+    for (const testing::SearchCase& style : testing::kSearchCases) {
+        const std::string name = style.test;
+        benchmark::RegisterBenchmark(("searchOfTheProgram/" + name).c_str(), searchOfTheProgram, style)
+            ->Unit(benchmark::kMillisecond);
+        benchmark::RegisterBenchmark(("searchPlainly/" + name).c_str(), searchPlainly, style)
+            ->Unit(benchmark::kMillisecond);
+    }
+    return true;
+}();
 
 }  // namespace
 }  // namespace norlaplan

@@ -49,6 +49,7 @@ struct Result {
     Race inner, outer;
     double axial = 0.0, radial = 0.0, tilt = 0.0;
     int iterations = 0;
+    bool unstable = false;  ///< a division by zero ended the solve; there is no life
     std::vector<double> load[3];
     std::vector<float> innerMajor[3], innerMinor[3], innerStress[3];
     std::vector<float> outerMajor[3], outerMinor[3], outerStress[3];

@@ -98,6 +98,7 @@ inline Pass assemble(const Bearing& bearing, const Rows& rows, Result& result) {
                                       : (rows.y2 - result.axial) - (rows.R * c) * result.tilt;
             const double d = std::sqrt(x * x + y * y);
             const double e = d - rows.A0;
+            if (y == 0.0 || d == 0.0 || (e >= 0.0 && x == 0.0)) result.unstable = true;
             const double Q = std::pow(e > 0.0 ? e : 0.0, 3.0 / 2.0) * Kn;
             result.load[row][i] = Q;
             F[row] = Q * (y / d);
@@ -221,6 +222,7 @@ inline Result solveCoupledRows(const Bearing& bearing, int mostSteps = 9000) {
     result.iterations = 1;
     for (;;) {
         const Pass pass = assemble(bearing, rows, result);
+        if (result.unstable) return result;
         const double M = bearing.moment;
         const double b[4] = {0.0, (pass.axial - Fa) / Kn, (pass.radial - Fr) / Kn,
                              (pass.moment - M) / ((Kn * pass.lastArm) / 2.0)};
