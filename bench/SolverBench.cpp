@@ -21,6 +21,7 @@ void lifeOfTheProgram(benchmark::State& state, char style) {
 }
 BENCHMARK_CAPTURE(lifeOfTheProgram, X, 'X');
 BENCHMARK_CAPTURE(lifeOfTheProgram, B, 'B');
+BENCHMARK_CAPTURE(lifeOfTheProgram, F, 'F');
 
 void lifePlainly(benchmark::State& state, char style) {
     const plain::Bearing bearing = bearingOf(style);
@@ -29,6 +30,7 @@ void lifePlainly(benchmark::State& state, char style) {
 }
 BENCHMARK_CAPTURE(lifePlainly, X, 'X');
 BENCHMARK_CAPTURE(lifePlainly, B, 'B');
+BENCHMARK_CAPTURE(lifePlainly, F, 'F');
 
 void radialLifeOfTheProgram(benchmark::State& state) {
     const SolveArguments arguments = testing::argumentsOf(bearingOf('C'));

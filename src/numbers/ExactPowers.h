@@ -1,6 +1,9 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
 
 #include "numbers/Arithmetic.h"
 
@@ -38,34 +41,73 @@ inline bool inRange(double base) {
     return base > 1e-30 && base < 1e30;
 }
 
-/// The sum rounded, when its error is below 0.4808 of the last place; otherwise the library's power.
-inline double rounded(const Sum& sum, double base, double exponent) {
+/// A power worked out, and the same with its error moved outward: equal when the rounding is beyond doubt,
+/// which is when the error is below 0.4808 of the last place.
+struct Candidate {
+    double result, moved;
+};
+
+inline Candidate rounded(const Sum& sum) {
     const double result = sum.high + sum.low;
     const double error = sum.low - (result - sum.high);
-    if (result + error * 1.04 != result) [[unlikely]]
-        return power(base, exponent);
-    return result;
+    return {result, result + error * 1.04};
+}
+
+inline bool certain(const Candidate& candidate, double base) {
+    return candidate.result == candidate.moved && inRange(base);
+}
+
+inline Candidate threeHalves(double base) {
+    const double root = std::sqrt(base);
+    const Sum square = product(root, root);
+    const double rootError = ((base - square.high) - square.low) / (root + root);
+    const Sum sum = product(base, root);
+    return rounded({sum.high, sum.low + base * rootError});
+}
+
+inline Candidate cube(double base) {
+    const Sum square = product(base, base);
+    const Sum sum = product(square.high, base);
+    return rounded({sum.high, sum.low + square.low * base});
+}
+
+/// Power after power: first all of them side by side, then the library for those in doubt.
+template <Candidate (*Power)(double)>
+void fill(const double* bases, double* results, std::size_t count, double exponent) {
+    constexpr std::size_t kBlock = 64;
+    std::array<double, kBlock> moved;
+    for (std::size_t first = 0; first < count; first += kBlock) {
+        const std::size_t size = std::min(kBlock, count - first);
+        const double* base = bases + first;
+        double* result = results + first;
+        for (std::size_t i = 0; i < size; ++i) {
+            const Candidate candidate = Power(base[i]);
+            result[i] = candidate.result;
+            moved[i] = candidate.moved;
+        }
+        for (std::size_t i = 0; i < size; ++i) {
+            if (!certain({result[i], moved[i]}, base[i])) [[unlikely]]
+                result[i] = power(base[i], exponent);
+        }
+    }
 }
 
 }  // namespace exact
 
 /// base^(3/2). Errors as those of `power`.
 inline double powerThreeHalves(double base) {
-    constexpr double kExponent = 3.0 / 2.0;
-    if (!exact::inRange(base)) return power(base, kExponent);
-    const double root = std::sqrt(base);
-    const exact::Sum square = exact::product(root, root);
-    const double rootError = ((base - square.high) - square.low) / (root + root);
-    const exact::Sum sum = exact::product(base, root);
-    return exact::rounded({sum.high, sum.low + base * rootError}, base, kExponent);
+    const exact::Candidate candidate = exact::threeHalves(base);
+    return exact::certain(candidate, base) ? candidate.result : power(base, 3.0 / 2.0);
 }
 
-/// base^3. Errors as those of `power`.
-inline double cube(double base) {
-    if (!exact::inRange(base)) return power(base, 3.0);
-    const exact::Sum square = exact::product(base, base);
-    const exact::Sum sum = exact::product(square.high, base);
-    return exact::rounded({sum.high, sum.low + square.low * base}, base, 3.0);
+/// bases[i]^(3/2) into results[i] for i below `count`; the arrays don't overlap. Errors as those of `power`.
+inline void powersThreeHalves(const double* bases, double* results, std::size_t count) {
+    exact::fill<exact::threeHalves>(bases, results, count, 3.0 / 2.0);
+}
+
+/// bases[i]^3 into results[i] for i below `count`; the arrays don't overlap. Errors as those of `power`.
+inline void cubesOf(const double* bases, double* results, std::size_t count) {
+    exact::fill<exact::cube>(bases, results, count, 3.0);
 }
 
 }  // namespace norlaplan

@@ -1,6 +1,7 @@
 #include <cmath>
 #include <limits>
 #include <random>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -9,6 +10,12 @@
 
 namespace norlaplan {
 namespace {
+
+double cube(double base) {
+    double result = 0.0;
+    cubesOf(&base, &result, 1);
+    return result;
+}
 
 TEST(ExactPowers, EqualTheLibraryInEveryBit) {
     std::mt19937_64 generator(20261121);
@@ -36,6 +43,23 @@ TEST(ExactPowers, OfTheEndsOfTheRangeAreTheLibrarys) {
     for (const double base : {0.0, 1e-320, 1e-200, 1e-30, 1e30, 1e100}) {
         EXPECT_EQ(powerThreeHalves(base), std::pow(base, 1.5)) << base;
         EXPECT_EQ(cube(base), std::pow(base, 3.0)) << base;
+    }
+}
+
+TEST(ExactPowers, OfManyBasesAreThoseOfEachBase) {
+    // Blocks of 64 and what is left of one; every third base is beyond the range.
+    for (const std::size_t count : {0u, 1u, 63u, 64u, 65u, 200u}) {
+        std::vector<double> bases, halves(count + 1, -1.0), cubes(count + 1, -1.0);
+        for (std::size_t i = 0; i < count; ++i)
+            bases.push_back(i % 3 == 0 ? 1e40 / (1.0 + double(i)) : 0.001 * double(i));
+        powersThreeHalves(bases.data(), halves.data(), count);
+        cubesOf(bases.data(), cubes.data(), count);
+        for (std::size_t i = 0; i < count; ++i) {
+            EXPECT_EQ(halves[i], std::pow(bases[i], 1.5)) << i;
+            EXPECT_EQ(cubes[i], std::pow(bases[i], 3.0)) << i;
+        }
+        EXPECT_EQ(halves[count], -1.0);
+        EXPECT_EQ(cubes[count], -1.0);
     }
 }
 
