@@ -74,9 +74,14 @@ void decode(ProgramState& state, std::string& number, DecodeServices& services) 
     services.sheets.store(makeDataSheet(state, services.folder, services.clock));
 }
 
-DecodeResult backToEntry(ProgramState& state, MessagePort& messages, const Message& message) {
+/// Tells why a run has ended. Without its number the mix of two bearings that is left is never read.
+void giveUp(ProgramState& state, MessagePort& messages, const Message& message) {
     messages.show(message);
     state.bearing.partNumber.clear();
+}
+
+DecodeResult backToEntry(ProgramState& state, MessagePort& messages, const Message& message) {
+    giveUp(state, messages, message);
     return {DecodeEnd::BackToEntry, false, std::nullopt};
 }
 
@@ -89,7 +94,7 @@ DecodeResult fail(ProgramState& state, MessagePort& messages, const RuntimeError
         result.faultNumber = error.number();
         return result;
     }
-    messages.show({"Please contact Varden with " + std::to_string(error.number()), error.what()});
+    giveUp(state, messages, {"Please contact Varden with " + std::to_string(error.number()), error.what()});
     return {DecodeEnd::Stopped, true, error.number()};
 }
 
@@ -104,7 +109,7 @@ DecodeResult DecodePartNumber(ProgramState& state, std::string& number, DecodeSe
     } catch (const RuntimeError& error) {
         return fail(state, services.messages, error);
     } catch (const NotConverging& error) {
-        services.messages.show({NotConverging::title(), error.what()});
+        giveUp(state, services.messages, {NotConverging::title(), error.what()});
         return {DecodeEnd::Stopped, true, std::nullopt};
     }
 }

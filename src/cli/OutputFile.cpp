@@ -9,7 +9,7 @@
 #include "numbers/RuntimeError.h"
 #include "numbers/Text.h"
 #include "paint/PictureModule.h"
-#include "state/ProgramFolder.h"
+#include "state/WholeFile.h"
 
 namespace norlaplan::cli {
 namespace {

@@ -38,7 +38,7 @@ inline Sum product(double a, double b) {
 
 /// Outside of this the library's error grows, and in the end the parts of a product over- or underflow.
 inline bool inRange(double base) {
-    return base > 1e-30 && base < 1e30;
+    return base > 1e-20 && base < 1e20;
 }
 
 /// A power worked out, and the same with its error moved outward: equal when the rounding is beyond doubt,

@@ -11,7 +11,7 @@
 #include "numbers/RuntimeError.h"
 #include "numbers/Text.h"
 #include "paint/PainterCanvas.h"
-#include "state/ProgramFolder.h"
+#include "state/WholeFile.h"
 
 namespace norlaplan {
 namespace {

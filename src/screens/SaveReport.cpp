@@ -1,6 +1,7 @@
 #include "screens/SaveReport.h"
 
 #include "screens/BusyPointer.h"
+#include "state/WholeFile.h"
 
 namespace norlaplan {
 

@@ -4,7 +4,7 @@
 #include <system_error>
 
 #include "numbers/RuntimeError.h"
-#include "state/ProgramFolder.h"
+#include "state/WholeFile.h"
 
 namespace norlaplan {
 

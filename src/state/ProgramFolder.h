@@ -24,12 +24,4 @@ class ProgramFolder {
     std::filesystem::path root_;
 };
 
-/// The whole of a file by its path. Errors as `ProgramFolder::read`.
-std::string readWholeFile(const std::filesystem::path& path);
-
-/// Writes a file whole or not at all: to a temporary file beside the target, renamed over it. What stood
-/// there before still stands after a failure. Errors: 61 for a full disk, 70 when writing isn't permitted, 75
-/// when the folder is missing or the path is one of a folder, 57 for anything else.
-void writeWholeFile(const std::filesystem::path& path, std::string_view content);
-
 }  // namespace norlaplan

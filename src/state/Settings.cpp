@@ -6,6 +6,7 @@
 
 #include "numbers/RuntimeError.h"
 #include "numbers/Text.h"
+#include "state/WholeFile.h"
 
 namespace norlaplan {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "help/RtfReader.h"
 #include "help/RtfTexts.h"
-#include "state/ProgramFolder.h"
+#include "state/WholeFile.h"
 
 namespace norlaplan {
 namespace {

@@ -36,7 +36,7 @@ class FilesTest : public QObject {
         QCOMPARE(program.files.read("CONDENSED.DAT"), std::string("records"));
     }
 
-    void when_the_records_cannot_be_written_the_document_goes_back_to_what_it_was() {
+    void when_the_records_cannot_be_written_the_document_stays_what_it_was() {
         Program program;
         program.files.write("DATA.RTF", "old");
         std::filesystem::create_directory(program.files.path() / "CONDENSED.DAT");
@@ -44,7 +44,7 @@ class FilesTest : public QObject {
         QCOMPARE(program.files.read("DATA.RTF"), std::string("old"));
     }
 
-    void when_the_records_cannot_be_written_a_first_document_is_taken_away_again() {
+    void when_the_records_cannot_be_written_no_first_document_is_left() {
         Program program;
         std::filesystem::create_directory(program.files.path() / "CONDENSED.DAT");
         QCOMPARE(faultOf([&] { program.sheets.store({"rtf", "records"}); }), fault::kPathAccess);

@@ -2,7 +2,7 @@
 
 #include "numbers/RuntimeError.h"
 #include "state/MoveFile.h"
-#include "state/ProgramFolder.h"
+#include "state/WholeFile.h"
 #include "support/RecordingPorts.h"
 
 namespace norlaplan {

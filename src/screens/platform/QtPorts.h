@@ -32,9 +32,8 @@ class LocalClock : public ClockPort {
     std::string time() override;
 };
 
-/// Keeps the data sheet as DATA.RTF and CONDENSED.DAT in the program folder. When the second can't be
-/// written the first goes back to what it was, so that the two always tell of the same bearing. Errors as
-/// `writeWholeFile`.
+/// Keeps the data sheet as DATA.RTF and CONDENSED.DAT in the program folder. Neither is replaced before both
+/// are written, so that the two always tell of the same bearing. Errors as `writeWholeFile`.
 class FolderSheets : public SheetStorePort {
   public:
     explicit FolderSheets(const ProgramFolder& folder) : folder_(folder) {}

@@ -1,0 +1,152 @@
+#include <QLineEdit>
+#include <algorithm>
+#include <csignal>
+
+#include <sys/fsuid.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include "screens/Program.h"
+
+namespace norlaplan::testing {
+namespace {
+
+/// While it lives no file grows beyond some hundred bytes, as on a full disk.
+class FullDisk {
+  public:
+    explicit FullDisk(const std::filesystem::path&) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit few{500, before_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &few);
+    }
+    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &before_); }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+  private:
+    rlimit before_{};
+};
+
+/// While it lives the folder can be read only, by the administrator as well.
+class ReadOnlyFolder {
+  public:
+    explicit ReadOnlyFolder(const std::filesystem::path& folder) : folder_(folder) {
+        namespace fs = std::filesystem;
+        fs::permissions(folder_, fs::perms::owner_read | fs::perms::owner_exec | fs::perms::group_read |
+                                     fs::perms::group_exec | fs::perms::others_read | fs::perms::others_exec);
+        // The administrator may write anywhere; file access is tried as nobody for the time being.
+        if (::geteuid() == 0) ::setfsuid(65534);
+    }
+    ~ReadOnlyFolder() {
+        ::setfsuid(::geteuid());
+        std::filesystem::permissions(folder_, std::filesystem::perms::owner_all);
+    }
+    ReadOnlyFolder(const ReadOnlyFolder&) = delete;
+    ReadOnlyFolder& operator=(const ReadOnlyFolder&) = delete;
+
+  private:
+    std::filesystem::path folder_;
+};
+
+/// What the program does when it can't write, by the controls that a user works with.
+class StorageTest : public QObject {
+    Q_OBJECT
+
+  private:
+    static void enterNumber(Program& program, const char* number) {
+        program.screens.showAlone("Form3");
+        program.click("Form3", "Command8");
+        auto& field = program.control<QLineEdit>("Form9", "Text1");
+        field.setText(number);
+        QTest::keyClick(&field, Qt::Key_Return);
+    }
+    static void openLife(Program& program) {
+        program.click("Form3", "Command13");
+        program.control<QLineEdit>("Form14", "Text1").setText("500");
+        program.click("Form14", "Command1");
+    }
+    static std::vector<std::string> filesOf(const Program& program) {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(program.files.path()))
+            names.push_back(entry.path().filename().string());
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    template <typename Trouble>
+    static void refusesTheSheet(const Message& told) {
+        Program program;
+        enterNumber(program, "K19013XP0");
+        const std::string document = program.files.read("DATA.RTF");
+        const std::string records = program.files.read("CONDENSED.DAT");
+        const auto files = filesOf(program);
+        {
+            const Trouble trouble(program.files.path());
+            enterNumber(program, "K20013XP0");
+            QCOMPARE(program.lastMessage(), told);
+            QCOMPARE(program.inFront(), std::string("Form3"));
+            // No sheet of another bearing shows under the new number.
+            program.click("Form3", "Command9");
+            QCOMPARE(program.lastMessage().title, std::string("Missing Part Number"));
+        }
+        QCOMPARE(program.files.read("DATA.RTF"), document);
+        QCOMPARE(program.files.read("CONDENSED.DAT"), records);
+        QCOMPARE(filesOf(program), files);
+        // Once there is room again the same number goes through.
+        program.messages.shown.clear();
+        enterNumber(program, "K20013XP0");
+        QVERIFY(program.messages.shown.empty());
+        QVERIFY(program.files.read("CONDENSED.DAT").find("K20013XP0") != std::string::npos);
+    }
+
+  private slots:
+    void aFullDiskKeepsTheOldSheetAndTheNewBearingOut() {
+        refusesTheSheet<FullDisk>({"Please contact Varden with 61", "Disk full"});
+    }
+
+    void aReadOnlyProgramFolderKeepsTheOldSheetAndTheNewBearingOut() {
+        refusesTheSheet<ReadOnlyFolder>({"Please contact Varden with 70", "Permission denied"});
+    }
+
+    void everySaveOntoAFullDiskLeavesWhatStoodThere_data() {
+        QTest::addColumn<QString>("form");
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<int>("filter");
+        QTest::newRow("life report") << "Form19"
+                                     << "Command4" << 1;
+        QTest::newRow("data sheet as a picture") << "Form17"
+                                                 << "Command3" << 2;
+    }
+    void everySaveOntoAFullDiskLeavesWhatStoodThere() {
+        QFETCH(QString, form);
+        QFETCH(QString, button);
+        QFETCH(int, filter);
+        Program program;
+        enterNumber(program, "K19013XP0");
+        if (form == "Form19")
+            openLife(program);
+        else
+            program.click("Form3", "Command9");
+        program.files.write("mine", "old");
+        const auto files = filesOf(program);
+        program.saveDialog.choice = SaveChoice{program.files.path() / "mine", filter};
+        {
+            const FullDisk disk(program.files.path());
+            program.click(form.toStdString(), qPrintable(button));
+        }
+        QCOMPARE(program.lastMessage().title, std::string("Run-time error '61'"));
+        QVERIFY(program.lastMessage().prompt.starts_with("Disk full"));
+        QCOMPARE(program.inFront(), form.toStdString());
+        QCOMPARE(program.files.read("mine"), std::string("old"));
+        QCOMPARE(filesOf(program), files);
+        QVERIFY(program.state.lastSavedFile.empty());
+    }
+};
+
+}  // namespace
+}  // namespace norlaplan::testing
+
+using norlaplan::testing::StorageTest;
+QTEST_MAIN(StorageTest)
+#include "StorageTest.moc"

@@ -1,0 +1,92 @@
+#include <csignal>
+#include <iterator>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "numbers/RuntimeError.h"
+#include "state/WholeFile.h"
+#include "support/RecordingPorts.h"
+
+namespace norlaplan {
+namespace {
+
+using testing::TemporaryFolder;
+
+int faultOf(auto&& action) {
+    try {
+        action();
+    } catch (const RuntimeError& error) {
+        return error.number();
+    }
+    return 0;
+}
+
+TEST(WriteWholeFile, ReplacesTheFileAndLeavesNothingElseBehind) {
+    TemporaryFolder place;
+    place.write("report.rtf", "old");
+    writeWholeFile(place.path() / "report.rtf", "new");
+    EXPECT_EQ(place.read("report.rtf"), "new");
+    const std::filesystem::directory_iterator first(place.path());
+    EXPECT_EQ(std::distance(first, std::filesystem::directory_iterator{}), 1);
+}
+
+TEST(WriteWholeFile, KeepsTheRightsOfTheFileThatItReplaces) {
+    TemporaryFolder place;
+    place.write("report.rtf", "old");
+    ::chmod((place.path() / "report.rtf").c_str(), 0640);
+    writeWholeFile(place.path() / "report.rtf", "new");
+    struct stat status {};
+    ::stat((place.path() / "report.rtf").c_str(), &status);
+    EXPECT_EQ(status.st_mode & 0777U, 0640U);
+}
+
+TEST(WriteWholeFile, FullDiskIsSixtyOneAndWhatStoodThereStillStands) {
+    TemporaryFolder place;
+    place.write("report.rtf", "old");
+    // A limit on the size of files stands for the full disk; a process of its own keeps it from the other
+    // tests.
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::signal(SIGXFSZ, SIG_IGN);
+        const rlimit few{1000, 1000};
+        ::setrlimit(RLIMIT_FSIZE, &few);
+        ::_exit(faultOf([&] { writeWholeFile(place.path() / "report.rtf", std::string(5000, 'x')); }));
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    EXPECT_EQ(WEXITSTATUS(status), fault::kDiskFull);
+    EXPECT_EQ(place.read("report.rtf"), "old");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(place.path()), {}), 1)
+        << "no temporary file stays";
+}
+
+TEST(StagedFile, StandsBesideTheTargetUntilItIsCommitted) {
+    TemporaryFolder place;
+    place.write("DATA.RTF", "old");
+    {
+        StagedFile staged(place.path() / "DATA.RTF", "new");
+        EXPECT_EQ(place.read("DATA.RTF"), "old");
+        staged.commit();
+        EXPECT_EQ(place.read("DATA.RTF"), "new");
+    }
+    { const StagedFile dropped(place.path() / "DATA.RTF", "newer"); }
+    EXPECT_EQ(place.read("DATA.RTF"), "new");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(place.path()), {}), 1);
+}
+
+TEST(WriteWholeFile, MissingFolderOrAFolderOfThatNameIsSeventyFive) {
+    TemporaryFolder place;
+    place.write("folder/report.rtf", "old");
+    EXPECT_EQ(faultOf([&] { writeWholeFile(place.path() / "missing" / "report.rtf", "new"); }),
+              fault::kPathAccess);
+    EXPECT_EQ(faultOf([&] { writeWholeFile(place.path() / "folder", "new"); }), fault::kPathAccess);
+    EXPECT_EQ(place.read("folder/report.rtf"), "old");
+}
+
+}  // namespace
+}  // namespace norlaplan
