@@ -91,12 +91,15 @@ void checkFit(std::vector<std::string>& characters, BearingSpec& bearing, Messag
     if (styleIsOneOf(bearing, "BF") && bearing.fitLetter == kNoFit) {
         refuse("Please supply internal fitup", "Missing Fit");
     }
-    if (styleIsOneOf(bearing, "TUA") && characters.size() == kLongest) {
-        if (bearing.fitLetter != kNoFit) messages.show({"Dropping fitup code", "No fitup allowed"});
-        characters.resize(kShortest);
+    if (styleIsOneOf(bearing, "TUA") && bearing.fitLetter != kNoFit) {
+        messages.show({"Dropping fitup code", "No fitup allowed"});
         bearing.fitLetter = kNoFit;
     }
-    if (bearing.fitLetter == kNoFit) return;
+    if (bearing.fitLetter == kNoFit) {
+        // A blank in the tenth place is no fit letter, and no part of the number.
+        characters.resize(kShortest);
+        return;
+    }
     // The character before "A" is let through as well; the fit table then decides.
     const char code = bearing.fitLetter[0];
     if (code < 64 || code > 90) refuse("Invalid character entry", "Fitup character must be a letter");

@@ -1,3 +1,4 @@
+#include <optional>
 #include <vector>
 
 #include "capacity/LoadLife.h"
@@ -14,12 +15,16 @@
 namespace norlaplan::cli {
 namespace {
 
+void refuse(const std::optional<Message>& refusal) {
+    if (refusal) throw CommandError(ErrorKind::Message, refusal->title, refusal->prompt);
+}
+
 void calculate(Session& session, const PartNumberOption& number, const LoadOptions& loads) {
     session.decode(number);
+    // As on the menu: the load screen opens only for a bearing that can be loaded.
+    refuse(loadableBearingRefusal(session.state()));
     session.enter(loads);
-    if (const auto refusal = lifeRefusal(session.state())) {
-        throw CommandError(ErrorKind::Message, refusal->title, refusal->prompt);
-    }
+    refuse(lifeRefusal(session.state()));
     if (!computeLoadLife(session.state(), session.messages())) session.failWithLastMessage();
 }
 

@@ -11,10 +11,17 @@
 namespace norlaplan::cli {
 
 Session::Session(const GlobalOptions& options) : folder_(options.programFolder) {
-    startUp(state_, folder_);
+    const StartUp start = startUp(state_, folder_);
+    if (!start.notice.empty()) startNotices_.push_back({"SETTINGS.INI", start.notice, Icon::Warning});
     const std::string& units = options.units.empty() ? state_.unitSystem : options.units;
     state_.unitSystem = units == "METRIC" ? "METRIC" : "US";
     ApplyUnitSystem(state_.unitSystem, state_.units);
+}
+
+std::vector<Message> Session::warnings() const {
+    std::vector<Message> all = startNotices_;
+    all.insert(all.end(), messages_.messages().begin(), messages_.messages().end());
+    return all;
 }
 
 void Session::decode(const PartNumberOption& option) {

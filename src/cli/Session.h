@@ -47,6 +47,9 @@ class Session {
     ClockPort& clock() { return clock_; }
     const SheetFiles& sheet() const { return sheet_.sheet(); }
 
+    /// What the user is told besides the result: that the settings are damaged, then the program's messages.
+    std::vector<Message> warnings() const;
+
     /// Decodes the part number into the state. Errors: `CommandError` with the decoder's message or fault.
     void decode(const PartNumberOption& option);
     /// Enters the loads by the rules of the load screen. Errors: `CommandError` with its message.
@@ -57,6 +60,7 @@ class Session {
   private:
     ProgramState state_;
     ProgramFolder folder_;
+    std::vector<Message> startNotices_;
     CollectedMessages messages_;
     SystemClock clock_;
     MemorySheet sheet_;

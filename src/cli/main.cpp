@@ -2,6 +2,7 @@
 #include <clocale>
 #include <iostream>
 #include <string_view>
+#include <utility>
 
 #include "cli/CommandError.h"
 #include "cli/CommandLine.h"
@@ -11,20 +12,23 @@
 namespace norlaplan::cli {
 namespace {
 
-Json warningsJson(const CollectedMessages& messages) {
+Json warningsJson(const Session& session) {
     Json warnings = Json::array();
-    for (const Message& message : messages.messages()) {
+    for (const Message& message : session.warnings()) {
         warnings.push_back({{"title", message.title}, {"prompt", message.prompt}});
     }
     return warnings;
 }
 
-void print(const Invocation& invocation, Session& session, CommandResult result) {
-    for (const Message& message : session.messages().messages()) {
+void warn(const Session& session) {
+    for (const Message& message : session.warnings()) {
         std::cerr << message.title << ": " << message.prompt << '\n';
     }
+}
+
+void print(const Invocation& invocation, Session& session, CommandResult result) {
     if (invocation.options.json) {
-        result.json["warnings"] = warningsJson(session.messages());
+        result.json["warnings"] = warningsJson(session);
         std::cout << writeJson(result.json);
     } else {
         std::cout << result.text;
@@ -34,7 +38,15 @@ void print(const Invocation& invocation, Session& session, CommandResult result)
 void run(const Invocation& invocation) {
     try {
         Session session(invocation.options);
-        print(invocation, session, invocation.command(session));
+        CommandResult result;
+        try {
+            result = invocation.command(session);
+        } catch (...) {
+            warn(session);
+            throw;
+        }
+        warn(session);
+        print(invocation, session, std::move(result));
     } catch (const RuntimeError& error) {
         throw CommandError(ErrorKind::Runtime, "Run-time error '" + std::to_string(error.number()) + "'",
                            error.what(), error.number());
@@ -65,7 +77,8 @@ int main(int argc, char** argv) {
     try {
         if (const auto invocation = parseCommandLine(argc, argv)) run(*invocation);
         std::cout.flush();
-        return std::cout ? 0 : 3;
+        if (!std::cout) throw CommandError(ErrorKind::Runtime, "Run-time error '61'", "Disk full", 61);
+        return 0;
     } catch (const CommandError& error) {
         return report(error, json);
     } catch (const std::exception& error) {

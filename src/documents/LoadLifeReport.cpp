@@ -17,12 +17,15 @@ void writeSizesAndLoads(RtfDocument& document, const ProgramState& state) {
     document.append("{\\fs24\\cf1 Bore = \\tab " + shownLength(state, bearing.bore));
     document.append("\\tab\\tab Radial Load =");
     document.append("\\tab\\tab " + shownLoad(state, loads.radialLoadDisplay) + "}");
+    document.append(tabStops({1600, 3900, 4000, 5700, 5800}));
     document.append("{\\par\\fs24\\cf1 Outer Dia. =\\tab " + shownLength(state, bearing.outsideDiameter));
     document.append("\\tab\\tab Axial Load =");
     document.append("\\tab\\tab " + shownLoad(state, loads.axialLoadDisplay) + "}");
+    document.append(tabStops({1600, 3900, 4000, 5700, 5800}));
     document.append("{\\par\\fs24\\cf1 Height =\\tab " + shownLength(state, bearing.height));
     document.append("\\tab\\tab Moment Load =");
     document.append("\\tab " + shownMoment(state, loads.momentLoadDisplay) + "}");
+    document.append(tabStops({1600, 3900, 4000, 5800}));
     document.append("\\par\\par");
 }
 
@@ -30,14 +33,16 @@ void writeLives(RtfDocument& document, const ProgramState& state) {
     const bool speed = state.loads.speed != 0.0;
     if (speed) {
         document.append("{\\tab\\tab\\tab\\tab\\fs24\\ Speed = " + plainText(state.loads.speed) + " RPM}");
+        document.append(tabStops({3700, 3800, 3900, 4000}));
         document.append("\\par");
     }
     document.append("\\par");
+    document.append(tabStops({}));
     document.append("{\\fs24\\b L\\sub 10 \\nosupersub Life in Revolutions = ");
     document.append("\\tab " + plainText(state.life.l10Revolutions) + "}");
     if (speed) {
         document.append("{\\fs24\\tab\\b L\\sub 10 \\nosupersub Life in Hours = ");
-        document.append("\\tab " + FormatNumber(state.life.l10Hours, state.units.loadPicture) + "}");
+        document.append("\\tab " + plainText(state.life.l10Hours) + "}");
     }
     document.append("\\par\\par");
 }

@@ -17,6 +17,13 @@ std::string shownMoment(const ProgramState& state, double displayMoment) {
     return FormatNumber(displayMoment, state.units.loadPicture) + " " + state.units.momentUnitWord;
 }
 
+std::string tabStops(std::initializer_list<int> twips) {
+    std::string stops = "\\pard";
+    for (const int stop : twips)
+        stops += "\\tx" + std::to_string(stop);
+    return stops;
+}
+
 std::string reportTorque(const ProgramState& state) {
     const double torque = state.life.torqueDisplay;
     return state.life.torqueLabel + FormatNumber(torque, torque < 1.0 ? "0.00" : "#,###.0") + " " +

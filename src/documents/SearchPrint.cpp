@@ -39,22 +39,22 @@ void printHead(Canvas& canvas, PageWriter& page, const ProgramState& state) {
     const SearchCriteria& sizes = state.criteria;
     const LoadCase& loads = state.loads;
     const auto row = [&](const char* name, double size, const char* loadName, double load,
-                         const std::string& unit) {
+                         const std::string& unitWithBlank) {
         page.put(kPageLeft, name, look);
         page.putRight(3.1, FormatNumber(size, "###0.0000"), look);
         page.put(3.17, state.units.lengthUnit, look);
         page.put(4.4, loadName, look);
         page.putRight(6.6, FormatNumber(load, "#,##0"), look);
-        page.put(6.67, unit, look);
+        page.put(6.63, unitWithBlank, look);
         page.endLine(kSize);
     };
     row("Minimum Bore =  ", sizes.minBoreDisplay, "Radial Load = ", loads.radialLoadDisplay,
-        state.units.loadUnit);
+        " " + state.units.loadUnit);
     row("Maximum O.D. =  ", sizes.maxOdDisplay, "Axial Load =  ", loads.axialLoadDisplay,
-        state.units.loadUnit);
+        " " + state.units.loadUnit);
     row("Minimum Height =", sizes.minHeightDisplay, "Moment Load = ", loads.momentLoadDisplay,
-        state.units.momentUnit);
-    row("Maximum Height =", sizes.maxHeightDisplay, "Speed =       ", loads.speed, "rpm");
+        " " + state.units.momentUnit);
+    row("Maximum Height =", sizes.maxHeightDisplay, "Speed =       ", loads.speed, " rpm");
     page.skip(0.1);
     if (state.search.sorted) page.line(sortedBy(state.search), timesLook(10.0, true));
     page.skip(0.1);
@@ -65,12 +65,11 @@ void printColumnHeads(Canvas& canvas, PageWriter& page) {
     page.put(kPageLeft, "BEARING", look);
     page.lifeText(kLifeEnd - 0.75, "L", " LIFE ", look);
     page.lifeText(kHoursEnd - 0.55, "L", " LIFE ", look);
-    page.put(kStockLeft, "Stock", look);
     page.endLine(kSize);
     page.put(kPageLeft, "NUMBER", look);
     page.putRight(kLifeEnd, " (revolutions) ", look);
     page.putRight(kHoursEnd, " (hours)", look);
-    page.put(kStockLeft, "Availability", look);
+    page.put(kStockLeft, "Stock Availability", look);
     page.endLine(kSize);
     page.put(kPageLeft, "Basic Bearing", timesLook(9.0));
     page.endLine(9.0);
@@ -85,7 +84,7 @@ void printRow(PageWriter& page, const ProgramState& state, const SearchHit& hit)
     };
     page.put(kPageLeft, hit.name, look);
     page.putRight(kLifeEnd, life(hit.l10Revolutions), look);
-    if (state.loads.speed != 0.0) page.putRight(kHoursEnd, life(hit.l10Hours), look);
+    page.putRight(kHoursEnd, life(hit.l10Hours), look);
     page.put(kStockLeft, hit.stock, look);
     if (state.loads.speed > leadingNumber(hit.speedLimit)) {
         page.put(kMarkLeft, "Over Speed!", timesLook(kSize, false, colours::kRed));

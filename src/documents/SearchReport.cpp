@@ -2,6 +2,7 @@
 
 #include "documents/DataSheet.h"
 #include "documents/RTFroutines.h"
+#include "documents/ReportTexts.h"
 #include "numbers/FormatNumber.h"
 #include "numbers/Text.h"
 
@@ -29,6 +30,11 @@ std::string columnName(const ProgramState& state, const std::string& name) {
     return name.substr(0, suffix) + " ";
 }
 
+/// Name, life, hours and mark.
+std::string listStops() {
+    return tabStops({2300, 2400, 4600, 4700, 4800, 7300, 7400, 7500});
+}
+
 void writeHead(RtfDocument& document, const ProgramState& state) {
     const SearchCriteria& sizes = state.criteria;
     const LoadCase& loads = state.loads;
@@ -43,18 +49,23 @@ void writeHead(RtfDocument& document, const ProgramState& state) {
                     state.units.lengthUnit);
     document.append("\\tab\\tab Radial Load =");
     document.append("\\tab\\tab " + shownLoad(loads.radialLoadDisplay) + " " + state.units.loadUnit + "}");
+    document.append(tabStops({2000, 3900, 4000, 5700, 5800}));
     document.append("{\\par\\fs24\\cf1 Maximum O.D. =\\tab " + shownSize(sizes.maxOdDisplay) + " " +
                     state.units.lengthUnit);
     document.append("\\tab\\tab Axial Load =");
     document.append("\\tab\\tab " + shownLoad(loads.axialLoadDisplay) + " " + state.units.loadUnit + "}");
+    document.append(tabStops({2000, 3900, 4000, 5700, 5800}));
     document.append("{\\par\\fs24\\cf1 Minimum Height =\\tab " + shownSize(sizes.minHeightDisplay) + " " +
                     state.units.lengthUnit);
-    document.append("\\tab\\tab Moment Load =");
+    document.append("\\tab\\tab\\tab Moment Load =");
     document.append("\\tab " + shownLoad(loads.momentLoadDisplay) + " " + state.units.momentUnit + "}");
+    document.append(tabStops({2000, 3800, 3900, 4000, 5800}));
     document.append("{\\par\\fs24\\cf1 Maximum Height =\\tab " + shownSize(sizes.maxHeightDisplay) + " " +
                     state.units.lengthUnit);
-    document.append("\\tab\\tab\\fs24 Speed = \\tab\\tab " + plainText(loads.speed) + " rpm}");
+    document.append("\\tab\\tab\\tab\\fs24\\ Speed = \\tab\\tab " + plainText(loads.speed) + " rpm}");
+    document.append(tabStops({2000, 3800, 3900, 4000, 5700, 5800}));
     document.append("\\par\\par");
+    document.append(listStops());
     document.append(
         "{\\fs24\\b\\cf2 BEARING\\tab\\tab\\ L\\sub 10 \\nosupersub  LIFE\\tab\\tab\\tab\\ L\\sub 10 "
         "\\nosupersub  LIFE (hours)}");
@@ -82,7 +93,7 @@ std::string searchRtf(const ProgramState& state, ClockPort& clock) {
     for (const SearchHit& hit : state.search.rows) {
         if (row > 0 && row % kRowsOfAPage == 0) {
             document.append("\\par }\\pard \\qr\\widctlpar\\adjustright {\\cgrid0  \\page }");
-            document.append("\\pard \\widctlpar\\adjustright {");
+            document.append(listStops() + "\\widctlpar\\adjustright {");
         }
         writeRow(document, state, hit);
         ++row;

@@ -26,9 +26,14 @@ void putText(std::string_view from, char* text, std::size_t size) {
 class HeadlessApplication {
   public:
     HeadlessApplication() {
+        // What Qt finds worth a remark (a session without a runtime folder) is no message for the user.
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
         if (QCoreApplication::instance() == nullptr)
             application_ = std::make_unique<QGuiApplication>(count_, arguments_.data());
     }
+    ~HeadlessApplication() { qInstallMessageHandler(nullptr); }
+    HeadlessApplication(const HeadlessApplication&) = delete;
+    HeadlessApplication& operator=(const HeadlessApplication&) = delete;
 
   private:
     char name_[10] = "norlaplan";

@@ -29,11 +29,14 @@ Form14::Form14(Screens& screens) : Form(screens, "Form14", "Bearing Load Input")
     previous_ = build::button("Command2", "<< &Previous", "Return to size determination");
     mainMenu_ = build::button("Command3", "&Main Menu", "Return to Main Menu");
 
-    enterMovesTo(*radial_, [this]() -> QWidget* { return isRadialContact(state()) ? speed_ : axial_; });
-    enterMovesTo(*axial_, [this] { return moment_; });
-    enterMovesTo(*moment_, [this]() -> QWidget* {
+    const auto speedOrProceed = [this]() -> QWidget* {
         return speed_->isEnabled() ? static_cast<QWidget*>(speed_) : proceed_;
+    };
+    enterMovesTo(*radial_, [this, speedOrProceed]() -> QWidget* {
+        return isRadialContact(state()) ? speedOrProceed() : axial_;
     });
+    enterMovesTo(*axial_, [this] { return moment_; });
+    enterMovesTo(*moment_, speedOrProceed);
     enterMovesTo(*speed_, [this]() -> QWidget* { return proceed_; });
     on(proceed_, &QPushButton::clicked, "Proceed to life calculation", [this] { proceed(); });
     on(previous_, &QPushButton::clicked, "Previous", [this] { goToPrevious(); });
@@ -103,6 +106,11 @@ void Form14::proceed() {
 void Form14::goToPrevious() {
     screens().hide(*this);
     screens().show("Form12");
+}
+
+void Form14::closed() {
+    state().knownBearingLoadInput = false;
+    Form::closed();
 }
 
 void Form14::goToMainMenu() {

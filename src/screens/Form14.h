@@ -16,6 +16,7 @@ class Form14 : public Form {
     explicit Form14(Screens& screens);
 
     void activated() override;
+    void closed() override;
 
   private:
     void layOut();

@@ -85,6 +85,7 @@ void Form16::chooseStyle(std::size_t row) {
 void Form16::takeStyle() {
     state().styleChosen = true;
     state().bearing.partNumber.clear();
+    state().knownBearingLoadInput = false;
 }
 
 void Form16::proceed() {

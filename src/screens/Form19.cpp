@@ -130,10 +130,6 @@ QHBoxLayout* Form19::buttonRow() {
     contactStress_ =
         build::button("Command7", "Contact         Stress", "View path stress and contact angle");
     analysis_ = build::button("Command8", "Show Sams Tlodestar Results");
-    // The blanks in these captions broke them into two lines; here each stands on one.
-    for (QPushButton* const button : {ballPlot_, lubeFilm_, contactStress_}) {
-        button->setText(button->text().simplified());
-    }
     auto* const row = theme::spaced(new QHBoxLayout, 0);
     row->addWidget(mainMenu_);
     row->addWidget(previous_);
@@ -175,16 +171,27 @@ void Form19::activated() {
         now.returningFromSideScreen = false;
         return;
     }
+    const bool fromLoadScreen = now.knownBearingLoadInput;
     now.knownBearingLoadInput = false;
     showOptions();
     showInputs();
     showStyle();
     clearResults();
-    const BusyPointer busy;
     save_->setFocus();
-    if (computeLoadLife(now, services().messages)) {
+    try {
+        calculate();
+    } catch (...) {
+        // A fault brings the screen before back, which then still serves this bearing.
+        now.knownBearingLoadInput = fromLoadScreen;
+        throw;
+    }
+}
+
+void Form19::calculate() {
+    const BusyPointer busy;
+    if (computeLoadLife(state(), services().messages)) {
         showResults();
-    } else if (now.solver.SolveAborted) {
+    } else if (state().solver.SolveAborted) {
         leaveUnsolved();
     }
 }

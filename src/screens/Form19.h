@@ -38,6 +38,7 @@ class Form19 : public Form {
     void showResults();
     void clearResults();
     /// The solve was given up or unstable: the load screen comes back with its corrected loads.
+    void calculate();
     void leaveUnsolved();
 
     void goToPrevious();

@@ -1,5 +1,8 @@
 #include "screens/SearchProgress.h"
 
+#include <QCoreApplication>
+#include <limits>
+
 namespace norlaplan {
 namespace {
 
@@ -12,17 +15,24 @@ SearchProgress::SearchProgress(QWidget& form)
     dialog_.setObjectName("SearchProgress");
     dialog_.setWindowTitle("Norlaplan MM");
     dialog_.setWindowModality(Qt::WindowModal);
-    dialog_.setMinimumDuration(kMillisecondsBeforeTheBar);
-    dialog_.setValue(0);
+    // Left to itself the bar would also come up beside a question that the search asks.
+    dialog_.setMinimumDuration(std::numeric_limits<int>::max());
+    dialog_.setAutoClose(false);
+    sinceStart_.start();
     sinceLook_.start();
 }
 
 bool SearchProgress::goOn(double done) {
+    if (dialog_.wasCanceled()) return false;
     if (sinceLook_.elapsed() < kMillisecondsBetweenLooks) return true;
     sinceLook_.restart();
-    // A modal dialog handles its own events at each new value, so Escape is seen here and the forms stay
-    // still.
+    if (!dialog_.isVisible()) {
+        if (sinceStart_.elapsed() < kMillisecondsBeforeTheBar) return true;
+        dialog_.show();
+    }
     dialog_.setValue(static_cast<int>(done * (kSteps - 1)));
+    // The dialog is modal: Escape is seen here and the forms stay still.
+    QCoreApplication::processEvents();
     return !dialog_.wasCanceled();
 }
 

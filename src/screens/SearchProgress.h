@@ -21,7 +21,7 @@ class SearchProgress : public SearchWatch {
 
     BusyPointer busy_;
     QProgressDialog dialog_;
-    QElapsedTimer sinceLook_;
+    QElapsedTimer sinceStart_, sinceLook_;
 };
 
 }  // namespace norlaplan

@@ -113,11 +113,11 @@ QPalette paper() {
 }
 
 QColor goodColour(const QPalette& palette) {
-    return isDark(palette) ? QColor(110, 220, 130) : QColor(0, 120, 40);
+    return isDark(palette) ? QColor(110, 220, 130) : QColor(0, 128, 0);
 }
 
 QColor badColour(const QPalette& palette) {
-    return isDark(palette) ? QColor(255, 130, 120) : QColor(190, 20, 20);
+    return isDark(palette) ? QColor(255, 130, 120) : QColor(255, 0, 0);
 }
 
 QColor frameColour() {

@@ -12,7 +12,7 @@
 #include "numbers/Text.h"
 #include "search/ClearanceTable.h"
 #include "search/HitChoice.h"
-#include "search/OneTimeMessages.h"
+#include "search/SearchMessages.h"
 
 namespace norlaplan {
 namespace {
@@ -49,7 +49,7 @@ class Search {
     Search(ProgramState& state, const ProgramFolder& folder, MessagePort& messages, SearchWatch& watch)
         : state_(state),
           folder_(folder),
-          messages_(messages),
+          messages_(messages, watch),
           watch_(watch),
           clearances_(folder),
           letter_(state.style.searchStyleLetter),
@@ -101,7 +101,9 @@ class Search {
             const double done = (static_cast<double>(pass) + table.partRead()) / kSections.size();
             if (!watch_.goOn(done)) return false;
             if (!fits(row)) continue;
+            messages_.setDone(done);
             takeRow(row);
+            if (messages_.stopped()) return false;
         }
         return true;
     }
@@ -249,7 +251,7 @@ class Search {
 
     ProgramState& state_;
     const ProgramFolder& folder_;
-    OneTimeMessages messages_;
+    SearchMessages messages_;
     SearchWatch& watch_;
     ClearanceTable clearances_;
     const std::string letter_, caption_;

@@ -36,14 +36,12 @@ void showSizesAgain(ProgramState& state) {
 std::optional<Message> enterSizes(ProgramState& state) {
     SearchCriteria& criteria = state.criteria;
     for (const SizeField& field : kFields) {
-        const std::string& text = state.entries.*field.text;
-        const std::optional<double> value = wholeNumberText(text);
-        if (!value) {
-            state.sizeInputPending = true;
-            return Message{"Missing Data", field.missing, Icon::Critical};
-        }
-        criteria.*field.size = *value;
+        if (wholeNumberText(state.entries.*field.text)) continue;
+        state.sizeInputPending = true;
+        return Message{"Missing Data", field.missing, Icon::Critical};
     }
+    for (const SizeField& field : kFields)
+        criteria.*field.size = *wholeNumberText(state.entries.*field.text);
     if (criteria.minBoreDisplay > criteria.maxOdDisplay) {
         std::swap(criteria.minBoreDisplay, criteria.maxOdDisplay);
         std::swap(state.entries.minBore, state.entries.maxOd);

@@ -1,5 +1,7 @@
 #include "state/UnitChange.h"
 
+#include <optional>
+
 #include "numbers/Arithmetic.h"
 #include "numbers/FormatNumber.h"
 #include "numbers/Text.h"
@@ -9,19 +11,25 @@
 namespace norlaplan {
 namespace {
 
-/// Shows the converted value in the picture and stores the number that is read back from it.
-void convertField(std::string& text, Single& stored, double value, const char* picture) {
-    if (text.empty()) return;
-    text = FormatNumber(value, picture);
+using Conversion = double (*)(double value, double factor);
+
+/// Shows the converted value in the picture and stores the number that is read back from it. A field that
+/// shows no number stays as it is; what is stored behind it is converted all the same.
+void convertField(std::string& text, Single& stored, Conversion convert, double factor, const char* picture) {
+    const std::optional<double> shown = wholeNumberText(text);
+    if (!shown) {
+        stored = convert(stored, factor);
+        return;
+    }
+    text = FormatNumber(convert(*shown, factor), picture);
     stored = leadingNumber(text);
 }
 
-void convertSizeFields(ProgramState& state, double (*convert)(double size, double factor)) {
-    const double factor = state.units.lengthFactor;
+void convertSizeFields(ProgramState& state, Conversion convert) {
     EntryTexts& texts = state.entries;
     SearchCriteria& sizes = state.criteria;
     const auto go = [&](std::string& text, Single& size) {
-        convertField(text, size, convert(leadingNumber(text), factor), "0.000");
+        convertField(text, size, convert, state.units.lengthFactor, "0.000");
     };
     go(texts.minBore, sizes.minBoreDisplay);
     go(texts.maxOd, sizes.maxOdDisplay);
@@ -29,12 +37,12 @@ void convertSizeFields(ProgramState& state, double (*convert)(double size, doubl
     go(texts.maxHeight, sizes.maxHeightDisplay);
 }
 
-void convertLoadFields(ProgramState& state, double (*convert)(double load, double factor)) {
+void convertLoadFields(ProgramState& state, Conversion convert) {
     const UnitMode& units = state.units;
     EntryTexts& texts = state.entries;
     LoadCase& loads = state.loads;
     const auto go = [&](std::string& text, Single& load, double factor) {
-        convertField(text, load, convert(leadingNumber(text), factor), "0");
+        convertField(text, load, convert, factor, "0");
     };
     go(texts.radial, loads.radialLoadDisplay, units.forceFactor);
     go(texts.axial, loads.axialLoadDisplay, units.forceFactor);

@@ -42,7 +42,7 @@ TEST(LoadLifeRtf, HoldsTheStatedLines) {
     for (const char* const line :
          {"{\\fs28\\cf1\\b RESULTS OF LOAD-LIFE CALCULATION FOR : \r\n\\ul K19013FR0A}",
           "{\\fs24\\cf1 Bore = \\tab 7.5000 inches", "\\tab\\tab 1,200 pounds}",
-          "{\\tab\\tab\\tab\\tab\\fs24\\ Speed = 400 RPM}", "\\tab 1162182300}", "\\tab 48,424}",
+          "{\\tab\\tab\\tab\\tab\\fs24\\ Speed = 400 RPM}", "\\tab 1162182300}", "\\tab 48424.3}",
           "{\\fs24\\b\\cf6 Static Safety Factor is =  2.5}",
           "{\\tab\\fs24\\b\\cf1 Estimated Starting Torque = 0.40 inch-lbs.}",
           "{\\fs20\\cf4\\b The speed of 400 RPM is below",

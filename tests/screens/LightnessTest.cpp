@@ -48,6 +48,9 @@ class LightnessTest : public QObject {
     }
 
     void a_session_with_every_form_and_a_zoomed_sheet_stays_below_80_megabytes() {
+#ifdef __SANITIZE_ADDRESS__
+        QSKIP("the address sanitizer's own memory would be measured");
+#endif
         Program program;
         ShowStartScreen(program.screens);
         program.click("Form1", "Command1");
@@ -58,7 +61,7 @@ class LightnessTest : public QObject {
         program.screens.current()->grab();
         program.saveDialog.choice = SaveChoice{program.files.path() / "sheet.bmp", 2};
         program.click("Form17", "Command3");
-        for (const char* const form : {"Form2", "Form6", "Form12", "Form14", "Form16"}) {
+        for (const char* const form : {"Form2", "Form6", "Form12", "Form13", "Form14", "Form16"}) {
             program.screens.show("Form3");
             program.screens.show(form);
             program.screens.current()->grab();

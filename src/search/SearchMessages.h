@@ -1,0 +1,48 @@
+#pragma once
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "search/SearchEngine.h"
+#include "state/Ports.h"
+
+namespace norlaplan {
+
+/// The messages of one search: each is passed on once and the answer to each question is remembered, since
+/// many rows raise the same one. Where the remembered answer lets a row go on and on, the watch may still
+/// stop the search.
+class SearchMessages : public MessagePort {
+  public:
+    SearchMessages(MessagePort& messages, SearchWatch& watch) : messages_(messages), watch_(watch) {}
+
+    /// How far the search is, for the watch.
+    void setDone(double done) { done_ = done; }
+    bool stopped() const { return stopped_; }
+
+    void show(const Message& message) override {
+        if (std::find(shown_.begin(), shown_.end(), message) != shown_.end()) return;
+        shown_.push_back(message);
+        messages_.show(message);
+    }
+
+    Answer ask(const Message& question, Buttons buttons) override {
+        for (const auto& [asked, answer] : answers_) {
+            if (!(asked == question)) continue;
+            stopped_ = stopped_ || !watch_.goOn(done_);
+            return stopped_ ? Answer::No : answer;
+        }
+        answers_.emplace_back(question, messages_.ask(question, buttons));
+        return answers_.back().second;
+    }
+
+  private:
+    MessagePort& messages_;
+    SearchWatch& watch_;
+    double done_ = 0.0;
+    bool stopped_ = false;
+    std::vector<Message> shown_;
+    std::vector<std::pair<Message, Answer>> answers_;
+};
+
+}  // namespace norlaplan
