@@ -3,6 +3,7 @@
 #include <optional>
 #include <string_view>
 
+#include "capacity/SolveAdvice.h"
 #include "capacity/SpeedLimits.h"
 #include "loaddist/AssembleRows.h"
 #include "loaddist/radlodestar2.h"
@@ -64,21 +65,6 @@ std::optional<SolveResult> solve(ProgramState& state, MessagePort& messages) {
     return SolveCoupledRows(state, argumentsFor(state, bearing.height / 2.0), messages);
 }
 
-/// The user's way out of a load of a sign that the style's formulas have no root for.
-std::string adviceOnSigns(const ProgramState& state) {
-    if (state.bearing.styleLetter == "C") return "Enter the radial load as a positive number.";
-    return "Enter the axial load as a positive number; the bearing carries it alike in both directions.";
-}
-
-std::optional<SolveResult> solveWithAdvice(ProgramState& state, MessagePort& messages) {
-    try {
-        return solve(state, messages);
-    } catch (const RuntimeError& error) {
-        if (error.number() != fault::kInvalidCall) throw;
-        throw RuntimeError(error.number(), std::string(error.what()) + "\n" + adviceOnSigns(state));
-    }
-}
-
 void judgeSpeed(ProgramState& state) {
     LifeResult& life = state.life;
     BearingSpec& bearing = state.bearing;
@@ -104,7 +90,8 @@ bool computeLoadLife(ProgramState& state, MessagePort& messages) {
     LifeResult& life = state.life;
     pickClearance(state.bearing);
     state.solver.SolveAborted = false;
-    const std::optional<SolveResult> result = solveWithAdvice(state, messages);
+    const std::optional<SolveResult> result =
+        solveWithAdvice(state.bearing.styleLetter == "C", [&] { return solve(state, messages); });
     if (!result) return false;
     if (state.solver.RowCount == 2) writeBallAngles(state.solver);
     life.staticSafetyFactor = result->safetyFactor;

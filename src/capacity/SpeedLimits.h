@@ -9,7 +9,7 @@
 namespace norlaplan {
 
 /// The 24 numbers of a speed table's block: limits of speed times bore, in thousands of inch-rpm.
-using SpeedBlock = std::array<Single, 24>;
+using SpeedBlock = std::array<double, 24>;
 
 /// A bearing's line of its speed table. The thrust block is there for four-point bearings alone.
 struct SpeedLine {

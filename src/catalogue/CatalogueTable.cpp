@@ -2,6 +2,7 @@
 
 #include <cerrno>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
 #include "numbers/RuntimeError.h"
@@ -22,10 +23,13 @@ bool endsField(int c) {
 
 CatalogueTable::CatalogueTable(const ProgramFolder& folder, std::string_view name) {
     const std::filesystem::path path = folder.find("\\Data Tables\\" + std::string(name));
-    file_.reset(std::fopen(path.c_str(), "rbe"));
-    if (!file_) {
+    // A pipe in a table's place must not be waited for.
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descriptor < 0) {
         raise(errno == ENOENT || errno == ENOTDIR ? fault::kFileNotFound : fault::kPermissionDenied);
     }
+    file_.reset(::fdopen(descriptor, "rb"));
+    if (!file_) raise(fault::kDeviceIo);
     struct stat status {};
     if (::fstat(::fileno(file_.get()), &status) != 0 || !S_ISREG(status.st_mode)) raise(fault::kPathAccess);
     size_ = static_cast<double>(status.st_size);
@@ -45,6 +49,11 @@ double CatalogueTable::partRead() const {
 }
 
 void CatalogueTable::take(Single& target) {
+    readField(field_);
+    target = leadingNumber(field_);
+}
+
+void CatalogueTable::take(double& target) {
     readField(field_);
     target = leadingNumber(field_);
 }

@@ -45,10 +45,11 @@ class CatalogueTable {
 
     void take(std::string& target) { readField(target); }
     void take(Single& target);
+    void take(double& target);
     void take(Int16& target);
-    template <std::size_t N>
-    void take(std::array<Single, N>& targets) {
-        for (Single& target : targets)
+    template <typename Number, std::size_t N>
+    void take(std::array<Number, N>& targets) {
+        for (Number& target : targets)
             take(target);
     }
     void readField(std::string& field);

@@ -1,16 +1,22 @@
 #include "catalogue/SpeedTables.h"
 
+#include <algorithm>
+#include <array>
 #include <string>
-
-#include "catalogue/CatalogueTable.h"
+#include <tuple>
 
 namespace norlaplan {
 namespace {
 
-void readBlock(CatalogueTable& table, std::string& key, SpeedBlock& block) {
+template <typename Number>
+std::string readBlock(CatalogueTable& table, SpeedBlock& block) {
+    std::string key;
     table.NextFields(key);
     table.skipFields(23);
-    table.NextFields(block);
+    std::array<Number, std::tuple_size_v<SpeedBlock>> numbers;
+    table.NextFields(numbers);
+    std::copy(numbers.begin(), numbers.end(), block.begin());
+    return key;
 }
 
 const char* tableName(const std::string& styleLetter) {
@@ -20,15 +26,17 @@ const char* tableName(const std::string& styleLetter) {
 
 }  // namespace
 
+std::string readSpeedLine(CatalogueTable& table, const std::string& styleLetter, SpeedLine& line) {
+    if (styleLetter != "X") return readBlock<Single>(table, line.other);
+    readBlock<double>(table, line.thrust);
+    return readBlock<double>(table, line.other);
+}
+
 std::optional<SpeedLine> findSpeedLine(const ProgramFolder& folder, const BearingSpec& bearing) {
     CatalogueTable table(folder, tableName(bearing.styleLetter));
     SpeedLine line;
     while (!table.AtEnd()) {
-        std::string key;
-        // Of the two keys of a four-point line the second one counts.
-        if (bearing.styleLetter == "X") readBlock(table, key, line.thrust);
-        readBlock(table, key, line.other);
-        if (key == bearing.separatorCode) return line;
+        if (readSpeedLine(table, bearing.styleLetter, line) == bearing.separatorCode) return line;
     }
     return std::nullopt;
 }

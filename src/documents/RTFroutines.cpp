@@ -19,6 +19,22 @@ constexpr int kShapeIdBase = 1026;
 constexpr int kHeightBase = 8192;
 constexpr int kTextIdStep = 65536;
 
+/// Damaged tables and overlays can ask for any place; beyond this none is on paper, and twips still fit.
+double kept(double inches) {
+    constexpr double kReach = 1000.0;
+    return std::clamp(inches, -kReach, kReach);
+}
+PagePoint kept(PagePoint point) {
+    return {kept(point.x), kept(point.y)};
+}
+PageBox kept(const PageBox& box) {
+    return {kept(box.left), kept(box.top), kept(box.right), kept(box.bottom)};
+}
+SheetText kept(SheetText text) {
+    text.box = kept(text.box);
+    return text;
+}
+
 int twipsX(double x) {
     return static_cast<int>(Int(kTwipsPerInch * x));
 }
@@ -165,7 +181,7 @@ std::string RtfDocument::fallbackPlace(const PageBox& box) const {
            word("dpysize", twipsY(box.bottom) - top) + "\r\n";
 }
 
-void RtfDocument::writeText(const SheetText& text, const Colour* fill) {
+void RtfDocument::writeText(const SheetText& text, const Colour* fill, bool centred) {
     std::string shape = beginShape(text.box, 202, false);
     shape += property("lTxid", static_cast<long long>(shapeCounter_ + 1) * kTextIdStep);
     for (const char* const inset : {"dxTextLeft", "dyTextTop", "dxTextRight", "dyTextBottom"}) {
@@ -177,7 +193,7 @@ void RtfDocument::writeText(const SheetText& text, const Colour* fill) {
     } else {
         shape += property("fillColor", *fill) + property("fFilled", 1);
     }
-    const std::string paragraph = run(text, fill != nullptr);
+    const std::string paragraph = run(text, centred);
     shape += "\r\n{\\shptxt " + paragraph + "}}\r\n";
     shape += beginFallback(shapeCounter_) + "\\dptxbx{\\dptxbxtext" + paragraph + "}\r\n" +
              fallbackPlace(text.box);
@@ -192,22 +208,33 @@ void RtfDocument::writeText(const SheetText& text, const Colour* fill) {
 }
 
 void RtfDocument::RTFDATASHEETTEXT(const SheetText& text) {
-    record(text);
-    writeText(text, nullptr);
+    const SheetText onPage = kept(text);
+    record(onPage);
+    writeText(onPage, nullptr);
+}
+
+void RtfDocument::RtfPlainText(const SheetText& text) {
+    ++shapeCounter_;
+    writeText(kept(text), nullptr, true);
+}
+
+void RtfDocument::RtfLogoPicture() {
+    ++shapeCounter_;
+    writePicture(shapeCounter_ + kShapeIdBase);
 }
 
 void RtfDocument::RTFTEXTWBOX(const SheetTextBox& box) {
-    record(box);
-    writeText(box.text, &box.fill);
+    const SheetTextBox onPage{kept(box.text), box.fill};
+    record(onPage);
+    writeText(onPage.text, &onPage.fill, true);
 }
 
-void RtfDocument::TINTEDTTEXTBOX(const PageBox& box, Colour fore, Colour back) {
+void RtfDocument::TINTEDTTEXTBOX(const PageBox& place, Colour fore, Colour back) {
+    const PageBox box = kept(place);
     record(SheetTint{box, fore});
-    constexpr int kShadeFromTop = 7;
     std::string shape = beginShape(box, 202, false);
     shape += property("lTxid", static_cast<long long>(shapeCounter_ + 1) * kTextIdStep);
-    shape += property("fillType", kShadeFromTop) + property("fillColor", fore) +
-             property("fillBackColor", back) + property("fFilled", 1);
+    shape += property("fillColor", fore) + property("fillBackColor", back) + property("fFilled", 1);
     const std::string paragraph = run(SheetText{}, true);
     shape += "\r\n{\\shptxt " + paragraph + "}}\r\n" + beginFallback(shapeCounter_);
     shape += "\\dptxbx{\\dptxbxtext" + paragraph + "}\r\n" + fallbackPlace(box);
@@ -240,18 +267,20 @@ void RtfDocument::writeLine(const SheetLine& line) {
 }
 
 void RtfDocument::RTFLINE(PagePoint from, PagePoint to, Colour colour, double width) {
-    const SheetLine line{from, to, colour, width, 0, false};
+    const SheetLine line{kept(from), kept(to), colour, width, 0, false};
     record(line);
     writeLine(line);
 }
 
 void RtfDocument::RTFDATASHEETLINE(PagePoint from, PagePoint to, Colour colour, double width, int dash) {
-    const SheetLine line{from, to, colour, width, dash, true};
+    const SheetLine line{kept(from), kept(to), colour, width, dash, true};
     record(line);
     writeLine(line);
 }
 
-void RtfDocument::RTFCIRCLE(PagePoint centre, double radius, Colour colour, double width) {
+void RtfDocument::RTFCIRCLE(PagePoint place, double size, Colour colour, double width) {
+    const PagePoint centre = kept(place);
+    const double radius = kept(size);
     record(SheetCircle{centre, radius, colour, width});
     const PageBox box{centre.x - radius, centre.y + radius, centre.x + radius, centre.y - radius};
     std::string shape = beginShape(box, 3, false);

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "documents/SheetRecords.h"
 
@@ -9,6 +10,17 @@ namespace norlaplan {
 
 /// A text as RTF: backslash and braces escaped, characters beyond ASCII as cp1252 or Unicode escapes.
 std::string rtfText(std::string_view utf8);
+
+/// What a graph page shows, in page inches and in the units of the curve.
+struct RtfGraphPage {
+    std::string partNumber, title, xTitle, yTitle;
+    PagePoint origin;  ///< lower left corner of the plot
+    double width = 0.0, height = 0.0;
+    double xMost = 0.0, yMost = 0.0;  ///< ends of the scales
+    double xStep = 0.0, yStep = 0.0;
+    std::vector<PagePoint> points;
+    bool metric = false;  ///< x labels with three places instead of four
+};
 
 /// A document in the making: its RTF text, the records of its side file and the number of its last shape.
 /// Places are page inches from the lower left corner of a letter page; sizes are points, widths EMU.
@@ -22,11 +34,17 @@ class RtfDocument {
 
     void RTFDATASHEETTEXT(const SheetText& text);
     void RTFTEXTWBOX(const SheetTextBox& box);
-    /// A box that shades from one colour into the other.
-    void TINTEDTTEXTBOX(const PageBox& box, Colour fore, Colour back);
+    /// A box filled with `fore`; a reader that fills with a pattern has `back` for the second colour.
+    void TINTEDTTEXTBOX(const PageBox& place, Colour fore, Colour back);
     void RTFLINE(PagePoint from, PagePoint to, Colour colour, double width);
     void RTFDATASHEETLINE(PagePoint from, PagePoint to, Colour colour, double width, int dash);
-    void RTFCIRCLE(PagePoint centre, double radius, Colour colour, double width);
+    void RTFCIRCLE(PagePoint place, double size, Colour colour, double width);
+    /// A centred text of the document alone: the side file gets no record of it.
+    void RtfPlainText(const SheetText& text);
+    /// The maker's picture once more, as a shape of its own number.
+    void RtfLogoPicture();
+    /// A curve on its grid, with titles and the part number above. Error 5 for a step of 0 or less.
+    void RtfGraph(const RtfGraphPage& graph);
 
     int shapeCounter() const { return shapeCounter_; }
     const std::string& rtf() const { return rtf_; }
@@ -37,8 +55,9 @@ class RtfDocument {
 
   private:
     void record(const SheetRecord& record);
+    void writePicture(int shapeId);
     std::string beginShape(const PageBox& box, int type, bool flip);
-    void writeText(const SheetText& text, const Colour* fill);
+    void writeText(const SheetText& text, const Colour* fill, bool centred = false);
     void writeLine(const SheetLine& line);
     std::string fallbackPlace(const PageBox& box) const;
 

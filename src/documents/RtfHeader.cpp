@@ -32,7 +32,18 @@ constexpr const char* kListLevels[] = {
     R"({\*\pnseclvl9\pnlcrm\pnstart1\pnindent720\pnhang{\pntxtb (}{\pntxta )}})",
 };
 
+/// The first shape of every document.
+constexpr int kPictureId = 1025;
+
 }  // namespace
+
+void RtfDocument::writePicture(int shapeId) {
+    append(R"({\pict{\*\picprop\shplid)" + std::to_string(shapeId) +
+           R"({\sp{\sn shapeType}{\sv 75}}{\sp{\sn fFlipH}{\sv 0}}{\sp{\sn fFlipV}{\sv 0}})");
+    append(
+        R"({\sp{\sn fLine}{\sv 0}}}\picscalex23\picscaley23\picw22543\pich7364\picwgoal12780\pichgoal4175\wmetafile8)");
+    append(logoMetafileHex() + "}");
+}
 
 void RtfDocument::RtfHeader() {
     append(R"({\rtf1\ansi\ansicpg1252\uc1 \deff0\deflang1033\deflangfe1033)");
@@ -48,11 +59,8 @@ void RtfDocument::RtfHeader() {
     for (const char* const level : kListLevels)
         append(level);
     append(R"(\pard\plain \qr\widctlpar\adjustright \fs20\cgrid {\lang1024)");
-    append(
-        R"({\pict{\*\picprop\shplid1025{\sp{\sn shapeType}{\sv 75}}{\sp{\sn fFlipH}{\sv 0}}{\sp{\sn fFlipV}{\sv 0}})");
-    append(
-        R"({\sp{\sn fLine}{\sv 0}}}\picscalex23\picscaley23\picw22543\pich7364\picwgoal12780\pichgoal4175\wmetafile8)");
-    append(logoMetafileHex() + "}}");
+    writePicture(kPictureId);
+    append("}");
     append(R"({\f1\lang1024)");
     append(R"(\par }\pard \widctlpar\adjustright {\f1\lang1024)");
     append(R"( }{\lang1024)");

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -48,7 +49,8 @@ void writeNoSpeeds(const SheetWriter& sheet) {
           "is best suited to intermittent or oscillatory rotation, therefore a maximum",
           "speed value is not provided.  For additional information, please contact",
           "Varden Engineering."}) {
-        sheet.text({4.2, y, 7.9, y - 0.16}, words);
+        // The widest line just fits the panel; room beyond it keeps other fonts from breaking it.
+        sheet.text({4.15, y, 8.3, y - 0.16}, words);
         y -= 0.17;
     }
 }
@@ -83,8 +85,10 @@ void writeScale(const SheetWriter& sheet, double most) {
 }
 
 void writeCurve(const SheetWriter& sheet, const Lubrication& lubrication, double most) {
-    const double y = kChartBottom + kChartHeight * lubrication.limit / most;
-    const double y2 = kChartBottom + kChartHeight * 0.2 * lubrication.limit / most;
+    // Beyond the largest scale the curve runs along the chart's edge; its number still tells.
+    const double limit = std::clamp(lubrication.limit, 0.0, most);
+    const double y = kChartBottom + kChartHeight * limit / most;
+    const double y2 = kChartBottom + kChartHeight * 0.2 * limit / most;
     sheet.line({kKnee, y}, {kChartLeft, y}, lubrication.colour, kDouble);
     sheet.line({kKnee, y}, {kFoot, y2}, lubrication.colour, kDouble);
     sheet.line({kFoot, y2}, {kChartRight, y2}, lubrication.colour, kDouble);
@@ -107,7 +111,7 @@ void writeLegend(const SheetWriter& sheet, const std::vector<Lubrication>& shown
 
 void writeFitNote(const SheetWriter& sheet) {
     sheet.box({4.6, 1.8, 5.9, 1.5}, "", kPaleFill, {7.0});
-    double y = 1.795;
+    double y = 1.81;
     for (const char* const words : {" Speeds shown are for '0' preload ", " only.  Check actual fit value ",
                                     " for more information. "}) {
         sheet.text({4.6, y, 5.9, y - 0.13}, words, {7.0, "RED"});

@@ -24,9 +24,10 @@ double curvatureRatio(double kappaSq, const EllipticResult& integrals) {
 
 /// The 32 bits of the curvature ratio, where the estimate of the integrals settles them; nothing where only
 /// the panels can tell.
-std::optional<Single> settledRatio(double m, double q, double kappaSq) {
+std::optional<Single> settledRatio(double m, double kappaSq) {
     constexpr double kLeastSquare = 0.25;  // below it K - E loses too many digits
     constexpr double kMargin = 1e-9;       // a hundred times what panels and estimate differ by
+    const double q = 1.0 - m;
     if (m < kLeastSquare || q < kLeastEstimatedComplement) return std::nullopt;
     const double ratio = curvatureRatio(kappaSq, estimateEllipticIntegrals(m, q));
     const Single least = ratio * (1.0 - kMargin);
@@ -48,7 +49,7 @@ Ellipse matchEllipse(double ratio, MessagePort& messages) {
         const Single m = (lo + hi) / 2.0;
         const Single q = 1.0 - m;
         const Single kappaSq = divide(1.0, q);
-        const auto settled = settledRatio(m, q, kappaSq);
+        const auto settled = settledRatio(m, kappaSq);
         Single f = settled ? *settled - ratio : 0.0;
         // The pass that ends the search hands out its integrals, so it sums them.
         if (!settled || f == 0.0 || m == previous) {

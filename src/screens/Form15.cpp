@@ -11,7 +11,6 @@
 #include <QTreeView>
 
 #include "documents/SearchReport.h"
-#include "numbers/FormatNumber.h"
 #include "numbers/Text.h"
 #include "screens/BusyPointer.h"
 #include "screens/Decoding.h"
@@ -197,24 +196,22 @@ void Form15::showRequirements() {
     const ProgramState& now = state();
     const UnitMode& units = now.units;
     const SearchCriteria& sizes = now.criteria;
-    const auto size = [&](const char* name, double value) {
-        return text(name + FormatNumber(value, units.lengthPicture) + " " + units.lengthUnit);
-    };
-    const auto load = [&](const char* name, double value, const std::string& unit) {
-        return text(name + FormatNumber(value, units.loadPicture) + " " + unit);
+    const auto entered = [&](const char* name, Single value, const std::string& unit) {
+        return text(name + plainText(value) + " " + unit);
     };
     const std::string& caption = now.style.searchStyleCaption;
     setWindowTitle(text("LIFE CALCULATION RESULTS FOR " + caption));
-    minBore_->setText(size("MINIMUM BORE   = ", sizes.minBoreDisplay));
-    maxOd_->setText(size("MAXIMUM O.D.   = ", sizes.maxOdDisplay));
-    minHeight_->setText(size("MINIMUM HEIGHT = ", sizes.minHeightDisplay));
-    maxHeight_->setText(size("MAXIMUM HEIGHT = ", sizes.maxHeightDisplay));
-    radial_->setText(load("RADIAL = ", now.loads.radialLoadDisplay, units.loadUnit));
-    axial_->setText(load("AXIAL =  ", now.loads.axialLoadDisplay, units.loadUnit));
-    moment_->setText(load("MOMENT = ", now.loads.momentLoadDisplay, units.momentUnit));
+    minBore_->setText(entered("MINIMUM BORE   = ", sizes.minBoreDisplay, units.lengthUnit));
+    maxOd_->setText(entered("MAXIMUM O.D.   = ", sizes.maxOdDisplay, units.lengthUnit));
+    minHeight_->setText(entered("MINIMUM HEIGHT = ", sizes.minHeightDisplay, units.lengthUnit));
+    maxHeight_->setText(entered("MAXIMUM HEIGHT = ", sizes.maxHeightDisplay, units.lengthUnit));
+    radial_->setText(entered("RADIAL = ", now.loads.radialLoadDisplay, units.loadUnit));
+    axial_->setText(entered("AXIAL =  ", now.loads.axialLoadDisplay, units.loadUnit));
+    moment_->setText(entered("MOMENT = ", now.loads.momentLoadDisplay, units.momentUnit));
     speed_->setText(text("SPEED =  " + plainText(now.loads.speed) + " RPM"));
     speed_->setVisible(now.loads.speed > 0.0);
     styleGroup_->setTitle(text(caption));
+    list_->setFont(theme::listFont(hasSpacers(caption)));
     if (const StyleRow* const style = styleByCaption(caption)) {
         picture_->showFile(services().folder, stylePicture(*style, 'T'));
     }

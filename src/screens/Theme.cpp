@@ -84,6 +84,14 @@ QFont valueFont() {
     return font;
 }
 
+QFont listFont(bool longLines) {
+    QFont font = QGuiApplication::font();
+    font.setFamilies(
+        {longLines ? QStringLiteral("Small Fonts") : QStringLiteral("MS Sans Serif"), font.family()});
+    if (longLines) font.setPointSizeF(font.pointSizeF() * 7.0 / 8.0);
+    return font;
+}
+
 QColor menuBackground(const std::string& unitSystem) {
     return unitSystem == "METRIC" ? QColor(192, 255, 192) : QColor(128, 128, 255);
 }

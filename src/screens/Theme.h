@@ -25,6 +25,9 @@ QFont titleFont();    ///< the product's name on the start screen
 QFont numberFont();   ///< the part number in hand
 QFont valueFont();    ///< figures that stand under each other
 
+/// The list of search results: the usual one, and a smaller one for the long lines of sets with spacers.
+QFont listFont(bool longLines);
+
 /// Colour of the main menu's background: the mode of the units shows there.
 QColor menuBackground(const std::string& unitSystem);
 

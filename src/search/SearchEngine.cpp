@@ -4,8 +4,10 @@
 #include <cmath>
 #include <string>
 
+#include "capacity/SolveAdvice.h"
 #include "capacity/SpeedLimits.h"
 #include "catalogue/CatalogueTable.h"
+#include "catalogue/SpeedTables.h"
 #include "loaddist/radlodestar2.h"
 #include "numbers/Arithmetic.h"
 #include "numbers/FormatNumber.h"
@@ -13,6 +15,7 @@
 #include "search/ClearanceTable.h"
 #include "search/HitChoice.h"
 #include "search/SearchMessages.h"
+#include "state/Patience.h"
 
 namespace norlaplan {
 namespace {
@@ -31,11 +34,6 @@ struct Section {
 constexpr std::array<Section, 3> kSections = {
     {{"8-", 0.15625, 0.0828125}, {"13-", 0.25, 0.1325}, {"20-", 0.375, 0.19875}}};
 
-/// The four grease numbers of the style's speed table, and for "X" those of pure thrust.
-struct SpeedNumbers {
-    std::array<Single, 4> thrust, other;
-};
-
 /// A bearing's row in a section table.
 struct SectionRow {
     std::string name;
@@ -51,7 +49,7 @@ class Search {
           folder_(folder),
           messages_(messages, watch),
           watch_(watch),
-          clearances_(folder),
+          clearances_(folder, watch),
           letter_(state.style.searchStyleLetter),
           caption_(state.style.searchStyleCaption),
           entered_(state.loads),
@@ -71,19 +69,8 @@ class Search {
     void readSpeedNumbers() {
         CatalogueTable table(folder_, "SPEED" + letter_ + ".csv");
         const std::string key = letter_ == "A" ? "R" : "P";
-        for (;;) {
-            std::string found;
-            if (letter_ == "X") readBlock(table, found, speeds_.thrust);
-            readBlock(table, found, speeds_.other);
-            if (found == key) return;
+        while (readSpeedLine(table, letter_, speeds_) != key) {
         }
-    }
-
-    static void readBlock(CatalogueTable& table, std::string& key, std::array<Single, 4>& numbers) {
-        table.NextFields(key);
-        table.skipFields(23);
-        table.NextFields(numbers);
-        table.skipFields(20);
     }
 
     bool walk(std::size_t pass) {
@@ -98,10 +85,10 @@ class Search {
         rowHeight_ = height / kMillimetresPerInch;
         while (!table.AtEnd()) {
             const SectionRow row = readRow(table);
-            const double done = (static_cast<double>(pass) + table.partRead()) / kSections.size();
-            if (!watch_.goOn(done)) return false;
+            done_ = (static_cast<double>(pass) + table.partRead()) / kSections.size();
+            if (!watch_.goOn(done_)) return false;
             if (!fits(row)) continue;
-            messages_.setDone(done);
+            messages_.setDone(done_);
             takeRow(row);
             if (messages_.stopped()) return false;
         }
@@ -170,7 +157,7 @@ class Search {
         hit.name = row.name;
         hit.heightText = FormatNumber(rowHeight_ * units.lengthFactor, units.lengthPicture);
         state_.bearing.momentArm = state_.bearing.pitchDiameter;
-        if (const auto mean = clearances_.meanFor(row.bore)) state_.bearing.meanClearance = *mean;
+        if (const auto mean = clearances_.meanFor(row.bore, done_)) state_.bearing.meanClearance = *mean;
         return 0.0;
     }
 
@@ -217,10 +204,14 @@ class Search {
                                        state_.loads.momentLoad};
         state_.solver.SolveAborted = false;
         state_.life.l10Revolutions = 0.0;
-        if (letter_ == "C") {
-            state_.life.l10Revolutions = SolveRadialRow(state_, arguments, messages_).lifeRevolutions;
-        } else if (const auto result = SolveCoupledRows(state_, arguments, messages_)) {
-            state_.life.l10Revolutions = result->lifeRevolutions;
+        try {
+            const auto result = solveWithAdvice(letter_ == "C", [&]() -> std::optional<SolveResult> {
+                if (letter_ == "C") return SolveRadialRow(state_, arguments, messages_);
+                return SolveCoupledRows(state_, arguments, messages_);
+            });
+            if (result) state_.life.l10Revolutions = result->lifeRevolutions;
+        } catch (const NotConverging&) {
+            state_.solver.SolveAborted = true;
         }
         state_.loads = entered_;
         state_.entries = texts_;
@@ -242,6 +233,7 @@ class Search {
     }
 
     double speedNumber(int column) const {
+        // The first four numbers: grease, standard precision.
         if (column < 1 || column > 4) raise(fault::kSubscript);
         const LoadCase& loads = state_.loads;
         const bool pureThrust = loads.axialLoad != 0.0 && loads.radialLoad == 0.0 && loads.momentLoad == 0.0;
@@ -257,8 +249,9 @@ class Search {
     const std::string letter_, caption_;
     const LoadCase entered_;
     const EntryTexts texts_;
-    SpeedNumbers speeds_;
+    SpeedLine speeds_;
     Single rowHeight_;
+    double done_ = 0.0;  ///< part of the tables that is read
 };
 
 void forgetRows(SearchResults& results) {

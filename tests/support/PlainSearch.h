@@ -56,13 +56,15 @@ inline std::optional<float> playOf(const Table& precision, float bore) {
 }
 
 /// The grease number of the speed table, for loads that are not pure thrust on "X".
-inline float speedNumber(const std::string& tables, char family, int column) {
+inline double speedNumber(const std::string& tables, char family, int column) {
     const std::string key = family == 'A' ? "R" : "P";
     const std::size_t keyAt = family == 'X' ? 48 : 0;
     for (const auto& line : readTable(tables + "/SPEED" + family + ".CSV")) {
-        if (line.at(keyAt) == key) return std::stof(line.at(keyAt + 23 + static_cast<std::size_t>(column)));
+        if (line.at(keyAt) != key) continue;
+        const std::string& number = line.at(keyAt + 23 + static_cast<std::size_t>(column));
+        return family == 'X' ? std::stod(number) : static_cast<double>(std::stof(number));
     }
-    return 0.0F;
+    return 0.0;
 }
 
 inline std::string wholeText(double value) {
@@ -139,7 +141,7 @@ inline std::vector<SearchHit> search(const std::string& tables, const std::strin
                                   section.groove, std::fabs(span), clearance,    30.0F,
                                   loads.radial,   loads.axial,     0.0F};
             const Result result = style == 'C' ? solveRadialRow(bearing) : solveCoupledRows(bearing);
-            const float table = speedNumber(tables, family, std::stoi(rows[i][8]));
+            const double table = speedNumber(tables, family, std::stoi(rows[i][8]));
             rate(hit, result, percent, static_cast<double>(table), static_cast<double>(bore),
                  static_cast<double>(loads.speed));
             found.push_back(hit);
