@@ -47,9 +47,9 @@ class Search {
     Search(ProgramState& state, const ProgramFolder& folder, MessagePort& messages, SearchWatch& watch)
         : state_(state),
           folder_(folder),
-          messages_(messages, watch),
           watch_(watch),
-          clearances_(folder, watch),
+          messages_(messages, watch_),
+          clearances_(folder, watch_),
           letter_(state.style.searchStyleLetter),
           caption_(state.style.searchStyleCaption),
           entered_(state.loads),
@@ -85,12 +85,11 @@ class Search {
         rowHeight_ = height / kMillimetresPerInch;
         while (!table.AtEnd()) {
             const SectionRow row = readRow(table);
-            done_ = (static_cast<double>(pass) + table.partRead()) / kSections.size();
-            if (!watch_.goOn(done_)) return false;
+            watch_.setDone((static_cast<double>(pass) + table.partRead()) / kSections.size());
+            if (!watch_.goOn()) return false;
             if (!fits(row)) continue;
-            messages_.setDone(done_);
             takeRow(row);
-            if (messages_.stopped()) return false;
+            if (watch_.stopped()) return false;
         }
         return true;
     }
@@ -157,7 +156,7 @@ class Search {
         hit.name = row.name;
         hit.heightText = FormatNumber(rowHeight_ * units.lengthFactor, units.lengthPicture);
         state_.bearing.momentArm = state_.bearing.pitchDiameter;
-        if (const auto mean = clearances_.meanFor(row.bore, done_)) state_.bearing.meanClearance = *mean;
+        if (const auto mean = clearances_.meanFor(row.bore)) state_.bearing.meanClearance = *mean;
         return 0.0;
     }
 
@@ -243,15 +242,14 @@ class Search {
 
     ProgramState& state_;
     const ProgramFolder& folder_;
+    StopLatch watch_;
     SearchMessages messages_;
-    SearchWatch& watch_;
     ClearanceTable clearances_;
     const std::string letter_, caption_;
     const LoadCase entered_;
     const EntryTexts texts_;
     SpeedLine speeds_;
     Single rowHeight_;
-    double done_ = 0.0;  ///< part of the tables that is read
 };
 
 void forgetRows(SearchResults& results) {

@@ -10,7 +10,8 @@ namespace norlaplan {
 class SearchWatch {
   public:
     virtual ~SearchWatch() = default;
-    /// Called for every row read, with the part of the work that is done (0 to 1). False stops the search.
+    /// Called for every row read, and in rows that take long, with the part of the work that is done (0 to
+    /// 1). False stops the search.
     virtual bool goOn(double done) = 0;
 };
 

@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "search/SearchEngine.h"
+#include "search/StopLatch.h"
 #include "state/Ports.h"
 
 namespace norlaplan {
@@ -14,11 +14,7 @@ namespace norlaplan {
 /// stop the search.
 class SearchMessages : public MessagePort {
   public:
-    SearchMessages(MessagePort& messages, SearchWatch& watch) : messages_(messages), watch_(watch) {}
-
-    /// How far the search is, for the watch.
-    void setDone(double done) { done_ = done; }
-    bool stopped() const { return stopped_; }
+    SearchMessages(MessagePort& messages, StopLatch& watch) : messages_(messages), watch_(watch) {}
 
     void show(const Message& message) override {
         if (std::find(shown_.begin(), shown_.end(), message) != shown_.end()) return;
@@ -28,9 +24,7 @@ class SearchMessages : public MessagePort {
 
     Answer ask(const Message& question, Buttons buttons) override {
         for (const auto& [asked, answer] : answers_) {
-            if (!(asked == question)) continue;
-            stopped_ = stopped_ || !watch_.goOn(done_);
-            return stopped_ ? Answer::No : answer;
+            if (asked == question) return watch_.goOn() ? answer : Answer::No;
         }
         answers_.emplace_back(question, messages_.ask(question, buttons));
         return answers_.back().second;
@@ -38,9 +32,7 @@ class SearchMessages : public MessagePort {
 
   private:
     MessagePort& messages_;
-    SearchWatch& watch_;
-    double done_ = 0.0;
-    bool stopped_ = false;
+    StopLatch& watch_;
     std::vector<Message> shown_;
     std::vector<std::pair<Message, Answer>> answers_;
 };

@@ -23,6 +23,8 @@ struct BearingStyle {
 /// One row of the results, all of it as text, as it is shown.
 struct SearchHit {
     std::string name, speedLimit, l10Revolutions, l10Hours, boreText, odText, heightText, stock;
+
+    bool operator==(const SearchHit&) const = default;
 };
 
 /// The rows of the last search and how they stand.

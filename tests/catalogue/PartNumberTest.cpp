@@ -112,8 +112,10 @@ TEST_F(APartNumber, OfASingleOrTandemBearingDropsItsFitLetterWithAWarningAndGoes
 TEST_F(APartNumber, WithABlankTenthCharacterHasNoFitLetter) {
     ASSERT_TRUE(decodes("K19013AP0 "));
     EXPECT_TRUE(run.messages.shown.empty());
+    EXPECT_EQ(run.bearing().partNumber, "K19013AP0");
     ASSERT_TRUE(decodes("K19013XP0 "));
     EXPECT_EQ(run.bearing().fitLetter, " ");
+    EXPECT_EQ(run.bearing().partNumber, "K19013XP0");
     EXPECT_TRUE(run.messages.shown.empty());
 }
 

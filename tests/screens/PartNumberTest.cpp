@@ -1,5 +1,7 @@
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QRadioButton>
 
 #include "screens/Program.h"
@@ -134,6 +136,31 @@ class PartNumberTest : public QObject {
         entry.click("Form9", "Command1");
         QCOMPARE(entry.inFront(), std::string("Form3"));
         QCOMPARE(entry.control<QLabel>("Form3", "Label3").text(), QString("K19013XP0"));
+    }
+
+    void its_texts_are_the_stated_ones() {
+        Entry entry;
+        const auto is = [&](const char* name, const char* caption, const char* tip) {
+            const auto& button = entry.control<QAbstractButton>("Form9", name);
+            QCOMPARE(button.text(), QString(caption));
+            QCOMPARE(button.toolTip(), QString(tip));
+        };
+        is("Command1", "View Data Sheet", "");
+        is("Command2", "Explain Part        Numbers", "Show character by character explanation");
+        is("Command3", "&Main Menu", "Return to Main Menu");
+        is("Option1", "PTFE TOROIDS", "");
+        is("Option2", "VESPEL TOROIDS", "");
+        is("Option3", "SPACER BALLS", "");
+        is("Option5", "PTFE SLUGS", "");
+        is("Option6", "SPACER BALLS", "");
+        for (const char* const frame : {"Frame1", "Frame2"})
+            QCOMPARE(entry.control<QGroupBox>("Form9", frame).title(), QString("Z SEPARATOR OPTIONS"));
+        QCOMPARE(entry.field().toolTip(), QString("9 or 10 digit code"));
+        const auto& advice = entry.control<QPlainTextEdit>("Form9", "Text2");
+        QVERIFY(advice.isReadOnly());
+        QCOMPARE(advice.toPlainText(), QString("Please enter the exact part number.\n"
+                                               "An example of a valid part number is K19013XP0.  The\n"
+                                               "actual number of characters required is either 9 or 10."));
     }
 
     void a_refused_number_brings_the_screen_back_empty_with_the_cursor_in_it() {

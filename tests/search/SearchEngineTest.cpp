@@ -1,5 +1,7 @@
 #include <cmath>
+#include <filesystem>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -18,7 +20,7 @@ namespace {
 using testing::RecordingMessages;
 using testing::TemporaryFolder;
 
-/// Stops the search at a given row; never when none is given.
+/// Stops the search from a given row on; never when none is given.
 class Watch : public SearchWatch {
   public:
     explicit Watch(int stopAt = -1) : stopAt_(stopAt) {}
@@ -26,7 +28,7 @@ class Watch : public SearchWatch {
         EXPECT_GE(done, before_);
         EXPECT_LE(done, 1.0);
         before_ = done;
-        return ++rows != stopAt_;
+        return ++rows < stopAt_ || stopAt_ < 0;
     }
     int rows = 0;
 
@@ -213,11 +215,13 @@ TEST(Search, FaultsForASpeedIndexOutsideOfOneToFour) {
 }
 
 TEST(Search, FaultsForASpeedTableWithoutItsKey) {
-    Catalogue catalogue;
-    catalogue.section(rowOf("K10013CP0", 100));
-    catalogue.style("RADIAL CONTACT", "C");
-    catalogue.place.write("Data Tables/SPEEDC.CSV", "");
-    EXPECT_EQ(faultOf(catalogue), fault::kPastEnd);
+    for (const std::string& table : {std::string(), "J" + std::string(23, ',') + numbers(9.0) + "\r\n"}) {
+        Catalogue catalogue;
+        catalogue.section(rowOf("K10013CP0", 100));
+        catalogue.style("RADIAL CONTACT", "C");
+        catalogue.place.write("Data Tables/SPEEDC.CSV", table);
+        EXPECT_EQ(faultOf(catalogue), fault::kPastEnd);
+    }
 }
 
 TEST(Search, StoppedKeepsNoRows) {
@@ -245,17 +249,6 @@ TEST(Search, KeepsStaleHoursWithoutASpeed) {
     EXPECT_EQ(catalogue.state.search.rows.at(0).l10Hours, "77");
 }
 
-TEST(Search, ListsAnUnstableRowWithLifeZeroAndLeavesTheLoadsAlone) {
-    Catalogue catalogue;
-    // A groove as large as the gap has a contact line of no length: the pair is unstable for it.
-    catalogue.section(rowOf("K10013AR0", 100) + rowOf("K15013AR0", 150));
-    catalogue.style("FACE-TO-FACE SET", "A");
-    catalogue.state.criteria.maxHeight = 1.1;
-    catalogue.run();
-    EXPECT_EQ(catalogue.state.loads.axialLoad, 0.0);
-    EXPECT_EQ(catalogue.state.search.rows.size(), 2U);
-}
-
 TEST(HitLine, ShowsHoursAndMarkOnlyWithASpeed) {
     ProgramState state;
     const SearchHit hit{"K10013XP0", "900", "123456789", "2345", "", "", "", "CALL"};
@@ -265,6 +258,111 @@ TEST(HitLine, ShowsHoursAndMarkOnlyWithASpeed) {
               "K10013XP0    1.23E+08 revs.    2.35E+03 hrs.    STOCK - CALL   Over Speed!");
     state.loads.speed = 900.0;
     EXPECT_EQ(overSpeedMark(state, hit), "") << "a speed at the limit is not over it";
+}
+
+/// A catalogue with blanks, quotes, empty fields and rows over several lines gives what the tidy one gives.
+TEST(Search, ReadsACatalogueWithOddFields) {
+    Catalogue tidy;
+    tidy.section(rowOf("K10013XP0", 100, 0) + rowOf("K20013XP0", 200, 2));
+    Catalogue odd;
+    odd.section(
+        "  \"K10013XP0\" , , 100,\"126\"mm,0,0,0,0.5,1,60\r\n"
+        "\"K20013XP0\",2,200\r\n226,0,,\r\n0.5, 1 , 60 balls");
+    odd.place.write("Data Tables/cls0.csv", tidy.place.read("Data Tables/CLS0.csv"));
+    for (Catalogue* const catalogue : {&tidy, &odd}) {
+        catalogue->state.loads.speed = 100.0;
+        ASSERT_EQ(catalogue->run(), SearchEnd::Found);
+        ASSERT_EQ(catalogue->state.search.rows.size(), 2U);
+    }
+    for (std::size_t i = 0; i < 2; ++i)
+        EXPECT_EQ(odd.state.search.rows[i], tidy.state.search.rows[i]) << i;
+    EXPECT_EQ(odd.state.search.rows[0].stock, "NO  ") << "a blank stock field is 0";
+}
+
+TEST(Search, TakesABoreThatThePrecisionTableLacksWithThePreviousRowsClearance) {
+    const std::string rows = rowOf("A", 100) + rowOf("B", 150) + rowOf("C", 200);
+    Catalogue lacking;
+    lacking.section(rows);
+    Catalogue whole;
+    whole.section(rows);
+    whole.place.write("Data Tables/CLS0.csv",
+                      "head,,,,,,,,,\r\n200,0,0,0,0,0,0,.001,.002,0\r\n150,0,0,0,0,0,0,.0006,.0014,0\r\n"
+                      "100,0,0,0,0,0,0,.0006,.0014,0\r\n");
+    EXPECT_EQ(lacking.run(), SearchEnd::Found);
+    EXPECT_EQ(whole.run(), SearchEnd::Found);
+    EXPECT_EQ(lacking.state.search.rows, whole.state.search.rows);
+}
+
+/// Radial loads under which a row of the sample catalogue never settles.
+struct Unsettled : Catalogue {
+    Unsettled() {
+        folder = NORLAPLAN_PROGRAM_FOLDER;
+        style("FACE-TO-FACE SET", "A");
+        state.criteria = {0.0, 4.0, 0.0, 1.2, 0.0, 4.0, 0.0, 1.2};
+    }
+    SearchEnd go(SearchWatch& watch) {
+        return RunBearingSearch(state, ProgramFolder(folder), messages, watch);
+    }
+    std::filesystem::path folder;
+};
+
+TEST(Search, AsksOnceWhetherToGoOnAndListsWhatIsGivenUpWithLifeZero) {
+    Unsettled search;
+    Watch watch;
+    EXPECT_EQ(search.go(watch), SearchEnd::Found);
+    ASSERT_EQ(search.messages.asked.size(), 1U);
+    EXPECT_EQ(search.messages.asked[0].title, "Difficulty in solving this load case");
+    int given = 0;
+    for (const SearchHit& hit : search.state.search.rows)
+        given += hit.l10Revolutions == "0" ? 1 : 0;
+    EXPECT_GT(given, 0);
+    EXPECT_LT(given, static_cast<int>(search.state.search.rows.size()));
+    EXPECT_EQ(search.state.loads.radialLoad, 500.0);
+    EXPECT_EQ(search.state.loads.axialLoad, 0.0) << "the rows after it have the loads that were entered";
+}
+
+TEST(Search, ThatWasToldToGoOnCanStillBeStoppedInARowThatNeverSettles) {
+    class Impatient : public SearchWatch {
+      public:
+        bool goOn(double) override { return ++looks_ < 60; }
+
+      private:
+        int looks_ = 0;
+    };
+    Unsettled search;
+    search.messages.answers = {Answer::Yes};
+    Impatient watch;
+    EXPECT_EQ(search.go(watch), SearchEnd::Stopped);
+    EXPECT_TRUE(search.state.search.rows.empty());
+    EXPECT_EQ(search.messages.asked.size(), 1U);
+}
+
+TEST(Search, TellsWhatToEnterInsteadOfALoadOfTheWrongSign) {
+    for (const auto& [letter, word] : {std::pair{"C", "radial"}, std::pair{"X", "axial"}}) {
+        Catalogue catalogue;
+        catalogue.section(rowOf("K10013XP0", 100));
+        catalogue.style(letter == std::string("C") ? "RADIAL CONTACT" : "4-POINT CONTACT", letter);
+        catalogue.state.loads.radialLoadDisplay = letter == std::string("C") ? -5.0 : 5.0;
+        catalogue.state.loads.axialLoadDisplay = -5.0;
+        convertLoads(catalogue.state);
+        try {
+            catalogue.run();
+            FAIL() << letter;
+        } catch (const RuntimeError& error) {
+            EXPECT_EQ(error.number(), fault::kInvalidCall);
+            EXPECT_NE(std::string(error.what()).find(std::string("Enter the ") + word), std::string::npos);
+        }
+    }
+}
+
+TEST(Search, StopsInALongPrecisionTable) {
+    Catalogue catalogue;
+    catalogue.section(rowOf("K30013XP0", 300));
+    std::string table = "head,,,,,,,,,\r\n";
+    for (int i = 0; i < 5000; ++i)
+        table += std::to_string(1000 + i) + ",0,0,0,0,0,0,.001,.002,0\r\n";
+    catalogue.place.write("Data Tables/CLS0.csv", table);
+    EXPECT_EQ(catalogue.run(500), SearchEnd::Stopped);
 }
 
 }  // namespace

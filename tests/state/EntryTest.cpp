@@ -106,6 +106,17 @@ TEST(EnterSizes, TellsOfTheFirstMissingSizeInTheStatedOrder) {
     EXPECT_TRUE(state.sizesChosen);
 }
 
+TEST(EnterSizes, TakesNoneOfTheSizesWhenOneIsMissing) {
+    ProgramState state = usState();
+    state.entries = {"5", "9", "0.2", "1", "", "", "", ""};
+    ASSERT_FALSE(enterSizes(state).has_value());
+    state.entries.minBore = "7";
+    state.entries.maxOd = "";
+    ASSERT_TRUE(enterSizes(state).has_value());
+    EXPECT_EQ(state.criteria.minBoreDisplay, 5.0);
+    EXPECT_EQ(state.criteria.minBore, 5.0);
+}
+
 TEST(EnterSizes, SwapsSizesInTheWrongOrderAlsoInTheFields) {
     ProgramState state = usState();
     state.entries = {"9", "5", "1", "0.2", "", "", "", ""};
@@ -132,6 +143,30 @@ TEST(ChangeOfUnits, ConvertsWhatStandsInTheFieldsAndKeepsEmptyOnesEmpty) {
     EXPECT_EQ(state.entries.radial, "100") << "it has passed through whole newtons";
     EXPECT_EQ(state.loads.radialLoadDisplay, 100.0);
     EXPECT_EQ(state.loads.radialLoad, 100.0) << "what the screen shows is what is calculated with";
+}
+
+TEST(ChangeOfUnits, ReadsAFieldAsItsScreenDoes) {
+    ProgramState state = usState();
+    state.entries.radial = "1,000";
+    state.entries.axial = "";
+    state.entries.moment = "";
+    ASSERT_FALSE(enterLoads(state).has_value());
+    changeUnits(state, "METRIC");
+    EXPECT_EQ(state.entries.radial, "4448") << "1000 / 0.2248089 = 4448.2";
+    EXPECT_NEAR(state.loads.radialLoad, 1000.0, 0.1);
+}
+
+TEST(ChangeOfUnits, KeepsTheLoadBehindAFieldThatShowsNoNumber) {
+    for (const char* const text : {"", "abc"}) {
+        ProgramState state = usState();
+        state.entries.radial = "100";
+        ASSERT_FALSE(enterLoads(state).has_value());
+        state.entries.radial = text;
+        changeUnits(state, "METRIC");
+        EXPECT_EQ(state.entries.radial, text);
+        EXPECT_NEAR(state.loads.radialLoadDisplay, 444.8222, 0.0001);
+        EXPECT_NEAR(state.loads.radialLoad, 100.0, 0.0001);
+    }
 }
 
 TEST(ChangeOfUnits, ToTheSameUnitsChangesNothing) {

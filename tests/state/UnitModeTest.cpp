@@ -32,6 +32,26 @@ TEST(ApplyUnitSystem, HoldsTheMetricFactorsInThirtyTwoBits) {
     EXPECT_EQ(units.filletPicture, "0.00");
 }
 
+TEST(ApplyUnitSystem, SetsTheNumberPicturesOfBothSystems) {
+    const struct {
+        std::string UnitMode::*picture;
+        const char *us, *metric;
+    } rows[] = {{&UnitMode::lengthPicture, "###0.0000", "###0.000"},
+                {&UnitMode::loadPicture, "#,##0", "#,##0"},
+                {&UnitMode::runoutPicture, "#.00000", "0.0000"},
+                {&UnitMode::tolerancePicture, ".00000", "0.0000"},
+                {&UnitMode::filletPicture, ".000", "0.00"},
+                {&UnitMode::clearancePicture, ".0000", "0.000"},
+                {&UnitMode::crossSectionPicture, "#.000", "#"}};
+    UnitMode us, metric;
+    ApplyUnitSystem("US", us);
+    ApplyUnitSystem("METRIC", metric);
+    for (const auto& row : rows) {
+        EXPECT_EQ(us.*row.picture, row.us);
+        EXPECT_EQ(metric.*row.picture, row.metric);
+    }
+}
+
 TEST(ApplyUnitSystem, LeavesEveryFieldForAnyOtherText) {
     UnitMode units;
     ApplyUnitSystem("METRIC", units);
