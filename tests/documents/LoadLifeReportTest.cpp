@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "documents/LoadLifeReport.h"
-#include "documents/SearchReport.h"
 #include "support/RecordingPorts.h"
 
 namespace norlaplan {
@@ -93,63 +92,6 @@ TEST(LoadLifePrint, PutsTheDevelopmentLinesFirstOfWhichOnlyOneHasAValue) {
     EXPECT_TRUE(canvas.hasText("Speed factor = 0.5"));
     EXPECT_TRUE(canvas.hasText("Maximum Capacity = "));
     EXPECT_TRUE(canvas.hasText("Maximum Load or Reaction = "));
-}
-
-TEST(SearchPrint, TakesTwentySixRowsOnTheFirstPageAndFortyOnEachFurtherOne) {
-    EXPECT_EQ(searchPages(1), 1);
-    EXPECT_EQ(searchPages(26), 1);
-    EXPECT_EQ(searchPages(27), 2);
-    EXPECT_EQ(searchPages(66), 2);
-    EXPECT_EQ(searchPages(67), 3);
-    EXPECT_EQ(searchPages(300), 8);
-}
-
-ProgramState listOf(int rows) {
-    ProgramState state;
-    state.style = {"BACK-TO-BACK SET", "A"};
-    state.loads.speed = 1000.0;
-    for (int i = 0; i < rows; ++i) {
-        state.search.rows.push_back(
-            {"K10013BR0A", i == 0 ? "900" : "2000", "123456", "789", "1", "2", "3", "YES "});
-    }
-    return state;
-}
-
-TEST(SearchPrint, PrintsEveryRowOverItsPages) {
-    RecordingCanvas canvas;
-    FixedClock clock;
-    printSearch(listOf(70), clock, canvas);
-    EXPECT_EQ(canvas.pages, 3);
-    int names = 0;
-    for (const auto& text : canvas.texts)
-        names += text.text == "K10013BR0A" ? 1 : 0;
-    EXPECT_EQ(names, 70);
-    EXPECT_TRUE(canvas.hasText("Page 3 of 3     Printed: 3/14/26 9:26 AM") ||
-                canvas.hasText("Printed: 3/14/26 9:26 AM     Page 3 of 3"));
-    EXPECT_TRUE(canvas.hasText("Over Speed!"));
-}
-
-TEST(SearchPrint, NamesTheSortOnlyOfASortedList) {
-    ProgramState state = listOf(1);
-    FixedClock clock;
-    RecordingCanvas plain;
-    printSearch(state, clock, plain);
-    EXPECT_FALSE(plain.hasText("BEARINGS SORTED IN ASCENDING ORDER BY BORE SIZE"));
-    state.search.sorted = true;
-    RecordingCanvas sorted;
-    printSearch(state, clock, sorted);
-    EXPECT_TRUE(sorted.hasText("BEARINGS SORTED IN ASCENDING ORDER BY BORE SIZE"));
-}
-
-TEST(SearchRtf, BreaksThePageAfterEachTwentyNineRowsAndCutsASetsName) {
-    FixedClock clock;
-    const std::string rtf = searchRtf(listOf(60), clock);
-    std::size_t pages = 0;
-    for (std::size_t at = rtf.find("\\page }"); at != std::string::npos; at = rtf.find("\\page }", at + 1))
-        ++pages;
-    EXPECT_EQ(pages, 2U);
-    EXPECT_NE(rtf.find("{\\cf1 K10013 \r\n\\tab\\tab\\ 1.235E+05"), std::string::npos);
-    EXPECT_NE(rtf.find("\\cf6 Over Speed!}"), std::string::npos);
 }
 
 }  // namespace

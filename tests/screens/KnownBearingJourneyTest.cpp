@@ -11,38 +11,17 @@ class KnownBearingJourneyTest : public QObject {
     Q_OBJECT
 
   private:
-    static void type(Program& program, const std::string& form, const char* field, const char* text) {
-        QLineEdit& edit = program.control<QLineEdit>(form, field);
-        edit.clear();
-        QTest::keyClicks(&edit, text);
-    }
     static QString label(Program& program, const char* name) {
         return program.control<QLabel>("Form19", name).text();
-    }
-
-    static void enterNumber(Program& program, const char* number) {
-        program.screens.showAlone("Form3");
-        program.click("Form3", "Command8");
-        type(program, "Form9", "Text1", number);
-        QTest::keyClick(&program.control<QLineEdit>("Form9", "Text1"), Qt::Key_Return);
-    }
-    static void openLife(Program& program, const char* radial, const char* axial, const char* moment,
-                         const char* speed) {
-        program.click("Form3", "Command13");
-        type(program, "Form14", "Text1", radial);
-        type(program, "Form14", "Text2", axial);
-        type(program, "Form14", "Text3", moment);
-        type(program, "Form14", "Text4", speed);
-        program.click("Form14", "Command1");
     }
 
   private slots:
     void showsLifeSafetyTorqueAndVerdict() {
         Program program;
         program.state.unitSystem = "US";
-        enterNumber(program, "k19013xp0");
+        program.enterNumber("k19013xp0");
         QCOMPARE(program.inFront(), std::string("Form3"));
-        openLife(program, "1200", "300", "900", "400");
+        program.openLife("1200", "300", "900", "400");
         QCOMPARE(program.inFront(), std::string("Form19"));
         QCOMPARE(program.screens.form("Form19").windowTitle(),
                  QString("LOAD-LIFE CALCULATION FOR K19013XP0"));
@@ -58,8 +37,8 @@ class KnownBearingJourneyTest : public QObject {
 
     void hidesSpeedHoursAndVerdictWithoutASpeed() {
         Program program;
-        enterNumber(program, "K19013XP0");
-        openLife(program, "1200", "", "", "");
+        program.enterNumber("K19013XP0");
+        program.openLife("1200", "", "", "");
         QCOMPARE(program.inFront(), std::string("Form19"));
         for (const char* const name : {"Label7", "Label9", "Label11"}) {
             QVERIFY2(!program.control<QLabel>("Form19", name).isVisible(), name);
@@ -68,8 +47,8 @@ class KnownBearingJourneyTest : public QObject {
 
     void savesAndPrintsTheReport() {
         Program program;
-        enterNumber(program, "K19013BR0N");
-        openLife(program, "500", "100", "50", "100");
+        program.enterNumber("K19013BR0N");
+        program.openLife("500", "100", "50", "100");
         program.saveDialog.choice = SaveChoice{program.files.path() / "life.rtf", 1};
         program.click("Form19", "Command4");
         QCOMPARE(program.saveDialog.requests.back().name, std::string("K19013BR0N-load.rtf"));
@@ -82,8 +61,8 @@ class KnownBearingJourneyTest : public QObject {
 
     void leavesNothingBehindWhenTheSaveIsCancelled() {
         Program program;
-        enterNumber(program, "K19013XP0");
-        openLife(program, "500", "", "", "");
+        program.enterNumber("K19013XP0");
+        program.openLife("500", "", "", "");
         program.click("Form19", "Command4");
         QVERIFY(program.state.lastSavedFile.empty());
         QVERIFY(program.messages.shown.empty());
@@ -91,8 +70,8 @@ class KnownBearingJourneyTest : public QObject {
 
     void goesBackToTheLoadsWithPreviousAndToTheMenuOnClosing() {
         Program program;
-        enterNumber(program, "K19013XP0");
-        openLife(program, "500", "", "", "");
+        program.enterNumber("K19013XP0");
+        program.openLife("500", "", "", "");
         program.click("Form19", "Command1");
         QCOMPARE(program.inFront(), std::string("Form14"));
         QVERIFY(program.state.knownBearingLoadInput);
@@ -105,15 +84,15 @@ class KnownBearingJourneyTest : public QObject {
 
     void hidesOnEscape() {
         Program program;
-        enterNumber(program, "K19013XP0");
-        openLife(program, "500", "", "", "");
+        program.enterNumber("K19013XP0");
+        program.openLife("500", "", "", "");
         QTest::keyClick(&program.screens.form("Form19"), Qt::Key_Escape);
         QCOMPARE(program.inFront(), std::string("Form3"));
     }
 
     void tellsOfABadLoadAndStays() {
         Program program;
-        enterNumber(program, "K19013XP0");
+        program.enterNumber("K19013XP0");
         program.click("Form3", "Command13");
         program.control<QLineEdit>("Form14", "Text2").setText("abc");
         program.click("Form14", "Command1");
@@ -124,17 +103,55 @@ class KnownBearingJourneyTest : public QObject {
 
     void tellsOfANegativeAxialLoadWithAdviceAndStays() {
         Program program;
-        enterNumber(program, "K19013XP0");
-        openLife(program, "500", "-100", "", "");
+        program.enterNumber("K19013XP0");
+        program.openLife("500", "-100", "", "");
         QCOMPARE(program.lastMessage().title, std::string("Run-time error '5'"));
         QVERIFY(program.lastMessage().prompt.find("Proceed to life calculation") != std::string::npos);
         QVERIFY(program.lastMessage().prompt.find("positive number") != std::string::npos);
         QCOMPARE(program.inFront(), std::string("Form14"));
+        // The screen still serves this bearing: the corrected load goes on to its life.
+        QVERIFY(!program.control<QAbstractButton>("Form14", "Command2").isVisible());
+        program.type("Form14", "Text2", "100");
+        program.click("Form14", "Command1");
+        QCOMPARE(program.inFront(), std::string("Form19"));
+        QVERIFY(label(program, "Label8").startsWith("L10 LIFE = "));
+    }
+
+    void aLoadScreenThatWasClosedServesTheSearchAgain() {
+        Program program;
+        program.enterNumber("K19013XP0");
+        program.click("Form3", "Command13");
+        program.screens.form("Form14").close();
+        QCOMPARE(program.inFront(), std::string("Form3"));
+        QVERIFY(!program.state.knownBearingLoadInput);
+    }
+
+    void theVerdictIsGreenWithinTheLimitAndRedAboveIt() {
+        Program program;
+        program.enterNumber("K19013XP0");
+        const auto colour = [&] {
+            return program.control<QLabel>("Form19", "Label11").palette().color(QPalette::WindowText);
+        };
+        program.openLife("500", "", "", "100");
+        QCOMPARE(colour(), QColor(0, 128, 0));
+        program.screens.showAlone("Form3");
+        program.openLife("500", "", "", "5000");
+        QCOMPARE(colour(), QColor(255, 0, 0));
+    }
+
+    void theSideScreensCaptionsKeepTheirBlanks() {
+        Program program;
+        const auto caption = [&](const char* name) {
+            return program.control<QAbstractButton>("Form19", name).text();
+        };
+        QCOMPARE(caption("Command5"), QString("Ball Load             Plot"));
+        QCOMPARE(caption("Command6"), QString("Lube Film          Check"));
+        QCOMPARE(caption("Command7"), QString("Contact         Stress"));
     }
 
     void takesOnlyARadialLoadForARadialBearing() {
         Program program;
-        enterNumber(program, "K19013CP0");
+        program.enterNumber("K19013CP0");
         program.click("Form3", "Command13");
         for (const char* const name : {"Text2", "Text3"}) {
             QVERIFY(!program.control<QLineEdit>("Form14", name).isVisible());
@@ -144,7 +161,7 @@ class KnownBearingJourneyTest : public QObject {
 
     void takesNoSpeedForABearingWithoutSeparator() {
         Program program;
-        enterNumber(program, "K19013XF0");
+        program.enterNumber("K19013XF0");
         program.click("Form3", "Command13");
         QVERIFY(!program.control<QLineEdit>("Form14", "Text4").isEnabled());
     }
@@ -153,8 +170,8 @@ class KnownBearingJourneyTest : public QObject {
         Program program;
         program.state.options.ballShowOption = true;
         program.state.options.pathStressOption = true;
-        enterNumber(program, "K19013XP0");
-        openLife(program, "500", "", "", "");
+        program.enterNumber("K19013XP0");
+        program.openLife("500", "", "", "");
         QVERIFY(program.control<QAbstractButton>("Form19", "Command5").isVisible());
         QVERIFY(!program.control<QAbstractButton>("Form19", "Command6").isVisible());
         QVERIFY(program.control<QAbstractButton>("Form19", "Command7").isVisible());
@@ -165,8 +182,8 @@ class KnownBearingJourneyTest : public QObject {
         Program program;
         program.blank("Form27");
         program.state.options.lubeFilmOption = true;
-        enterNumber(program, "K19013XP0");
-        openLife(program, "500", "", "", "");
+        program.enterNumber("K19013XP0");
+        program.openLife("500", "", "", "");
         const QString before = label(program, "Label8");
         program.click("Form19", "Command6");
         QCOMPARE(program.inFront(), std::string("Form27"));

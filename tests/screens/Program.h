@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLineEdit>
 #include <QtTest>
 #include <filesystem>
 #include <string>
@@ -33,6 +34,28 @@ struct Program {
     }
     void click(const std::string& form, const char* name) {
         QTest::mouseClick(&control<QAbstractButton>(form, name), Qt::LeftButton);
+    }
+    void type(const std::string& form, const char* field, const char* text) {
+        QLineEdit& edit = control<QLineEdit>(form, field);
+        edit.clear();
+        QTest::keyClicks(&edit, text);
+    }
+    /// From the main menu: types a part number and presses Enter.
+    void enterNumber(const char* number) {
+        screens.showAlone("Form3");
+        click("Form3", "Command8");
+        type("Form9", "Text1", number);
+        QTest::keyClick(&control<QLineEdit>("Form9", "Text1"), Qt::Key_Return);
+    }
+    /// From the main menu: enters loads for the bearing in hand and proceeds to its life.
+    void openLife(const char* radial, const char* axial = "", const char* moment = "",
+                  const char* speed = "") {
+        click("Form3", "Command13");
+        type("Form14", "Text1", radial);
+        type("Form14", "Text2", axial);
+        type("Form14", "Text3", moment);
+        type("Form14", "Text4", speed);
+        click("Form14", "Command1");
     }
     /// The name of the form in front, empty when there is none.
     std::string inFront() const {

@@ -2,7 +2,9 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProgressDialog>
 #include <QRadioButton>
+#include <QTimer>
 
 #include "screens/Program.h"
 #include "state/StyleTable.h"
@@ -15,11 +17,6 @@ class SearchJourneyTest : public QObject {
     Q_OBJECT
 
   private:
-    static void type(Program& program, const std::string& form, const char* field, const char* text) {
-        QLineEdit& edit = program.control<QLineEdit>(form, field);
-        edit.clear();
-        QTest::keyClicks(&edit, text);
-    }
     static void chooseStyle(Program& program, std::size_t row) {
         program.screens.showAlone("Form3");
         program.click("Form3", "Command4");
@@ -28,15 +25,15 @@ class SearchJourneyTest : public QObject {
     }
     static void enterSizes(Program& program, const char* bore, const char* od, const char* low,
                            const char* high) {
-        type(program, "Form12", "Text1", bore);
-        type(program, "Form12", "Text2", od);
-        type(program, "Form12", "Text3", low);
-        type(program, "Form12", "Text4", high);
+        program.type("Form12", "Text1", bore);
+        program.type("Form12", "Text2", od);
+        program.type("Form12", "Text3", low);
+        program.type("Form12", "Text4", high);
         program.click("Form12", "Command2");
     }
     static void enterLoads(Program& program, const char* radial, const char* speed) {
-        type(program, "Form14", "Text1", radial);
-        type(program, "Form14", "Text4", speed);
+        program.type("Form14", "Text1", radial);
+        program.type("Form14", "Text4", speed);
         program.click("Form14", "Command1");
     }
     static void search(Program& program, std::size_t row, const char* speed = "") {
@@ -162,6 +159,37 @@ class SearchJourneyTest : public QObject {
         QCOMPARE(program.inFront(), std::string("Form17"));
         QCOMPARE(program.state.bearing.partNumber, number);
         QVERIFY(program.files.read("CONDENSED.DAT").find(number) != std::string::npos);
+    }
+
+    void aRowThatNeverSettlesIsStoppedByEscapeAfterTheBarHasComeUp() {
+        Program program;
+        program.messages.answers = {Answer::Yes};
+        bool barWasThere = false;
+        QTimer escape;
+        QObject::connect(&escape, &QTimer::timeout, [&] {
+            auto* const bar = program.screens.form("Form15").findChild<QProgressDialog*>("SearchProgress");
+            if (bar == nullptr || !bar->isVisible()) return;
+            barWasThere = true;
+            QTest::keyClick(bar, Qt::Key_Escape);
+        });
+        escape.start(50);
+        chooseStyle(program, 4);
+        enterSizes(program, "0", "4", "0", "1.2");
+        enterLoads(program, "500", "");
+        QVERIFY(barWasThere);
+        QCOMPARE(program.messages.asked.size(), std::size_t{1});
+        QCOMPARE(program.inFront(), std::string("Form14"));
+        QVERIFY(program.state.search.rows.empty());
+    }
+
+    void showsEveryEnteredNumberAsItIs() {
+        Program program;
+        chooseStyle(program, 1);
+        enterSizes(program, "5", "9.25", ".2", "1.2");
+        enterLoads(program, "1200.5", "");
+        QCOMPARE(program.control<QLabel>("Form15", "Label1").text(), QString("MINIMUM BORE   = 5 inches"));
+        QCOMPARE(program.control<QLabel>("Form15", "Label2").text(), QString("MAXIMUM O.D.   = 9.25 inches"));
+        QCOMPARE(program.control<QLabel>("Form15", "Label5").text(), QString("RADIAL = 1200.5 lbs"));
     }
 
     void savesAndPrintsTheList() {

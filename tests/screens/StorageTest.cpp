@@ -1,4 +1,3 @@
-#include <QLineEdit>
 #include <algorithm>
 #include <csignal>
 
@@ -54,18 +53,6 @@ class StorageTest : public QObject {
     Q_OBJECT
 
   private:
-    static void enterNumber(Program& program, const char* number) {
-        program.screens.showAlone("Form3");
-        program.click("Form3", "Command8");
-        auto& field = program.control<QLineEdit>("Form9", "Text1");
-        field.setText(number);
-        QTest::keyClick(&field, Qt::Key_Return);
-    }
-    static void openLife(Program& program) {
-        program.click("Form3", "Command13");
-        program.control<QLineEdit>("Form14", "Text1").setText("500");
-        program.click("Form14", "Command1");
-    }
     static std::vector<std::string> filesOf(const Program& program) {
         std::vector<std::string> names;
         for (const auto& entry : std::filesystem::directory_iterator(program.files.path()))
@@ -77,13 +64,13 @@ class StorageTest : public QObject {
     template <typename Trouble>
     static void refusesTheSheet(const Message& told) {
         Program program;
-        enterNumber(program, "K19013XP0");
+        program.enterNumber("K19013XP0");
         const std::string document = program.files.read("DATA.RTF");
         const std::string records = program.files.read("CONDENSED.DAT");
         const auto files = filesOf(program);
         {
             const Trouble trouble(program.files.path());
-            enterNumber(program, "K20013XP0");
+            program.enterNumber("K20013XP0");
             QCOMPARE(program.lastMessage(), told);
             QCOMPARE(program.inFront(), std::string("Form3"));
             // No sheet of another bearing shows under the new number.
@@ -95,7 +82,7 @@ class StorageTest : public QObject {
         QCOMPARE(filesOf(program), files);
         // Once there is room again the same number goes through.
         program.messages.shown.clear();
-        enterNumber(program, "K20013XP0");
+        program.enterNumber("K20013XP0");
         QVERIFY(program.messages.shown.empty());
         QVERIFY(program.files.read("CONDENSED.DAT").find("K20013XP0") != std::string::npos);
     }
@@ -123,9 +110,9 @@ class StorageTest : public QObject {
         QFETCH(QString, button);
         QFETCH(int, filter);
         Program program;
-        enterNumber(program, "K19013XP0");
+        program.enterNumber("K19013XP0");
         if (form == "Form19")
-            openLife(program);
+            program.openLife("500");
         else
             program.click("Form3", "Command9");
         program.files.write("mine", "old");

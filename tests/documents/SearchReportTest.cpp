@@ -1,0 +1,199 @@
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "documents/SearchReport.h"
+#include "support/RecordingPorts.h"
+
+namespace norlaplan {
+namespace {
+
+using testing::FixedClock;
+using testing::RecordingCanvas;
+
+/// The results of a search with so many rows named ROW1, ROW2 ...; every second one is over its limit.
+ProgramState resultsOf(std::size_t rows, const std::string& caption = "4-POINT CONTACT",
+                       const std::string& letter = "X") {
+    ProgramState state;
+    state.user.userName = "Ann";
+    state.style = {caption, letter};
+    state.criteria = {5.0, 9.0, 0.2, 1.2, 5.0, 9.0, 0.2, 1.2};
+    state.loads.radialLoadDisplay = 1234.0;
+    state.loads.axialLoadDisplay = 50.0;
+    state.loads.momentLoadDisplay = 10.0;
+    state.loads.speed = 100.0;
+    for (std::size_t i = 1; i <= rows; ++i) {
+        state.search.rows.push_back({"ROW" + std::to_string(i), i % 2 == 0 ? "99" : "100", "1234567", "2058",
+                                     "5.0000", "6.0000", "0.5000", "YES "});
+    }
+    state.search.hitCount = static_cast<int>(rows) + 1;
+    return state;
+}
+
+std::string rtfOf(const ProgramState& state) {
+    FixedClock clock;
+    return searchRtf(state, clock);
+}
+
+std::size_t countOf(const std::string& text, const std::string& part) {
+    std::size_t count = 0;
+    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1))
+        ++count;
+    return count;
+}
+
+TEST(SearchRtf, HoldsTheStatedLinesInTheirOrder) {
+    const std::string rtf = rtfOf(resultsOf(2));
+    std::size_t at = 0;
+    for (const char* const line :
+         {"{\\f1\\par\\par}",
+          "\\pard",
+          "\\par\\par\\par",
+          "{\\fs28\\cf1\\b RESULTS OF BEARING SEARCH FOR : ",
+          "\\ul 4-POINT CONTACT",
+          "\\plain",
+          "{\\fs24\\cf1 Minimum Bore = \\tab 5.0000",
+          "\\tab\\tab Radial Load =",
+          "\\tab\\tab 1,234",
+          "{\\par\\fs24\\cf1 Maximum O.D. =\\tab 9.0000",
+          "\\tab\\tab Axial Load =",
+          "{\\par\\fs24\\cf1 Minimum Height =\\tab 0.2000",
+          "\\tab\\tab\\tab Moment Load =",
+          "\\tab 10",
+          "{\\par\\fs24\\cf1 Maximum Height =\\tab 1.2000",
+          "\\tab\\tab\\tab\\fs24\\ Speed = \\tab\\tab 100",
+          " rpm}",
+          "\\par\\par",
+          "{\\fs24\\b\\cf2 BEARING\\tab\\tab\\ L\\sub 10 \\nosupersub  LIFE\\tab\\tab\\",
+          "{\\cf1 ROW1",
+          "\\tab\\tab\\ 1.235E+06",
+          "\\tab\\tab\\tab\\ 2.058E+03",
+          "}",
+          "{\\cf1 ROW2",
+          "\\tab\\tab\\tab\\cf6 Over Speed!}",
+          "{\\footer \\pard\\plain \\qc\\widctlpar\\tqc\\tx4320\\tqr\\tx8640\\adjustright\\fs16\\cgrid",
+          "NORLAPLAN-MM version 1.00  Ann        Saved  3/14/26 9:26 AM",
+          "}{\\par }}}}"}) {
+        const std::size_t found = rtf.find(line, at);
+        ASSERT_NE(found, std::string::npos) << line;
+        at = found;
+    }
+    EXPECT_EQ(countOf(rtf, "Over Speed!"), 1U) << "a limit at the speed is not below it";
+}
+
+TEST(SearchRtf, StartsANewPageAfterEachTwentyNineRows) {
+    const std::string page = "\\par }\\pard \\qr\\widctlpar\\adjustright {\\cgrid0  \\page }";
+    EXPECT_EQ(countOf(rtfOf(resultsOf(29)), page), 0U);
+    EXPECT_EQ(countOf(rtfOf(resultsOf(30)), page), 1U);
+    EXPECT_EQ(countOf(rtfOf(resultsOf(300)), page), 10U);
+    const std::string rtf = rtfOf(resultsOf(30));
+    EXPECT_GT(rtf.find("ROW30"), rtf.find(page));
+    EXPECT_LT(rtf.find("ROW29"), rtf.find(page));
+}
+
+TEST(SearchRtf, CutsTheNameOfASetBeforeItsSuffix) {
+    for (const auto& [caption, suffix] :
+         {std::pair{"BACK-TO-BACK SET WITH SPACERS", "BR0A W/ 0.1000 spacers"},
+          std::pair{"FACE-TO-FACE SET", "FR0A"}}) {
+        ProgramState state = resultsOf(1, caption, "A");
+        state.search.rows[0].name = std::string("K19013") + suffix;
+        const std::string rtf = rtfOf(state);
+        EXPECT_NE(rtf.find("{\\cf1 K19013 \r\n"), std::string::npos) << caption;
+        EXPECT_EQ(rtf.find(suffix), std::string::npos);
+    }
+}
+
+TEST(SearchRtf, ClosesEveryGroupForAnyNumberOfPages) {
+    for (const std::size_t rows : {1U, 30U, 300U}) {
+        const std::string rtf = rtfOf(resultsOf(rows));
+        EXPECT_EQ(countOf(rtf, "{"), countOf(rtf, "}")) << rows;
+    }
+}
+
+RecordingCanvas printed(const ProgramState& state) {
+    RecordingCanvas canvas;
+    FixedClock clock;
+    printSearch(state, clock, canvas);
+    return canvas;
+}
+
+bool footerHolds(const RecordingCanvas& canvas, const std::string& part) {
+    for (const auto& text : canvas.texts) {
+        if (text.box.top < 1.0 && text.text.find(part) != std::string::npos) return true;
+    }
+    return false;
+}
+
+TEST(SearchPrint, HoldsTheStatedTexts) {
+    const RecordingCanvas canvas = printed(resultsOf(2));
+    for (const char* const text : {"RESULTS OF BEARING SEARCH FOR : ",
+                                   "4-POINT CONTACT",
+                                   "Minimum Bore =  ",
+                                   "Radial Load = ",
+                                   "Maximum O.D. =  ",
+                                   "Axial Load =  ",
+                                   "Minimum Height =",
+                                   "Moment Load = ",
+                                   "Maximum Height =",
+                                   "Speed =       ",
+                                   " rpm",
+                                   "5.0000",
+                                   "1,234",
+                                   "BEARING",
+                                   "NUMBER",
+                                   "Basic Bearing",
+                                   "L",
+                                   "10",
+                                   " LIFE ",
+                                   " (revolutions) ",
+                                   " (hours)",
+                                   "Stock Availability",
+                                   "ROW1",
+                                   "1.235E+06",
+                                   "2.058E+03",
+                                   "YES ",
+                                   "Over Speed!"}) {
+        EXPECT_TRUE(canvas.hasText(text)) << text;
+    }
+    for (const char* const text : {"NORLAPLAN-MM version 1.00", "Printed: 3/14/26 9:26 AM", "Page 1 of 1"}) {
+        EXPECT_TRUE(footerHolds(canvas, text)) << text;
+    }
+}
+
+TEST(SearchPrint, NamesTheSortOfASortedListOnly) {
+    ProgramState state = resultsOf(2);
+    EXPECT_FALSE(printed(state).hasText("BEARINGS SORTED IN ASCENDING ORDER BY BORE SIZE"));
+    state.search.sorted = true;
+    EXPECT_TRUE(printed(state).hasText("BEARINGS SORTED IN ASCENDING ORDER BY BORE SIZE"));
+    state.search.sortDirection = "DOWN";
+    const std::pair<int, const char*> columns[] = {{3, "L10 LIFE"}, {6, "O.D. SIZE"}, {8, "AVAILABILITY"}};
+    for (const auto& [column, name] : columns) {
+        state.search.sortColumn = column;
+        EXPECT_TRUE(printed(state).hasText(std::string("BEARINGS SORTED IN DESCENDING ORDER BY ") + name));
+    }
+}
+
+TEST(SearchPrint, PutsEveryRowAboveTheFooterOfItsPage) {
+    const RecordingCanvas canvas = printed(resultsOf(300));
+    EXPECT_EQ(canvas.pages, 8);
+    EXPECT_TRUE(footerHolds(canvas, "Page 8 of 8"));
+    std::size_t rows = 0;
+    for (const auto& text : canvas.texts) {
+        if (text.text.rfind("ROW", 0) != 0) continue;
+        ++rows;
+        EXPECT_GT(text.box.bottom, 0.8) << text.text;
+    }
+    EXPECT_EQ(rows, 300U);
+}
+
+TEST(SearchPrint, TakesTwentySixRowsOnTheFirstPageAndFortyOnEachFurtherOne) {
+    EXPECT_EQ(searchPages(1), 1);
+    EXPECT_EQ(searchPages(26), 1);
+    EXPECT_EQ(searchPages(27), 2);
+    EXPECT_EQ(searchPages(66), 2);
+    EXPECT_EQ(searchPages(67), 3);
+    EXPECT_EQ(searchPages(300), 8);
+}
+
+}  // namespace
+}  // namespace norlaplan
