@@ -1,28 +1,13 @@
-"""norlaplan-cli as a user's shell sees it: results, messages, exit statuses, files.
+"""norlaplan-cli as a user's shell sees it: results, messages, exit statuses, files."""
 
-NORLAPLAN_CLI names the program.
-"""
-
-import json
-import os
+import resource
 import shutil
 import subprocess
 import tempfile
 import unittest
 from pathlib import Path
 
-CLI = os.environ["NORLAPLAN_CLI"]
-PROGRAM_FOLDER = Path(CLI).parent
-WITH_PICTURES = (PROGRAM_FOLDER / "norlaplan-paint.so").exists()
-
-
-def run(*words, **options):
-    return subprocess.run([CLI, *words], capture_output=True, text=True, check=False, timeout=60, **options)
-
-
-def result(*words):
-    done = run("--json", *words)
-    return done.returncode, json.loads(done.stdout)
+from program import PROGRAM_FOLDER, WITH_PICTURES, own_tables, result, run, table
 
 
 class Decode(unittest.TestCase):
@@ -52,7 +37,9 @@ class Decode(unittest.TestCase):
             ("K19013BR0", "Please supply internal fitup", "Missing Fit"),
             ("K19013XP0[", "Invalid character entry", "Fitup character must be a letter"),
             ("K19013XP3", "Precision class 3 not available", "Unsupported Precision Class"),
+            ("KX9013XP0", "character must be numeric", "Error in position 2 of the part number"),
             ("K1X013XP0", "character must be numeric", "Error in position 3 of the part number"),
+            ("K19X13XP0", "character must be numeric", "Error in position 4 of the part number"),
             ("K19113XP0", "Retry Data Entry", "Bore size not found"),
             ("K19013XZ0", "Missing Data", "Please specify which Z separator"),
             ("K19013XQ0", "WRONG SEPARATOR CODE", "SEPARATOR NOT PERMITTED FOR THIS BEARING"),
@@ -65,6 +52,22 @@ class Decode(unittest.TestCase):
                 self.assertEqual(told["error"],
                                  {"kind": "message", "number": None, "title": title, "prompt": prompt})
                 self.assertEqual(run("decode", number).stderr, f"{title}: {prompt}\n")
+
+    def test_tells_of_a_bore_that_the_precision_table_lacks(self):
+        with own_tables() as folder:
+            precision = table(folder, "CLS0.csv")
+            lines = precision.read_text("ascii").splitlines(keepends=True)
+            precision.write_text("".join(line for line in lines if not line.startswith("190,")), "ascii")
+            status, told = result("--program-folder", str(folder), "decode", "K19013XP0")
+        self.assertEqual(status, 1)
+        self.assertEqual((told["error"]["title"], told["error"]["prompt"]),
+                         ("Bore data not found", "Error in precision tables"))
+
+    def test_tells_of_a_dropped_fit_code_also_before_an_error(self):
+        done = run("decode", "K19013AP9K")
+        self.assertEqual(done.returncode, 1)
+        self.assertEqual(done.stderr, "Dropping fitup code: No fitup allowed\n"
+                                      "Precision class 9 not available: Unsupported Precision Class\n")
 
     def test_warns_of_a_dropped_fit_code_and_goes_on(self):
         status, bearing = result("decode", "K19013AR0K")
@@ -127,7 +130,8 @@ class Life(unittest.TestCase):
 
     def test_refuses_as_the_screens_do(self):
         rows = ((("K19013XP0",), "Missing Loads", "At least one load must be entered!"),
-                (("K19013AR0", "--radial", "5"), "Try another Bearing type", "Bearing type A Not allowed"))
+                (("K19013AR0", "--radial", "5"), "Try another Bearing type", "Bearing type A Not allowed"),
+                (("K19013AR0",), "Try another Bearing type", "Bearing type A Not allowed"))
         for words, title, prompt in rows:
             status, told = result("life", *words)
             self.assertEqual((status, told["error"]["title"], told["error"]["prompt"]), (1, title, prompt))
@@ -171,6 +175,37 @@ class Search(unittest.TestCase):
         self.assertEqual(told["error"]["title"], "SEARCH PARAMETERS OUTSIDE OF SIZE RANGE")
 
 
+    def test_reads_a_catalogue_with_quotes_blanks_and_broken_rows_as_the_tidy_one(self):
+        words = ("search", "--style", "4-POINT CONTACT", *self.ENVELOPE)
+        tidy = result(*words)[1]["rows"]
+        with own_tables() as folder:
+            for name in ("8-X.csv", "13-X.csv", "20-X.csv"):
+                path = table(folder, name)
+                head, second, *rows = path.read_text("ascii").splitlines()
+                odd = []
+                for row in rows:
+                    fields = row.split(",")
+                    odd.append(f'  "{fields[0]}" , {",  ".join(fields[1:5])}\n{",".join(fields[5:])}')
+                path.write_text("\r\n".join([head, second, *odd]) + "\r\n", "ascii")
+            self.assertEqual(result("--program-folder", str(folder), *words)[1]["rows"], tidy)
+
+    def test_lists_a_bore_that_the_precision_table_lacks(self):
+        words = ("search", "--style", "4-POINT CONTACT", *self.ENVELOPE)
+        with own_tables() as folder:
+            precision = table(folder, "CLS0.csv")
+            lines = precision.read_text("ascii").splitlines(keepends=True)
+            precision.write_text("".join(line for line in lines if not line.startswith("190,")), "ascii")
+            status, found = result("--program-folder", str(folder), *words)
+        self.assertEqual(status, 0)
+        self.assertEqual([row["name"] for row in found["rows"]], [row["name"] for row in result(*words)[1]["rows"]])
+
+    def test_tells_what_to_enter_instead_of_a_negative_axial_load(self):
+        status, told = result("search", "--style", "4-POINT CONTACT", "--min-bore", "5", "--max-od", "9",
+                              "--min-height", ".2", "--max-height", "1.2", "--axial", "-5")
+        self.assertEqual((status, told["error"]["number"]), (3, 5))
+        self.assertIn("positive", told["error"]["prompt"])
+
+
 class Files(unittest.TestCase):
     def setUp(self):
         self.folder = Path(tempfile.mkdtemp())
@@ -206,6 +241,22 @@ class Files(unittest.TestCase):
         run("datasheet", "K19013XP0", "--output", str(self.folder / "a.rtf"))
         self.assertEqual(sorted(PROGRAM_FOLDER.rglob("*")), before)
 
+    def test_a_full_disk_leaves_what_stood_there(self):
+        def small_files():
+            resource.setrlimit(resource.RLIMIT_FSIZE, (1000, resource.RLIM_INFINITY))
+
+        names = ("a.rtf", "a.pdf", "a.png", "a.bmp") if WITH_PICTURES else ("a.rtf",)
+        for name in names:
+            with self.subTest(name):
+                target = self.folder / name
+                target.write_text("old", "ascii")
+                # Python ignores the signal of the limit, and its child then does.
+                done = run("datasheet", "K19013XP0", "--output", str(target), preexec_fn=small_files,
+                           restore_signals=False)
+                self.assertEqual((done.returncode, done.stderr), (3, "Run-time error '61': Disk full\n"))
+                self.assertEqual(target.read_text("ascii"), "old")
+                self.assertEqual([entry.name for entry in self.folder.iterdir() if entry.name not in names], [])
+
     def test_leaves_what_stood_there_when_the_folder_is_missing(self):
         done = run("datasheet", "K19013XP0", "--output", str(self.folder / "none" / "a.rtf"))
         self.assertEqual(done.returncode, 3)
@@ -216,6 +267,20 @@ class Files(unittest.TestCase):
         self.assertEqual(list(self.folder.iterdir()), [])
 
 
+class Settings(unittest.TestCase):
+    def test_damaged_settings_are_told_and_do_not_stop_a_call(self):
+        with own_tables() as folder:
+            for lines in (0, 3, 8):
+                (folder / "SETTINGS.INI").write_text("a\r\n" * lines, "ascii")
+                done = run("--program-folder", str(folder), "decode", "K19013XP0")
+                self.assertEqual(done.returncode, 0, lines)
+                self.assertIn("SETTINGS.INI", done.stderr)
+            for lines in (9, 5000):
+                (folder / "SETTINGS.INI").write_text("METRIC\r\n" * lines, "ascii")
+                done = run("--program-folder", str(folder), "decode", "K19013XP0")
+                self.assertEqual((done.returncode, done.stderr), (0, ""), lines)
+
+
 class Usage(unittest.TestCase):
     def test_help_and_version(self):
         self.assertEqual(run("--version").stdout, "NORLAPLAN-MM version 1.00\n")
@@ -223,6 +288,12 @@ class Usage(unittest.TestCase):
             done = run(*words, "--help")
             self.assertEqual(done.returncode, 0)
             self.assertIn("--help", done.stdout)
+
+    @unittest.skipUnless(Path("/dev/full").exists(), "no full device here")
+    def test_a_result_that_cannot_be_printed_is_an_error(self):
+        with open("/dev/full", "w", encoding="ascii") as full:
+            done = run("decode", "K19013XP0", capture_output=False, stdout=full, stderr=subprocess.PIPE)
+        self.assertEqual((done.returncode, done.stderr), (3, "Run-time error '61': Disk full\n"))
 
     def test_wrong_words_are_status_2(self):
         for words in ((), ("nonsense",), ("decode",), ("decode", "K19013XP0", "--nonsense"),
