@@ -37,7 +37,7 @@ void writeLives(RtfDocument& document, const ProgramState& state) {
         document.append("\\par");
     }
     document.append("\\par");
-    document.append(tabStops({}));
+    document.append(tabStops({2700, 4300, 6500}));
     document.append("{\\fs24\\b L\\sub 10 \\nosupersub Life in Revolutions = ");
     document.append("\\tab " + plainText(state.life.l10Revolutions) + "}");
     if (speed) {

@@ -29,10 +29,14 @@ std::string sortedBy(const SearchResults& results) {
 void printHead(Canvas& canvas, PageWriter& page, const ProgramState& state) {
     TextLook title = timesLook(14.0, true);
     constexpr const char* kTitle = "RESULTS OF BEARING SEARCH FOR : ";
+    const std::string& caption = state.style.searchStyleCaption;
+    // The longest caption takes a smaller type to stay on the page.
+    while (canvas.textWidth(kTitle + caption, title) > kPageRight - kPageLeft && title.points > 8.0)
+        title.points -= 0.5;
     page.put(kPageLeft, kTitle, title);
+    const double titleEnd = kPageLeft + canvas.textWidth(kTitle, title);
     title.underline = true;
-    page.put(kPageLeft + canvas.textWidth(kTitle, timesLook(14.0, true)), state.style.searchStyleCaption,
-             title);
+    page.put(titleEnd, caption, title);
     page.endLine(title.points);
     page.skip(0.15);
     const TextLook look = timesLook(kSize);

@@ -49,21 +49,21 @@ void writeHead(RtfDocument& document, const ProgramState& state) {
                     state.units.lengthUnit);
     document.append("\\tab\\tab Radial Load =");
     document.append("\\tab\\tab " + shownLoad(loads.radialLoadDisplay) + " " + state.units.loadUnit + "}");
-    document.append(tabStops({2000, 3900, 4000, 5700, 5800}));
+    document.append(tabStops({2150, 3900, 4000, 5700, 5800}));
     document.append("{\\par\\fs24\\cf1 Maximum O.D. =\\tab " + shownSize(sizes.maxOdDisplay) + " " +
                     state.units.lengthUnit);
     document.append("\\tab\\tab Axial Load =");
     document.append("\\tab\\tab " + shownLoad(loads.axialLoadDisplay) + " " + state.units.loadUnit + "}");
-    document.append(tabStops({2000, 3900, 4000, 5700, 5800}));
+    document.append(tabStops({2150, 3900, 4000, 5700, 5800}));
     document.append("{\\par\\fs24\\cf1 Minimum Height =\\tab " + shownSize(sizes.minHeightDisplay) + " " +
                     state.units.lengthUnit);
     document.append("\\tab\\tab\\tab Moment Load =");
     document.append("\\tab " + shownLoad(loads.momentLoadDisplay) + " " + state.units.momentUnit + "}");
-    document.append(tabStops({2000, 3800, 3900, 4000, 5800}));
+    document.append(tabStops({2150, 3800, 3900, 4000, 5800}));
     document.append("{\\par\\fs24\\cf1 Maximum Height =\\tab " + shownSize(sizes.maxHeightDisplay) + " " +
                     state.units.lengthUnit);
     document.append("\\tab\\tab\\tab\\fs24\\ Speed = \\tab\\tab " + plainText(loads.speed) + " rpm}");
-    document.append(tabStops({2000, 3800, 3900, 4000, 5700, 5800}));
+    document.append(tabStops({2150, 3800, 3900, 4000, 5700, 5800}));
     document.append("\\par\\par");
     document.append(listStops());
     document.append(

@@ -111,11 +111,11 @@ void writeLegend(const SheetWriter& sheet, const std::vector<Lubrication>& shown
 
 void writeFitNote(const SheetWriter& sheet) {
     sheet.box({4.6, 1.8, 5.9, 1.5}, "", kPaleFill, {7.0});
-    double y = 1.81;
+    double y = 1.803;
     for (const char* const words : {" Speeds shown are for '0' preload ", " only.  Check actual fit value ",
                                     " for more information. "}) {
         sheet.text({4.6, y, 5.9, y - 0.13}, words, {7.0, "RED"});
-        y -= 0.097;
+        y -= 0.095;
     }
 }
 

@@ -40,7 +40,9 @@ void layOutHitTable(QTreeView& table, const ProgramState& state) {
     table.setColumnHidden(kLineColumn, true);
     table.setColumnHidden(kHoursColumn, !speed);
     table.setColumnHidden(kMarkColumn, !speed);
-    for (int column = kNameColumn; column <= kMarkColumn; ++column) {
+    // The last column takes what is left; a width of its own would push it out of view.
+    const int last = speed ? kMarkColumn : kStockColumn;
+    for (int column = kNameColumn; column < last; ++column) {
         table.resizeColumnToContents(column);
         table.setColumnWidth(column, table.columnWidth(column) + 16);
     }

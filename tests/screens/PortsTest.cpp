@@ -98,6 +98,18 @@ class PortsTest : public QObject {
         QCOMPARE(choice->filterIndex, 2);
     }
 
+    void a_typed_extension_counts_more_than_the_filter() {
+        const TemporaryFolder files;
+        whenOpen<QFileDialog>([](QFileDialog& dialog) {
+            dialog.findChild<QLineEdit*>("fileNameEdit")->setText("mine.BMP");
+            static_cast<QDialog&>(dialog).accept();
+        });
+        const auto choice = QtSaveDialog().askWhereToSave(sheetRequest(files.path()));
+        QVERIFY(choice.has_value());
+        QCOMPARE(choice->path, files.path() / "mine.BMP");
+        QCOMPARE(choice->filterIndex, 2);
+    }
+
     void an_existing_file_is_replaced_only_when_the_user_agrees() {
         const TemporaryFolder files;
         files.write("K19013XP0.rtf", "old");

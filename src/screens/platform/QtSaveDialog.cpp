@@ -1,9 +1,23 @@
 #include <QApplication>
 #include <QFileDialog>
+#include <algorithm>
 
 #include "screens/platform/QtPorts.h"
 
 namespace norlaplan {
+namespace {
+
+/// The filter, counted from 1, whose extension the name has; otherwise the chosen one. Who types "sheet.bmp"
+/// wants a picture, whatever the filter says.
+int filterOf(const QString& name, const SaveRequest& request, int chosen) {
+    for (std::size_t i = 0; i < request.filters.size(); ++i) {
+        const QString extension = QString::fromStdString(request.filters[i].pattern.substr(1));
+        if (name.endsWith(extension, Qt::CaseInsensitive)) return static_cast<int>(i) + 1;
+    }
+    return chosen;
+}
+
+}  // namespace
 
 std::optional<SaveChoice> QtSaveDialog::askWhereToSave(const SaveRequest& request) {
     QStringList filters;
@@ -29,9 +43,9 @@ std::optional<SaveChoice> QtSaveDialog::askWhereToSave(const SaveRequest& reques
     dialog.selectFile(QString::fromStdString(request.name));
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
 
-    const auto index = filters.indexOf(dialog.selectedNameFilter());
-    return SaveChoice{dialog.selectedFiles().value(0).toStdString(),
-                      index < 0 ? 1 : static_cast<int>(index) + 1};
+    const int chosen = std::max(1, static_cast<int>(filters.indexOf(dialog.selectedNameFilter())) + 1);
+    const QString name = dialog.selectedFiles().value(0);
+    return SaveChoice{name.toStdString(), filterOf(name, request, chosen)};
 }
 
 }  // namespace norlaplan
