@@ -1,5 +1,9 @@
+#include <QBuffer>
+#include <QFontInfo>
+#include <QImage>
 #include <QPushButton>
 #include <QTextEdit>
+#include <QTextTable>
 
 #include "screens/Form2.h"
 #include "screens/Program.h"
@@ -10,12 +14,15 @@ using namespace norlaplan::testing;
 namespace {
 
 struct Viewer : Program {
-    Viewer() {
-        files.write("note.rtf", "{\\rtf1\\ansi Plain words}");
+    explicit Viewer(const std::string& content = "{\\rtf1\\ansi Plain words}") {
+        files.write("note.rtf", content);
         screens.show("Form3");
         showText(screens, "\\note.rtf", "A note", "Exit Note");
     }
     QWidget& text() { return control<QWidget>("Form2", "RichTextBox1"); }
+    QTextDocument& document() { return *control<QTextEdit>("Form2", "RichTextBox1").document(); }
+    /// The look of the first character of `words`.
+    QTextCharFormat lookOf(const char* words) { return document().find(words).charFormat(); }
     QWidget& button() { return control<QPushButton>("Form2", "Command1"); }
 };
 
@@ -33,6 +40,86 @@ class ViewerTest : public QObject {
         QCOMPARE(button.text(), QString("Exit Note"));
         QCOMPARE(button.toolTip(), QString("Close File"));
         QVERIFY(viewer.control<QTextEdit>("Form2", "RichTextBox1").toPlainText().contains("Plain words"));
+    }
+
+    void characters_have_their_looks() {
+        Viewer viewer(
+            "{\\rtf1\\ansi{\\fonttbl{\\f0 Times New Roman;}{\\f1 Courier "
+            "New;}}{\\colortbl;\\red255\\green0\\blue0;}"
+            "{\\b bold}{\\i slanted}{\\ul underlined}{\\cf1 red}{\\fs48 large}{\\f1 typed}}");
+        QCOMPARE(viewer.lookOf("bold").fontWeight(), int(QFont::Bold));
+        QVERIFY(viewer.lookOf("slanted").fontItalic());
+        QVERIFY(!viewer.lookOf("bold").fontItalic());
+        QVERIFY(viewer.lookOf("underlined").fontUnderline());
+        QCOMPARE(viewer.lookOf("red").foreground().color(), QColor(Qt::red));
+        QCOMPARE(viewer.lookOf("large").fontPointSize(), 24.0);
+        QVERIFY(QFontInfo(viewer.lookOf("typed").font()).fixedPitch());
+    }
+
+    void paragraphs_have_their_alignment() {
+        Viewer viewer("{\\rtf1\\ansi\\pard left\\par\\pard\\qc middle\\par\\pard\\qr right\\par}");
+        const auto alignment = [&](const char* words) {
+            return viewer.document().find(words).blockFormat().alignment() & Qt::AlignHorizontal_Mask;
+        };
+        QCOMPARE(alignment("middle"), Qt::AlignHCenter);
+        QCOMPARE(alignment("right"), Qt::AlignRight);
+        QVERIFY(alignment("left") == Qt::AlignLeft || alignment("left") == Qt::Alignment());
+    }
+
+    void a_picture_is_shown_in_its_size() {
+        QImage red(8, 4, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        QByteArray png;
+        QBuffer buffer(&png);
+        buffer.open(QIODevice::WriteOnly);
+        red.save(&buffer, "PNG");
+        // 1440 twips are an inch.
+        Viewer viewer("{\\rtf1\\ansi{\\pict\\pngblip\\picw8\\pich4\\picwgoal1440\\pichgoal720 " +
+                      png.toHex().toStdString() + "}}");
+        const QTextImageFormat format =
+            viewer.document().find(QString(QChar::ObjectReplacementCharacter)).charFormat().toImageFormat();
+        QVERIFY(format.isValid());
+        QCOMPARE(format.width(), 2.0 * format.height());
+        const QVariant kept = viewer.document().resource(QTextDocument::ImageResource, QUrl(format.name()));
+        QCOMPARE(kept.value<QImage>().pixelColor(3, 2), QColor(Qt::red));
+    }
+
+    void a_table_has_cells_with_their_fill() {
+        Viewer viewer(
+            "{\\rtf1\\ansi{\\colortbl;\\red0\\green204\\blue255;}"
+            "\\trowd\\clcbpat1\\cellx2000\\cellx4000\\pard\\intbl one\\cell two\\cell\\row\\pard after}");
+        QTextTable* const table = viewer.document().find("one").currentTable();
+        QVERIFY(table != nullptr);
+        QCOMPARE(table->columns(), 2);
+        QCOMPARE(table->cellAt(0, 0).format().background().color(), QColor(0, 204, 255));
+        QCOMPARE(table->cellAt(0, 1).format().background().style(), Qt::NoBrush);
+        QVERIFY(viewer.document().find("after").currentTable() == nullptr);
+    }
+
+    void a_file_that_is_no_rich_text_is_told_in_a_sentence() {
+        Viewer viewer("%PDF-1.4");
+        QCOMPARE(viewer.document().toPlainText(),
+                 QString("This document can't be shown: it is not a rich text file."));
+    }
+
+    void a_missing_file_is_told_and_no_viewer_opens() {
+        Viewer viewer;
+        viewer.click("Form2", "Command1");
+        viewer.screens.runAction("Warranty", [&] { showText(viewer.screens, "\\none.rtf", "None", "Exit"); });
+        QCOMPARE(viewer.lastMessage().title, std::string("Run-time error '53'"));
+        QCOMPARE(viewer.inFront(), std::string("Form3"));
+    }
+
+    void the_paper_is_white_on_a_dark_desktop() {
+        const QPalette before = QApplication::palette();
+        QPalette dark(QColor(45, 45, 48));
+        dark.setColor(QPalette::Base, QColor(30, 30, 30));
+        dark.setColor(QPalette::Text, Qt::white);
+        QApplication::setPalette(dark);
+        Viewer viewer;
+        const QImage picture = viewer.text().grab().toImage();
+        QApplication::setPalette(before);
+        QCOMPARE(picture.pixelColor(picture.width() / 2, picture.height() / 2), QColor(Qt::white));
     }
 
     void every_way_out_hides_it_and_none_ends_the_program_data() {
