@@ -113,7 +113,7 @@ def make(folder):
     folder.mkdir(parents=True, exist_ok=True)
     for name, rows in tables():
         lines = (",".join(map(cell, row)) + "\r\n" for row in rows)
-        (folder / name).write_bytes("".join(lines).encode("cp1252"))
+        (folder / name).write_bytes("".join(lines).encode("ascii"))
 
 
 if __name__ == "__main__":

@@ -85,7 +85,8 @@ def frames(plot, shape):
     runout_frame(plot, inner[0], 5.87, inner[1], inner[2], "B")
     runout_frame(plot, outer[0], 4.68, outer[1], outer[2], "A")
     if shape.style in "AU":
-        plot.path((3.2, 5.143), (3.2, 4.805), (outer[0], 4.805))
+        # Its value stands off the ring, so the frame hangs on an elbow of the outside diameter's line.
+        plot.path((shape.left, BOTTOM - GAP), (shape.left, 4.805), (outer[0], 4.805))
 
 
 def draw_dimensions(plot, shape):
@@ -98,7 +99,8 @@ def draw_dimensions(plot, shape):
     half_dimension(plot, shape.right, 6.36, 5.32)
     extension_down(plot, shape.inner_land, BOTTOM - GAP, 5.634)
     half_dimension(plot, shape.inner_land, 5.634, 4.51)
-    extension_down(plot, shape.left, BOTTOM - GAP, 4.99)
+    if shape.style not in "AU":
+        extension_down(plot, shape.left, BOTTOM - GAP, 4.99)
     half_dimension(plot, shape.left, 5.143, 3.85)
     reference_dimensions(plot, shape)
     plot.path((1.93, 9.965), (2.08, 9.965), (shape.left + 0.03, TOP - 0.03))

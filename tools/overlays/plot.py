@@ -41,6 +41,11 @@ class Plot:
         self.words.append("PU" + self._at(x + radius * math.cos(angle), y + radius * math.sin(angle)))
         self.words.append(f"AA{self._at(x, y)},{sweep:g}")
 
+    def curve(self, x, y, radius, start, sweep, chords):
+        """A small arc as few chords; `arc` leaves their number, ten and more, to the reader."""
+        angles = [math.radians(start + sweep * i / chords) for i in range(chords + 1)]
+        self.path(*((x + radius * math.cos(angle), y + radius * math.sin(angle)) for angle in angles))
+
     def dash_dot(self, start, end, dash=0.16, gap=0.035, dot=0.03):
         """A centre line as strokes of its own."""
         length = math.dist(start, end)

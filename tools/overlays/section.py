@@ -34,46 +34,101 @@ class Shape:
                          "B": ((30,), (-30,)), "F": ((-30,), (30,))}[style]
 
 
-def groove_edge(shape, land):
-    """How far above and below the ball's centre the groove meets a land."""
-    return math.sqrt(max(shape.groove ** 2 - (land - CENTRE) ** 2, 0.0))
+OUTER, INNER = -1, 1  # the ring's side of the ball
+UPPER, LOWER = 1, -1
 
 
-def outer_profile(shape, row):
-    """The inner side of the outer ring from the row's top to its bottom: pieces of land between which the groove lies."""
-    y, low, high, bore = row
-    upper = shape.relief if bore == "up" else shape.outer_land
-    lower = shape.relief if bore == "down" else shape.outer_land
-    return upper, y + groove_edge(shape, upper), lower, y - groove_edge(shape, lower)
+def groove_centre(shape, row, side, half):
+    """The centre of a groove arc. The groove is wider than the ball and touches it on the contact line, so the centre
+    lies beyond the ball's, away from the contact. A four-point ring has an arc for each half."""
+    angles = shape.contacts[shape.rows.index(row)]
+    angle = math.radians(angles[0] if len(angles) == 1 else 30 * side * half)
+    shift = shape.groove - shape.ball
+    return CENTRE - side * shift * math.cos(angle), row[0] - side * shift * math.sin(angle)
+
+
+def groove_edge(shape, row, side, half, land):
+    """The height at which the groove meets a land."""
+    x, y = groove_centre(shape, row, side, half)
+    return y + half * math.sqrt(shape.groove ** 2 - (land - x) ** 2)
+
+
+def lands(shape, row, side):
+    """The ring's lands above and below the groove."""
+    if side == INNER:
+        return shape.inner_land, shape.inner_land
+    bore = row[3]
+    return (shape.relief if bore == "up" else shape.outer_land, shape.relief if bore == "down" else shape.outer_land)
+
+
+def draw_corner(plot, shape, side, x, y, half):
+    """A rounded exterior corner at (x, y)."""
+    r = shape.round
+    start = {(OUTER, UPPER): 90, (OUTER, LOWER): 180, (INNER, UPPER): 0, (INNER, LOWER): 270}[side, half]
+    plot.curve(x - side * r, y - half * r, r, start, 90, 3 if shape.is_set else 5)
+
+
+def draw_ring(plot, shape, row, side):
+    _, low, high, _ = row
+    upper, lower = lands(shape, row, side)
+    upper_end = groove_edge(shape, row, side, UPPER, upper)
+    lower_end = groove_edge(shape, row, side, LOWER, lower)
+    edge = shape.left if side == OUTER else shape.right
+    inside = edge - side * shape.round
+    plot.path((upper, upper_end), (upper, high), (inside, high))
+    draw_corner(plot, shape, side, edge, high, UPPER)
+    plot.path((edge, high - shape.round), (edge, low + shape.round))
+    draw_corner(plot, shape, side, edge, low, LOWER)
+    plot.path((inside, low), (lower, low), (lower, lower_end))
+    draw_groove(plot, shape, row, side, (upper, upper_end), (lower, lower_end))
+
+
+def draw_groove(plot, shape, row, side, upper, lower):
+    """The groove between its ends, counter-clockwise; the two arcs of a four-point ring meet in the ball's plane."""
+    x, y = groove_centre(shape, row, side, UPPER)
+    middle = (x + side * math.sqrt(shape.groove ** 2 - (row[0] - y) ** 2), row[0])
+    if len(shape.contacts[shape.rows.index(row)]) == 1:
+        pieces = [(UPPER, upper, lower)]
+    else:
+        pieces = [(UPPER, upper, middle), (LOWER, middle, lower)]
+    for half, first, last in pieces:
+        if side == INNER:
+            first, last = last, first
+        x, y = groove_centre(shape, row, side, half)
+        start = math.degrees(math.atan2(first[1] - y, first[0] - x)) % 360
+        stop = math.degrees(math.atan2(last[1] - y, last[0] - x)) % 360
+        plot.arc(x, y, shape.groove, start, round((stop - start) % 360, 2))
 
 
 def draw_rings(plot, shape):
     for row in shape.rows:
-        y, low, high, _ = row
-        upper, upper_end, lower, lower_end = outer_profile(shape, row)
+        draw_ring(plot, shape, row, OUTER)
+        draw_ring(plot, shape, row, INNER)
+
+
+def is_steel(shape, side, x, y):
+    """Whether a place lies in the ring of any row."""
+    edge = shape.left if side == OUTER else shape.right
+    if side * (x - edge) > 0:
+        return False
+    for row in shape.rows:
+        ball, low, high, _ = row
+        if not low <= y <= high:
+            continue
         r = shape.round
-        plot.path((upper, upper_end), (upper, high), (shape.left + r, high))
-        plot.arc(shape.left + r, high - r, r, 90, 90)
-        plot.path((shape.left, high - r), (shape.left, low + r))
-        plot.arc(shape.left + r, low + r, r, 180, 90)
-        plot.path((shape.left + r, low), (lower, low), (lower, lower_end))
-        draw_groove(plot, shape, y, (upper, upper_end), (lower, lower_end))
-        edge = groove_edge(shape, shape.inner_land)
-        plot.path((shape.inner_land, y + edge), (shape.inner_land, high), (shape.right - r, high))
-        plot.arc(shape.right - r, high - r, r, 0, 90)
-        plot.path((shape.right, high - r), (shape.right, low + r))
-        plot.arc(shape.right - r, low + r, r, 270, 90)
-        plot.path((shape.right - r, low), (shape.inner_land, low), (shape.inner_land, y - edge))
-        draw_groove(plot, shape, y, (shape.inner_land, y - edge), (shape.inner_land, y + edge))
+        corner_x, corner_y = edge - side * r, high - r if y > high - r else low + r
+        if side * (x - corner_x) > 0 and not low + r <= y <= high - r and math.hypot(x - corner_x, y - corner_y) > r:
+            return False
+        half = UPPER if y >= ball else LOWER
+        land = lands(shape, row, side)[0 if half == UPPER else 1]
+        beyond = half * (y - groove_edge(shape, row, side, half, land)) >= 0
+        centre = groove_centre(shape, row, side, half)
+        return (side * (x - (land if beyond else CENTRE)) >= 0
+                and (beyond or math.hypot(x - centre[0], y - centre[1]) >= shape.groove))
+    return False
 
 
-def draw_groove(plot, shape, y, start, end):
-    """The visible groove between two land ends, around the ball's centre."""
-    first = math.degrees(math.atan2(start[1] - y, start[0] - CENTRE)) % 360
-    last = math.degrees(math.atan2(end[1] - y, end[0] - CENTRE)) % 360
-    sweep = (last - first) % 360
-    radius = math.hypot(start[0] - CENTRE, start[1] - y)
-    plot.arc(CENTRE, y, radius, first, round(sweep, 2))
+SHORTEST = 0.02  # a shorter hatch line is a speck
 
 
 def clip(start, end, blocks):
@@ -86,41 +141,24 @@ def clip(start, end, blocks):
         if blocks(*point):
             run = (run[0], point) if run else (point, point)
         elif run:
-            if run[0] != run[1]:
+            if math.dist(*run) > SHORTEST:
                 yield run
             run = None
-    if run and run[0] != run[1]:
+    if run and math.dist(*run) > SHORTEST:
         yield run
 
 
 def hatch(plot, shape):
     """45 degrees, opposite in the two rings."""
 
-    def outer_steel(x, y):
-        for row in shape.rows:
-            centre, low, high, _ = row
-            upper, upper_end, lower, lower_end = outer_profile(shape, row)
-            if low <= y <= high and x >= shape.left:
-                edge = upper if y >= upper_end else lower if y <= lower_end else CENTRE
-                return x <= edge and math.hypot(x - CENTRE, y - centre) >= shape.groove
-        return False
-
-    def inner_steel(x, y):
-        for centre, low, high, _ in shape.rows:
-            if low <= y <= high and x <= shape.right:
-                edge = groove_edge(shape, shape.inner_land)
-                land = shape.inner_land if abs(y - centre) >= edge else CENTRE
-                return x >= land and math.hypot(x - CENTRE, y - centre) >= shape.groove
-        return False
-
     step = shape.hatch * math.sqrt(2)
     offset = -2.2
     while offset < 2.2:
         y = 7.80 + offset
-        for steel, slope, left, right in ((outer_steel, 1, shape.left, CENTRE), (inner_steel, -1, CENTRE, shape.right)):
+        for side, slope, left, right in ((OUTER, 1, shape.left, CENTRE), (INNER, -1, CENTRE, shape.right)):
             width = right - left
             ends = ((left, y - slope * width / 2), (right, y + slope * width / 2))
-            for start, end in clip(*ends, steel):
+            for start, end in clip(*ends, lambda px, py, ring=side: is_steel(shape, ring, px, py)):
                 plot.path(start, end)
         offset += step
 

@@ -1,5 +1,7 @@
 """The separator details of the data sheet: a stretch of the ball row, seen along the axis, in a field of its own."""
 
+import math
+
 LEFT, RIGHT, MIDDLE = 6.50, 8.00, 5.60
 BALL = 0.16
 
@@ -19,26 +21,42 @@ def centre_line(plot):
 
 
 def ribbon(plot, rivets):
-    centres = balls(plot, 4)
+    """Two strips that close around each ball and meet between them; one kind snaps over, the other is riveted."""
+    centres = balls(plot, 3)
     plot.pen(3)
+    reach = BALL + 0.03
     for x in centres:
-        plot.arc(x, MIDDLE, BALL + 0.03, 15, 150)
-        plot.arc(x, MIDDLE, BALL + 0.03, 195, 150)
+        plot.curve(x, MIDDLE, reach, 10, 160, 10)
+        plot.curve(x, MIDDLE, reach, 190, 160, 10)
+    end = reach * math.cos(math.radians(10))
+    gap = reach * math.sin(math.radians(10))
+    edges = [(LEFT, centres[0] - end)] + [(left + end, right - end) for left, right in zip(centres, centres[1:])]
+    for left, right in edges + [(centres[-1] + end, RIGHT)]:
+        for y in (MIDDLE - gap, MIDDLE + gap):
+            plot.path((left, y), (right, y))
+    if not rivets:
+        return
     for left, right in zip(centres, centres[1:]):
-        for y in (MIDDLE - 0.05, MIDDLE + 0.05):
-            plot.path((left + BALL + 0.02, y), (right - BALL - 0.02, y))
-        if rivets:
-            plot.circle((left + right) / 2, MIDDLE, 0.022)
+        x = (left + right) / 2
+        for side in (-1, 1):
+            plot.path((x - 0.03, MIDDLE + side * gap), (x - 0.02, MIDDLE + side * (gap + 0.03)),
+                      (x + 0.02, MIDDLE + side * (gap + 0.03)), (x + 0.03, MIDDLE + side * gap))
+        plot.path((x - 0.015, MIDDLE - gap), (x - 0.015, MIDDLE + gap))
+        plot.path((x + 0.015, MIDDLE - gap), (x + 0.015, MIDDLE + gap))
 
 
 def crown(plot):
-    centres = balls(plot, 4)
+    """One piece: a rail on one side with prongs that grip the balls."""
+    centres = balls(plot, 3)
     plot.pen(3)
-    plot.path((LEFT, MIDDLE - 0.30), (RIGHT, MIDDLE - 0.30))
+    reach, rail = BALL + 0.02, MIDDLE - 0.27
+    end, tip = reach * math.cos(math.radians(25)), MIDDLE + reach * math.sin(math.radians(25))
     for x in centres:
-        plot.arc(x, MIDDLE, BALL + 0.02, 150, 240)
-    for left, right in zip(centres, centres[1:]):
-        plot.path((left + BALL, MIDDLE + 0.09), ((left + right) / 2, MIDDLE + 0.02), (right - BALL, MIDDLE + 0.09))
+        plot.curve(x, MIDDLE, reach, 155, 230, 14)
+    edges = [LEFT] + [x + side * end for x in centres for side in (-1, 1)] + [RIGHT]
+    for left, right in zip(edges[::2], edges[1::2]):
+        plot.path((left, tip), (right, tip))
+    plot.path((LEFT, tip), (LEFT, rail), (RIGHT, rail), (RIGHT, tip))
 
 
 def toroid(plot):
@@ -58,12 +76,14 @@ def slug(plot):
 
 
 def spacer(plot):
-    centres = balls(plot, 4)
+    """Smaller balls between the ones that carry."""
+    small = 0.11
+    pitch = 2 * (BALL + small)
+    for i in (-1, 0, 1):
+        plot.circle((LEFT + RIGHT) / 2 + i * pitch, MIDDLE, BALL)
     plot.pen(3)
-    for left, right in zip(centres, centres[1:]):
-        plot.circle((left + right) / 2, MIDDLE, 0.028)
-    for x in (LEFT + 0.0, RIGHT):
-        plot.circle(x, MIDDLE, 0.028)
+    for i in (-0.5, 0.5):
+        plot.circle((LEFT + RIGHT) / 2 + i * pitch, MIDDLE, small)
 
 
 def spring(plot):
@@ -80,7 +100,7 @@ def wire(plot):
     centres = balls(plot, 5, 0.135)
     plot.pen(3)
     for i, x in enumerate(centres):
-        plot.arc(x, MIDDLE, 0.155, 0 if i % 2 else 180, 180)
+        plot.curve(x, MIDDLE, 0.155, 0 if i % 2 else 180, 180, 10)
     plot.path((LEFT - 0.03, MIDDLE - 0.2), (RIGHT + 0.03, MIDDLE - 0.2))
 
 
