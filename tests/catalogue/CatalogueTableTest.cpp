@@ -1,16 +1,18 @@
 #include <array>
 #include <chrono>
-#include <functional>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include "catalogue/CatalogueTable.h"
 #include "numbers/RuntimeError.h"
+#include "support/FaultOf.h"
 #include "support/RecordingPorts.h"
 
 namespace norlaplan {
 namespace {
+
+using testing::faultOf;
 
 class ATable : public ::testing::Test {
   protected:
@@ -18,15 +20,6 @@ class ATable : public ::testing::Test {
         files.write("Data Tables/13-x.CSV", content);
         return OpenTable(folder, "13-X.csv");
     }
-    static int faultOf(const std::function<void()>& action) {
-        try {
-            action();
-        } catch (const RuntimeError& error) {
-            return error.number();
-        }
-        return 0;
-    }
-
     testing::TemporaryFolder files;
     ProgramFolder folder{files.path()};
 };

@@ -7,6 +7,7 @@
 #include "loaddist/radlodestar2.h"
 #include "numbers/RuntimeError.h"
 #include "state/Patience.h"
+#include "support/FaultOf.h"
 #include "support/PlainSolver.h"
 #include "support/RecordingPorts.h"
 #include "support/SolverCases.h"
@@ -15,22 +16,12 @@ namespace norlaplan {
 namespace {
 
 using testing::argumentsOf;
+using testing::faultOf;
 using testing::RecordingMessages;
 using testing::solverCases;
 
 plain::Bearing radialBearing() {
     return {'C', 3.0F, 0.375F, 20, 0.19875F, 0.0F, 0.0012F, 0.0F, 500.0F, 0.0F, 0.0F};
-}
-
-/// The fault in which a solve ends; 0 for none.
-template <typename Solve>
-int faultOf(Solve solve) {
-    try {
-        solve();
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
 }
 
 TEST(RadialRow, WithoutLoadLeavesEveryBallUnloadedAfterNoIterationAndHasNoSafety) {
@@ -296,7 +287,8 @@ TEST(BallAngles, AreShownForABallThatJustTouchesAndNotForOneOutOfTouch) {
     EXPECT_EQ(solver.BallAngleText(2, 1), "  N/A ");
 }
 
-TEST(Assembly, GivesABallThatJustTouchesNoDeflectionAndNoLoad) {
+/// A four-point bearing of one ball whose grooves' centres are one inch apart.
+SolverState oneBall() {
     SolverState solver;
     solver.BallCount = 1;
     ResetAnalysis(solver);
@@ -306,6 +298,11 @@ TEST(Assembly, GivesABallThatJustTouchesNoDeflectionAndNoLoad) {
     solver.PitchDiameter = 8.0;
     solver.CentreRadius = 4.0;
     solver.Kn = 1e6;
+    return solver;
+}
+
+TEST(Assembly, GivesABallThatJustTouchesNoDeflectionAndNoLoad) {
+    SolverState solver = oneBall();
     const std::vector<double> cosines = ballCosines(1, plain::kTwoPi);
     const Assembly assembly = AssembleRows(solver, cosines);
     ASSERT_EQ(solver.BallDist(1, 1), 1.0);
@@ -320,14 +317,7 @@ TEST(Assembly, GivesABallThatJustTouchesNoDeflectionAndNoLoad) {
 }
 
 TEST(Assembly, OfALoadedContactLineAlongTheAxisIsADivisionByZero) {
-    SolverState solver;
-    solver.BallCount = 1;
-    ResetAnalysis(solver);
-    solver.StyleIsX = true;
-    solver.CentreDistance = 1.0;
-    solver.ContactAngle = 0.5;
-    solver.PitchDiameter = 8.0;
-    solver.Kn = 1e6;
+    SolverState solver = oneBall();
     solver.RadialDisp = -std::cos(solver.ContactAngle);
     solver.AxialDisp = 1.0;
     EXPECT_EQ(faultOf([&] { AssembleRows(solver, ballCosines(1, plain::kTwoPi)); }), fault::kDivisionByZero);

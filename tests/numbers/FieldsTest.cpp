@@ -6,18 +6,12 @@
 #include "numbers/Arithmetic.h"
 #include "numbers/Int16.h"
 #include "numbers/Single.h"
+#include "support/FaultOf.h"
 
 namespace norlaplan {
 namespace {
 
-int faultOf(auto&& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
+using testing::faultOf;
 
 TEST(SingleField, RoundsToThirtyTwoBitsWhereItIsStored) {
     const Single tenth = 0.1;

@@ -3,6 +3,7 @@
 #include "numbers/RuntimeError.h"
 #include "paint/PictureFile.h"
 #include "screens/Program.h"
+#include "support/FaultOf.h"
 
 using namespace norlaplan;
 using namespace norlaplan::testing;
@@ -12,15 +13,6 @@ namespace {
 void drawCross(Canvas& canvas) {
     canvas.line({0.0, 5.5}, {8.5, 5.5}, {colours::kRed, 19050.0, 0});
     canvas.line({4.25, 0.0}, {4.25, 11.0}, {colours::kBlue, 19050.0, 0});
-}
-
-int faultOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
 }
 
 }  // namespace

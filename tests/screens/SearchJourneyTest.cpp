@@ -173,7 +173,7 @@ class SearchJourneyTest : public QObject {
             QTest::keyClick(bar, Qt::Key_Escape);
         });
         escape.start(50);
-        chooseStyle(program, 4);
+        chooseStyle(program, 2);
         enterSizes(program, "0", "4", "0", "1.2");
         enterLoads(program, "500", "");
         QVERIFY(barWasThere);

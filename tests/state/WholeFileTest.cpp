@@ -10,21 +10,14 @@
 
 #include "numbers/RuntimeError.h"
 #include "state/WholeFile.h"
+#include "support/FaultOf.h"
 #include "support/RecordingPorts.h"
 
 namespace norlaplan {
 namespace {
 
+using testing::faultOf;
 using testing::TemporaryFolder;
-
-int faultOf(auto&& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
 
 TEST(WriteWholeFile, ReplacesTheFileAndLeavesNothingElseBehind) {
     TemporaryFolder place;
