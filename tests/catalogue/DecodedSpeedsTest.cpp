@@ -37,26 +37,20 @@ TEST_F(DecodedSpeeds, OfAFourPointBearingComeFromBothBlocksOfTheLineWhoseSecondK
     EXPECT_EQ(b.limitSpeedMist, 14838.0);
 }
 
-TEST_F(DecodedSpeeds, OfAFourPointBearingAreTakenFromTheFullNumbersOfItsTable) {
-    catalogue.write("13-X.csv", "0.6,,,,,,,,,\n13,,,,,,,,,\nfine,1,127,153,1,1,1,1,1,60\n");
-    catalogue.write("CLS0.csv", ",,,,,,,,,\n127,0,0,0,0,0,0,.001,.002,0\n");
+TEST_F(DecodedSpeeds, RoundTheNumbersOfTheirTableToThirtyTwoBitsButThoseOfFourPointBearings) {
     std::string block = "P" + std::string(23, ',');
     for (int i = 0; i < 24; ++i)
         block += ",10.4";
-    catalogue.write("SPEEDX.CSV", block + "," + block + "\n");
-    // 10.4 x 1000 / 5 inches is 2080; the 32-bit number 10.3999996 would give 2079.
-    EXPECT_EQ(decode("K12713XP0").otherSpeedGrease, "2080");
-    EXPECT_EQ(run.bearing().thrustSpeedMist, "2080");
-}
-
-TEST_F(DecodedSpeeds, OfTheOtherStylesRoundTheNumbersOfTheirTablesToThirtyTwoBits) {
-    catalogue.write("13-C.csv", "0.6,,,,,,,,,\n13,,,,,,,,,\nfine,1,127,153,1,1,1,1,1,60\n");
+    for (const char* const family : {"C", "X"}) {
+        catalogue.write(std::string("13-") + family + ".csv",
+                        "0.6,,,,,,,,,\n13,,,,,,,,,\nfive inches,1,127,153,1,1,1,1,1,60\n");
+    }
     catalogue.write("CLS0.csv", ",,,,,,,,,\n127,0,0,0,0,0,0,.001,.002,0\n");
-    std::string block = "P" + std::string(23, ',');
-    for (int i = 0; i < 24; ++i)
-        block += ",10.4";
     catalogue.write("SPEEDC.CSV", block + "\n");
+    catalogue.write("SPEEDX.CSV", block + "," + block + "\n");
     EXPECT_EQ(decode("K12713CP0").tableSpeedGrease, "2079") << "10.39999962 x 1000 / 5 is 2079.99992";
+    EXPECT_EQ(decode("K12713XP0").otherSpeedGrease, "2080") << "10.4 x 1000 / 5";
+    EXPECT_EQ(run.bearing().thrustSpeedMist, "2080");
 }
 
 TEST_F(DecodedSpeeds, OfTheFinerRunoutsComeFromTheSecondHalf) {

@@ -40,9 +40,7 @@ class DataSheetTest : public QObject {
         QCOMPARE(sheet.inFront(), std::string("Form17"));
         QCOMPARE(sheet.screens.form("Form17").windowTitle(), QString("Drawing Display"));
         const auto is = [&](const char* name, const char* caption, const char* tip) {
-            const auto& button = sheet.control<QAbstractButton>("Form17", name);
-            QCOMPARE(button.text(), QString(caption));
-            QCOMPARE(button.toolTip(), QString(tip));
+            sheet.compareButton("Form17", name, caption, tip);
         };
         is("Command1", "&Main Menu", "Return to Main Menu");
         is("Command2", "Redraw", "");

@@ -141,9 +141,7 @@ class PartNumberTest : public QObject {
     void its_texts_are_the_stated_ones() {
         Entry entry;
         const auto is = [&](const char* name, const char* caption, const char* tip) {
-            const auto& button = entry.control<QAbstractButton>("Form9", name);
-            QCOMPARE(button.text(), QString(caption));
-            QCOMPARE(button.toolTip(), QString(tip));
+            entry.compareButton("Form9", name, caption, tip);
         };
         is("Command1", "View Data Sheet", "");
         is("Command2", "Explain Part        Numbers", "Show character by character explanation");

@@ -35,6 +35,12 @@ struct Program {
     void click(const std::string& form, const char* name) {
         QTest::mouseClick(&control<QAbstractButton>(form, name), Qt::LeftButton);
     }
+    /// Fails the test unless the button has this caption and tip.
+    void compareButton(const std::string& form, const char* name, const char* caption, const char* tip) {
+        const auto& button = control<QAbstractButton>(form, name);
+        QCOMPARE(button.text(), QString(caption));
+        QCOMPARE(button.toolTip(), QString(tip));
+    }
     void type(const std::string& form, const char* field, const char* text) {
         QLineEdit& edit = control<QLineEdit>(form, field);
         edit.clear();
