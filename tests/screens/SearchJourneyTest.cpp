@@ -105,6 +105,71 @@ class SearchJourneyTest : public QObject {
         QVERIFY(program.state.search.rows.empty());
     }
 
+    void holdsThreeHundredRowsAndTellsOfOneMoreAsARunTimeError() {
+        Program program;
+        const std::filesystem::path tables = program.files.path() / "Data Tables";
+        std::filesystem::remove(tables);
+        std::filesystem::copy(std::filesystem::path(NORLAPLAN_PROGRAM_FOLDER) / "Data Tables", tables);
+        const auto writeRows = [&](int count) {
+            std::string table = ",,,,,,,,,\r\n13,,,,,,,,,\r\n";
+            for (int i = 0; i < count; ++i)
+                table += "K10013XP0,1,100,126,0,0,0,.5,1,40\r\n";
+            program.files.write("Data Tables/13-X.csv", table);
+        };
+        writeRows(300);
+        chooseStyle(program, 1);
+        enterSizes(program, "3.9", "5", ".5", "1.2");
+        enterLoads(program, "500", "");
+        QCOMPARE(program.inFront(), std::string("Form15"));
+        QCOMPARE(list(program).count(), 300);
+        program.click("Form15", "Command2");
+        writeRows(301);
+        program.click("Form14", "Command1");
+        QCOMPARE(program.lastMessage().title, std::string("Run-time error '9'"));
+        QVERIFY(program.lastMessage().prompt.starts_with("Subscript out of range"));
+        QCOMPARE(program.messages.shown.size(), std::size_t{1});
+        QCOMPARE(program.inFront(), std::string("Form14"));
+        QVERIFY(program.state.search.rows.empty());
+        QCOMPARE(program.control<QLineEdit>("Form14", "Text1").text(), QString("500"));
+        QCOMPARE(program.state.entries.minBore, std::string("3.9"));
+        writeRows(1);
+        program.click("Form14", "Command1");
+        QCOMPARE(program.inFront(), std::string("Form15"));
+        QCOMPARE(list(program).count(), 1);
+        QCOMPARE(program.control<QGroupBox>("Form15", "Frame5").title(), QString("K10013XP0"));
+    }
+
+    void sortsByEveryColumnBothWays() {
+        Program program;
+        search(program, 1, "100");
+        const struct {
+            const char* option;
+            std::string SearchHit::*column;
+        } columns[] = {{"Option1", &SearchHit::boreText},
+                       {"Option2", &SearchHit::odText},
+                       {"Option3", &SearchHit::l10Revolutions},
+                       {"Option4", &SearchHit::stock}};
+        for (const auto& [option, column] : columns) {
+            for (const char* const direction : {"Option5", "Option6"}) {
+                program.click("Form15", "Command5");
+                program.control<QRadioButton>("Form13", option).setChecked(true);
+                program.control<QRadioButton>("Form13", direction).setChecked(true);
+                program.click("Form13", "Command1");
+                const auto value = [column = column](const SearchHit& hit) {
+                    const std::string& text = hit.*column;
+                    if (text == "YES ") return 0.0;
+                    if (text == "CALL ") return 1.0;
+                    return text == "NO " ? 2.0 : QString::fromStdString(text).toDouble();
+                };
+                const auto& rows = program.state.search.rows;
+                for (std::size_t i = 1; i < rows.size(); ++i) {
+                    const double step = value(rows[i]) - value(rows[i - 1]);
+                    QVERIFY(direction == std::string("Option5") ? step >= 0.0 : step <= 0.0);
+                }
+            }
+        }
+    }
+
     void sortsTheListAndDropsItsMarks() {
         Program program;
         search(program, 1, "3000");
