@@ -1,5 +1,6 @@
 #include <QLabel>
 #include <QLineEdit>
+#include <cmath>
 
 #include "screens/Program.h"
 
@@ -33,6 +34,28 @@ class KnownBearingJourneyTest : public QObject {
         QVERIFY(label(program, "Label10").startsWith("STATIC SAFETY FACTOR = "));
         QVERIFY(label(program, "Label11").startsWith("The speed of 400 RPM is below"));
         QVERIFY(program.control<QLabel>("Form19", "Label11").isVisible());
+    }
+
+    void showsTheSameBearingUnderTheSameLoadInBothUnits() {
+        Program us;
+        us.useUnits("US");
+        us.enterNumber("K19013XP0");
+        us.openLife("224.8089", "44.96178", "88.50744", "400");
+        Program metric;
+        metric.useUnits("METRIC");
+        metric.enterNumber("K19013XP0");
+        // 1 N is 0.2248089 lb, 1 N-m is 8.850744 in-lb.
+        metric.openLife("1000", "200", "10", "400");
+        QCOMPARE(metric.inFront(), std::string("Form19"));
+        QCOMPARE(label(metric, "Label1"), QString("BORE       = 190.000 mm"));
+        QCOMPARE(label(metric, "Label2"), QString("O. D.      = 216.000 mm"));
+        QCOMPARE(label(metric, "Label3"), QString("HEIGHT     = 13.000 mm"));
+        QCOMPARE(label(metric, "Label4"), QString("RADIAL = 1,000 N"));
+        QCOMPARE(label(metric, "Label6"), QString("MOMENT = 10 N-m"));
+        QVERIFY(label(metric, "Label13").endsWith(" N-m "));
+        const double ratio = metric.state.life.l10Revolutions / us.state.life.l10Revolutions;
+        QVERIFY(std::abs(ratio - 1.0) < 1e-6);
+        QCOMPARE(label(metric, "Label10"), label(us, "Label10"));
     }
 
     void hidesSpeedHoursAndVerdictWithoutASpeed() {

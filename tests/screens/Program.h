@@ -41,6 +41,10 @@ struct Program {
         QCOMPARE(button.text(), QString(caption));
         QCOMPARE(button.toolTip(), QString(tip));
     }
+    void useUnits(const std::string& system) {
+        state.unitSystem = system;
+        ApplyUnitSystem(system, state.units);
+    }
     void type(const std::string& form, const char* field, const char* text) {
         QLineEdit& edit = control<QLineEdit>(form, field);
         edit.clear();

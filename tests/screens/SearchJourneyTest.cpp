@@ -5,6 +5,7 @@
 #include <QProgressDialog>
 #include <QRadioButton>
 #include <QTimer>
+#include <cmath>
 
 #include "screens/Program.h"
 #include "state/StyleTable.h"
@@ -55,6 +56,30 @@ class SearchJourneyTest : public QObject {
             QVERIFY(list(program).currentText().contains(" hrs.    STOCK - "));
             QVERIFY(program.control<QLabel>("Form15", "Label8").isVisible());
             QVERIFY(program.control<QGroupBox>("Form15", "Frame5").isVisible());
+        }
+    }
+
+    void findsTheSameBearingsInBothUnits() {
+        for (std::size_t row = 0; row < kStyles.size(); ++row) {
+            Program us;
+            us.useUnits("US");
+            search(us, row, "100");
+            Program metric;
+            metric.useUnits("METRIC");
+            chooseStyle(metric, row);
+            enterSizes(metric, "127", "228.6", "5.08", "30.48");
+            enterLoads(metric, "2224", "100");
+            QCOMPARE(metric.inFront(), std::string("Form15"));
+            QCOMPARE(list(metric).count(), list(us).count());
+            for (std::size_t i = 0; i < us.state.search.rows.size(); ++i) {
+                const SearchHit& inch = us.state.search.rows[i];
+                const SearchHit& millimetre = metric.state.search.rows[i];
+                QCOMPARE(millimetre.name.substr(0, 10), inch.name.substr(0, 10));
+                const double bore = QString::fromStdString(millimetre.boreText).toDouble();
+                QVERIFY(std::abs(bore / 25.4 - QString::fromStdString(inch.boreText).toDouble()) < 1e-4);
+            }
+            QVERIFY(metric.control<QLabel>("Form15", "Label11").text().endsWith(" mm"));
+            QCOMPARE(metric.control<QLabel>("Form15", "Label5").text(), QString("RADIAL = 2224 N"));
         }
     }
 
