@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QProgressDialog>
 #include <QRadioButton>
+#include <QScreen>
 #include <QTimer>
 #include <cmath>
 
@@ -81,6 +82,28 @@ class SearchJourneyTest : public QObject {
             QVERIFY(metric.control<QLabel>("Form15", "Label11").text().endsWith(" mm"));
             QCOMPARE(metric.control<QLabel>("Form15", "Label5").text(), QString("RADIAL = 2224 N"));
         }
+    }
+
+    void setsTheLongLinesOfSetsWithSpacersInTheSmallerFont() {
+        Program program;
+        search(program, 0);
+        QCOMPARE(list(program).font().families().value(0), QString("MS Sans Serif"));
+        const double usual = list(program).font().pointSizeF();
+        search(program, 3);
+        QCOMPARE(list(program).font().families().value(0), QString("Small Fonts"));
+        QCOMPARE(list(program).font().pointSizeF(), usual * 7.0 / 8.0);
+        search(program, 1);
+        QCOMPARE(list(program).font().pointSizeF(), usual);
+    }
+
+    void standsLowButWholeOnTheScreen() {
+        Program program;
+        search(program, 1);
+        const Form& form = program.screens.form("Form15");
+        const QRect room = form.screen()->availableGeometry();
+        QVERIFY(form.frameGeometry().bottom() <= room.bottom());
+        // 9405 twips are 627 pixels; this screen holds the form only higher up.
+        QVERIFY(form.y() == 627 || room.bottom() - form.frameGeometry().bottom() < 3);
     }
 
     void showsNoHoursWithoutASpeed() {
