@@ -114,8 +114,10 @@ void Form14::closed() {
 }
 
 void Form14::goToMainMenu() {
+    // Refused, the screen stays and still serves the path that it was opened for.
+    if (!enter()) return;
     state().knownBearingLoadInput = false;
-    if (enter()) screens().showAlone("Form3");
+    screens().showAlone("Form3");
 }
 
 }  // namespace norlaplan

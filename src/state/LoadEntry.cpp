@@ -10,6 +10,7 @@ namespace norlaplan {
 namespace {
 
 constexpr const char* kLoadTitle = "Please correct load";
+constexpr const char* kRadialStyle = "RADIAL CONTACT";
 constexpr const char* kSpeedTitle = "Please correct Speed";
 
 /// A field of the load screen: its text, the load it stands for, and the message when it can't be read.
@@ -34,7 +35,11 @@ bool fitsSingle(double value) {
 }  // namespace
 
 bool isRadialContact(const ProgramState& state) {
-    return state.bearing.styleLetter == "C" || state.style.searchStyleCaption == "RADIAL CONTACT";
+    const std::string& letter = state.bearing.styleLetter;
+    const std::string& caption = state.style.searchStyleCaption;
+    // Each path leaves its style behind; the other one must not take it for its own.
+    const bool known = state.knownBearingLoadInput ? !letter.empty() : caption.empty();
+    return known ? letter == "C" : caption == kRadialStyle;
 }
 
 bool takesSpeed(const ProgramState& state) {
@@ -69,15 +74,18 @@ std::optional<Message> enterLoads(ProgramState& state) {
         }
     }
     state.loads.speed = std::fabs(state.loads.speed);
+    // What is shown and what is calculated with never differ, and a refused entry is none.
+    convertLoads(state);
+    state.loadsEntered = false;
     if (wrong) return wrong;
     const LoadCase& loads = state.loads;
-    if (state.style.searchStyleCaption == "RADIAL CONTACT" && loads.radialLoadDisplay == 0.0) {
+    const bool radialSearch = !state.knownBearingLoadInput && state.style.searchStyleCaption == kRadialStyle;
+    if (radialSearch && loads.radialLoadDisplay == 0.0) {
         return Message{"Missing Load", "You must enter a Radial Load"};
     }
     if (loads.radialLoadDisplay == 0.0 && loads.axialLoadDisplay == 0.0 && loads.momentLoadDisplay == 0.0) {
         return Message{"Missing Loads", "At least one load must be entered!"};
     }
-    convertLoads(state);
     state.loadsEntered = true;
     return std::nullopt;
 }

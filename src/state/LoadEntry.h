@@ -7,7 +7,8 @@
 
 namespace norlaplan {
 
-/// Whether the current path is about a radial contact bearing, which carries neither axial load nor moment.
+/// Whether the path in hand is about a radial contact bearing, which carries neither axial load nor moment:
+/// the bearing's style on the known path, the chosen style in a search.
 bool isRadialContact(const ProgramState& state);
 
 /// Prepares the load screen's values for the bearing or style in hand: no speed for a bearing without
@@ -18,8 +19,9 @@ void prepareLoadEntry(ProgramState& state);
 bool takesSpeed(const ProgramState& state);
 
 /// Reads the load texts into the load case: empty ones become "0", the speed is taken as its absolute value,
-/// and a text that is no number leaves its load as it was. Gives the message for the user, or nothing when
-/// the loads are complete: they then also stand in pounds and pound-inches and count as entered.
+/// and a text that is no number leaves its load as it was. The loads then stand in pounds and pound-inches as
+/// well. Gives the message for the user, or nothing when the loads are complete: only then they count as
+/// entered.
 std::optional<Message> enterLoads(ProgramState& state);
 
 /// Pounds and pound-inches of the loads as displayed.

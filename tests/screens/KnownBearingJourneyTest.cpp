@@ -140,6 +140,32 @@ class KnownBearingJourneyTest : public QObject {
         QVERIFY(label(program, "Label8").startsWith("L10 LIFE = "));
     }
 
+    void theMainMenuButtonKeepsTheLoadsOrStaysWhenOneIsWrong() {
+        Program program;
+        program.enterNumber("K19013XP0");
+        program.click("Form3", "Command13");
+        program.control<QLineEdit>("Form14", "Text1").setText("abc");
+        program.click("Form14", "Command3");
+        QCOMPARE(program.lastMessage().prompt, std::string("Radial Load input error"));
+        QCOMPARE(program.inFront(), std::string("Form14"));
+        program.type("Form14", "Text1", "500");
+        program.click("Form14", "Command3");
+        QCOMPARE(program.inFront(), std::string("Form3"));
+        QVERIFY(!program.state.knownBearingLoadInput);
+        program.click("Form3", "Command14");
+        QCOMPARE(program.inFront(), std::string("Form19"));
+        QCOMPARE(label(program, "Label4"), QString("RADIAL = 500 pounds"));
+    }
+
+    void aKnownBearingTakesEveryLoadAfterASearchForRadialOnes() {
+        Program program;
+        program.state.style = {"RADIAL CONTACT", "C"};
+        program.enterNumber("K19013XP0");
+        program.openLife("", "100", "", "");
+        QCOMPARE(program.inFront(), std::string("Form19"));
+        QCOMPARE(label(program, "Label5"), QString("AXIAL  = 100 pounds"));
+    }
+
     void aLoadScreenThatWasClosedServesTheSearchAgain() {
         Program program;
         program.enterNumber("K19013XP0");

@@ -81,6 +81,32 @@ TEST(PrepareLoadEntry, TakesAxialLoadAndMomentFromARadialBearing) {
     EXPECT_EQ(state.loads.momentLoadDisplay, 0.0);
 }
 
+TEST(RadialContact, IsToldByTheStyleOfThePathInHand) {
+    ProgramState state = usState();
+    state.bearing.styleLetter = "X";
+    state.style.searchStyleCaption = "RADIAL CONTACT";
+    EXPECT_TRUE(isRadialContact(state)) << "a search, whatever bearing was in hand before";
+    state.knownBearingLoadInput = true;
+    EXPECT_FALSE(isRadialContact(state)) << "a known bearing, whatever was searched before";
+    state.bearing.styleLetter = "C";
+    EXPECT_TRUE(isRadialContact(state));
+    state.knownBearingLoadInput = false;
+    state.style.searchStyleCaption = "4-POINT CONTACT";
+    EXPECT_FALSE(isRadialContact(state));
+}
+
+TEST(EnterLoads, RefusedCountAsNoneAndShowWhatIsCalculatedWith) {
+    ProgramState state = usState();
+    state.entries.radial = "100";
+    ASSERT_FALSE(enterLoads(state).has_value());
+    state.entries.radial = "200";
+    state.entries.axial = "abc";
+    ASSERT_TRUE(enterLoads(state).has_value());
+    EXPECT_FALSE(state.loadsEntered);
+    EXPECT_EQ(state.loads.radialLoadDisplay, 200.0);
+    EXPECT_EQ(state.loads.radialLoad, 200.0);
+}
+
 TEST(PrepareLoadEntry, TakesTheSpeedFromABearingWithoutSeparator) {
     ProgramState state = usState();
     state.bearing.partNumber = "K19013XF0";
