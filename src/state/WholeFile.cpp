@@ -75,14 +75,15 @@ mode_t rightsFor(const fs::path& path) {
 }  // namespace
 
 std::string readWholeFile(const fs::path& path) {
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    // A pipe in a file's place must not be waited for.
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (file.number() < 0) {
         const bool missing = errno == ENOENT || errno == ENOTDIR;
         raise(missing ? fault::kFileNotFound : faultOf(errno));
     }
     struct stat status {};
     if (::fstat(file.number(), &status) != 0) raise(fault::kDeviceIo);
-    if (S_ISDIR(status.st_mode)) raise(fault::kPathAccess);
+    if (!S_ISREG(status.st_mode)) raise(fault::kPathAccess);
     std::string content;
     content.reserve(static_cast<std::size_t>(status.st_size));
     char block[65536];

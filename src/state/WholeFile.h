@@ -7,7 +7,7 @@
 namespace norlaplan {
 
 /// The whole of a file by its path. Error 53 when it or its folder is missing, 70 when it can't be read, 75
-/// when it is a folder.
+/// when it is a folder or a device.
 std::string readWholeFile(const std::filesystem::path& path);
 
 /// The new content of a file, written beside it and waiting. Errors of the constructor: 61 for a full disk,

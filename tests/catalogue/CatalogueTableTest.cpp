@@ -1,8 +1,10 @@
 #include <array>
 #include <chrono>
+#include <filesystem>
 #include <string>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "catalogue/CatalogueTable.h"
 #include "numbers/RuntimeError.h"
@@ -23,6 +25,12 @@ class ATable : public ::testing::Test {
     testing::TemporaryFolder files;
     ProgramFolder folder{files.path()};
 };
+
+TEST_F(ATable, ThatIsAPipeIsNotWaitedFor) {
+    std::filesystem::create_directory(files.path() / "Data Tables");
+    ASSERT_EQ(::mkfifo((files.path() / "Data Tables" / "13-X.csv").c_str(), 0600), 0);
+    EXPECT_EQ(faultOf([&] { OpenTable(folder, "13-X.csv"); }), fault::kPathAccess);
+}
 
 TEST_F(ATable, GivesTypedFieldsOneAfterTheOtherAcrossLineEnds) {
     CatalogueTable table = open("K19,1,190.1\n-7.5,+3\n");

@@ -58,6 +58,12 @@ TEST(WriteWholeFile, FullDiskIsSixtyOneAndWhatStoodThereStillStands) {
         << "no temporary file stays";
 }
 
+TEST(ReadWholeFile, DoesNotWaitForAPipeInTheFilesPlace) {
+    TemporaryFolder place;
+    ASSERT_EQ(::mkfifo((place.path() / "SETTINGS.INI").c_str(), 0600), 0);
+    EXPECT_EQ(faultOf([&] { readWholeFile(place.path() / "SETTINGS.INI"); }), fault::kPathAccess);
+}
+
 TEST(StagedFile, StandsBesideTheTargetUntilItIsCommitted) {
     TemporaryFolder place;
     place.write("DATA.RTF", "old");
