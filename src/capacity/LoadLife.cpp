@@ -91,7 +91,7 @@ bool computeLoadLife(ProgramState& state, MessagePort& messages) {
     pickClearance(state.bearing);
     state.solver.SolveAborted = false;
     const std::optional<SolveResult> result =
-        solveWithAdvice(state.bearing.styleLetter == "C", [&] { return solve(state, messages); });
+        solveWithAdvice(state.bearing.styleLetter == "C", state.loads, [&] { return solve(state, messages); });
     if (!result) return false;
     if (state.solver.RowCount == 2) writeBallAngles(state.solver);
     life.staticSafetyFactor = result->safetyFactor;

@@ -13,6 +13,8 @@ constexpr double kPoisson = 0.25;
 
 void ResetAnalysis(SolverState& state) {
     const int balls = state.BallCount;
+    // A damaged table can count less than nothing.
+    if (balls < 0) raise(fault::kSubscript);
     for (BallTable<double>* const table :
          {&state.BallX, &state.BallY, &state.BallDist, &state.BallSinAngle, &state.BallCosAngle,
           &state.BallDeflection, &state.BallLoad, &state.BallRadialForce, &state.BallAxialForce}) {

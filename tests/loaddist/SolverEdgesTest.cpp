@@ -326,6 +326,25 @@ TEST(Assembly, OfALoadedContactLineAlongTheAxisIsADivisionByZero) {
     EXPECT_EQ(faultOf([&] { AssembleRows(solver, ballCosines(1, plain::kTwoPi)); }), 0);
 }
 
+TEST(Solver, EndsInAFaultForABearingWithoutBallsOrWithFewer) {
+    for (const char style : {'C', 'X', 'B', 'F'}) {
+        for (const int balls : {0, -1, -2, -32768}) {
+            plain::Bearing bearing = solverCases(style).front();
+            bearing.balls = balls;
+            const SolveArguments arguments = argumentsOf(bearing);
+            ProgramState state;
+            RecordingMessages messages;
+            const int fault = faultOf([&] {
+                if (style == 'C')
+                    SolveRadialRow(state, arguments, messages);
+                else
+                    SolveCoupledRows(state, arguments, messages);
+            });
+            EXPECT_EQ(fault, balls == 0 ? fault::kDivisionByZero : fault::kSubscript) << style << balls;
+        }
+    }
+}
+
 TEST(ResetAnalysis, ClearsTheBallTablesAndKeepsTheSemiAxes) {
     SolverState solver;
     solver.BallCount = 3;

@@ -355,6 +355,15 @@ TEST(Search, TellsWhatToEnterInsteadOfALoadOfTheWrongSign) {
     }
 }
 
+TEST(Search, FaultsForARowThatCountsFewerBallsThanNone) {
+    for (const char* const count : {"0", "-1", "-2"}) {
+        Catalogue catalogue;
+        catalogue.section(std::string("K10013XP0,1,100,126,0,0,0,.5,1,") + count + "\r\n");
+        EXPECT_NE(faultOf(catalogue), 0) << count;
+        EXPECT_TRUE(catalogue.state.search.rows.empty());
+    }
+}
+
 TEST(Search, StopsInALongPrecisionTable) {
     Catalogue catalogue;
     catalogue.section(rowOf("K30013XP0", 300));
