@@ -90,8 +90,8 @@ bool computeLoadLife(ProgramState& state, MessagePort& messages) {
     LifeResult& life = state.life;
     pickClearance(state.bearing);
     state.solver.SolveAborted = false;
-    const std::optional<SolveResult> result =
-        solveWithAdvice(state.bearing.styleLetter == "C", state.loads, [&] { return solve(state, messages); });
+    const std::optional<SolveResult> result = solveWithAdvice(state.bearing.styleLetter == "C", state.loads,
+                                                              [&] { return solve(state, messages); });
     if (!result) return false;
     if (state.solver.RowCount == 2) writeBallAngles(state.solver);
     life.staticSafetyFactor = result->safetyFactor;

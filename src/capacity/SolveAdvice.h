@@ -7,8 +7,8 @@
 
 namespace norlaplan {
 
-/// Runs a solve of these loads. The formulas have no root for a negative radial load on a radial bearing, or a
-/// negative axial one on any other: the error 5 in which that ends then also says what to enter instead.
+/// Runs a solve of these loads. The formulas have no root for a negative radial load on a radial bearing, or
+/// a negative axial one on any other: the error 5 in which that ends then also says what to enter instead.
 template <typename Solve>
 auto solveWithAdvice(bool radialContact, const LoadCase& loads, Solve&& solve) {
     const bool wrongSign = radialContact ? loads.radialLoad < 0.0 : loads.axialLoad < 0.0;

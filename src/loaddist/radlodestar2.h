@@ -41,8 +41,8 @@ SolveResult SolveRadialRow(ProgramState& state, const SolveArguments& arguments,
 std::optional<SolveResult> SolveCoupledRows(ProgramState& state, const SolveArguments& arguments,
                                             MessagePort& messages);
 
-/// Makes room for the ball tables and clears them; the tables of the semi-axes keep what they hold. Error 9 for
-/// a negative number of balls.
+/// Makes room for the ball tables and clears them; the tables of the semi-axes keep what they hold. Error 9
+/// for a negative number of balls.
 void ResetAnalysis(SolverState& state);
 
 }  // namespace norlaplan

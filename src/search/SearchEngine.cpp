@@ -204,10 +204,11 @@ class Search {
         state_.solver.SolveAborted = false;
         state_.life.l10Revolutions = 0.0;
         try {
-            const auto result = solveWithAdvice(letter_ == "C", entered_, [&]() -> std::optional<SolveResult> {
-                if (letter_ == "C") return SolveRadialRow(state_, arguments, messages_);
-                return SolveCoupledRows(state_, arguments, messages_);
-            });
+            const auto result =
+                solveWithAdvice(letter_ == "C", entered_, [&]() -> std::optional<SolveResult> {
+                    if (letter_ == "C") return SolveRadialRow(state_, arguments, messages_);
+                    return SolveCoupledRows(state_, arguments, messages_);
+                });
             if (result) state_.life.l10Revolutions = result->lifeRevolutions;
         } catch (const NotConverging&) {
             state_.solver.SolveAborted = true;
