@@ -15,9 +15,10 @@ SearchProgress::SearchProgress(QWidget& form)
     dialog_.setObjectName("SearchProgress");
     dialog_.setWindowTitle("Norlaplan MM");
     dialog_.setWindowModality(Qt::WindowModal);
-    // Left to itself the bar would also come up beside a question that the search asks.
-    dialog_.setMinimumDuration(std::numeric_limits<int>::max());
     dialog_.setAutoClose(false);
+    // Left to its own timer the bar would also come up over a question that the search asks.
+    dialog_.setMinimumDuration(std::numeric_limits<int>::max());
+    dialog_.reset();
     sinceStart_.start();
     sinceLook_.start();
 }

@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "screens/Program.h"
+#include "screens/SearchProgress.h"
 #include "state/StyleTable.h"
 
 namespace norlaplan::testing {
@@ -293,6 +294,20 @@ class SearchJourneyTest : public QObject {
         QCOMPARE(program.messages.asked.size(), std::size_t{1});
         QCOMPARE(program.inFront(), std::string("Form14"));
         QVERIFY(program.state.search.rows.empty());
+    }
+
+    void theBarComesUpForALongSearchAndNeverByItself() {
+        QWidget form;
+        form.show();
+        SearchProgress progress(form);
+        auto* const bar = form.findChild<QProgressDialog*>("SearchProgress");
+        for (const QTimer* const timer : bar->findChildren<QTimer*>())
+            QVERIFY2(!timer->isActive(), "it would come up over a question");
+        QVERIFY(progress.goOn(0.1));
+        QVERIFY(!bar->isVisible());
+        QTest::qSleep(550);
+        QVERIFY(progress.goOn(0.2));
+        QVERIFY(bar->isVisible());
     }
 
     void showsEveryEnteredNumberAsItIs() {
