@@ -4,6 +4,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "numbers/RuntimeError.h"
 #include "numbers/Text.h"
@@ -29,7 +30,10 @@ CatalogueTable::CatalogueTable(const ProgramFolder& folder, std::string_view nam
         raise(errno == ENOENT || errno == ENOTDIR ? fault::kFileNotFound : fault::kPermissionDenied);
     }
     file_.reset(::fdopen(descriptor, "rb"));
-    if (!file_) raise(fault::kDeviceIo);
+    if (!file_) {
+        ::close(descriptor);
+        raise(fault::kDeviceIo);
+    }
     struct stat status {};
     if (::fstat(::fileno(file_.get()), &status) != 0 || !S_ISREG(status.st_mode)) raise(fault::kPathAccess);
     size_ = static_cast<double>(status.st_size);

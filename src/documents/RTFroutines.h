@@ -43,7 +43,8 @@ class RtfDocument {
     void RtfPlainText(const SheetText& text);
     /// The maker's picture once more, as a shape of its own number.
     void RtfLogoPicture();
-    /// A curve on its grid, with titles and the part number above. Error 5 for a step of 0 or less.
+    /// A curve on its grid, with titles and the part number above. Error 5 for a step of 0 or less, or one
+    /// that makes more lines than a page holds.
     void RtfGraph(const RtfGraphPage& graph);
 
     int shapeCounter() const { return shapeCounter_; }

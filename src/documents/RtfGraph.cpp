@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 
 #include "documents/RTFroutines.h"
@@ -19,6 +20,12 @@ const char* yPicture(double e) {
     if (e == -2.0) return "0.000";
     if (e == -3.0) return "0.0000";
     return e == -4.0 ? "0.00000" : "0.0000";
+}
+
+/// Whether a scale can be divided so, in lines that a page can hold.
+bool isStepOf(double step, double most) {
+    constexpr double kMostLines = 1000.0;
+    return step > 0.0 && most < step * kMostLines;
 }
 
 /// The plot on the page.
@@ -52,8 +59,9 @@ void writeTitles(RtfDocument& document, const RtfGraphPage& graph, const Plot& p
 }
 
 void writeXGrid(RtfDocument& document, const RtfGraphPage& graph, const Plot& plot) {
+    const double slack = std::min(kSlack, 0.01 * graph.xStep);
     for (double v = 0.0; v <= graph.xMost + kSlack; v += graph.xStep) {
-        const bool end = v == 0.0 || std::fabs(v - graph.xMost) <= kSlack;
+        const bool end = v == 0.0 || std::fabs(v - graph.xMost) <= slack;
         const double x = plot.left + v * plot.sx;
         // At the ends the frame stands, so the line is a tick.
         document.RTFLINE({x, plot.bottom - 0.05}, {x, end ? plot.bottom : plot.top}, kGridGrey, kThin);
@@ -105,7 +113,8 @@ void writeFrame(RtfDocument& document, const Plot& plot) {
 }  // namespace
 
 void RtfDocument::RtfGraph(const RtfGraphPage& graph) {
-    if (!(graph.xStep > 0.0) || !(graph.yStep > 0.0)) raise(fault::kInvalidCall);
+    if (!isStepOf(graph.xStep, graph.xMost) || !isStepOf(graph.yStep, graph.yMost))
+        raise(fault::kInvalidCall);
     const Plot plot(graph);
     writeTitles(*this, graph, plot);
     writeXGrid(*this, graph, plot);

@@ -5,7 +5,6 @@
 
 #include "loaddist/ContactBlock.h"
 #include "numbers/Arithmetic.h"
-#include "numbers/ExactPowers.h"
 #include "numbers/FormatNumber.h"
 #include "numbers/PiValue.h"
 
@@ -145,19 +144,24 @@ Assembly AssembleRows(SolverState& state, const std::vector<double>& cosines) {
 }
 
 void writeBallTables(SolverState& state, const std::vector<double>& cosines) {
+    const RowGeometry rows = rowGeometry(state);
+    const auto balls = static_cast<std::size_t>(state.BallCount);
     for (int row = 1; row <= 2; ++row) {
         const ContactLines lines = linesOf(state, row);
-        for (int i = 1; i <= state.BallCount; ++i) {
-            const double sine = divide(lines.y[i], lines.length[i]);
-            const double cosine = divide(lines.x[i], lines.length[i]);
-            const double e = lines.length[i] - state.CentreDistance;
-            const double Q = e > 0.0 ? powerThreeHalves(e) * state.Kn : 0.0;
-            state.BallSinAngle(row, i) = sine;
-            state.BallCosAngle(row, i) = cosine;
-            state.BallDeflection(row, i) = e > 0.0 ? e : 0.0;
-            state.BallLoad(row, i) = Q;
-            state.BallRadialForce(row, i) = (cosines[static_cast<std::size_t>(i)] * Q) * cosine;
-            state.BallAxialForce(row, i) = Q * sine;
+        const RowConstants constants = rowConstants(state, rows, row);
+        for (std::size_t begin = 1; begin <= balls; begin += ContactBlock::kBalls) {
+            const std::size_t end = std::min(balls, begin + ContactBlock::kBalls - 1);
+            const ContactBlock block(lines, cosines.data(), begin, end, constants);
+            for (std::size_t ball = begin; ball <= end; ++ball) {
+                const std::size_t slot = block.slot(ball - begin);
+                state.BallSinAngle.row(row)[ball] = divide(lines.y[ball], lines.length[ball]);
+                state.BallCosAngle.row(row)[ball] = divide(lines.x[ball], lines.length[ball]);
+                state.BallDeflection.row(row)[ball] =
+                    std::max(lines.length[ball] - state.CentreDistance, 0.0);
+                state.BallLoad.row(row)[ball] = block.Q[slot];
+                state.BallRadialForce.row(row)[ball] = block.radialForce[slot];
+                state.BallAxialForce.row(row)[ball] = block.axialForce[slot];
+            }
         }
     }
 }

@@ -24,7 +24,7 @@ void ContactBlock::collect(const ContactLines& lines, const double* cosines, std
         const double x = lines.x[ball];
         const double y = lines.y[ball];
         const double d = lines.length[ball];
-        const double e = d - A0;
+        const double e = checked(d - A0);
         const bool touches = !(e < 0.0);
         // The moment's arm divides by y, the angle's text by x.
         if (y == 0.0 || d == 0.0 || (touches && x == 0.0)) raise(fault::kDivisionByZero);

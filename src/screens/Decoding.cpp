@@ -1,18 +1,17 @@
 #include "screens/Decoding.h"
 
-#include "catalogue/Subroutines.h"
 #include "screens/BusyPointer.h"
 #include "screens/Form9.h"
 
 namespace norlaplan {
 
-bool decodeCurrentBearing(Screens& screens) {
+DecodeEnd decodeCurrentBearing(Screens& screens) {
     const Services& services = screens.services();
     DecodeServices decode{services.folder, services.messages, services.clock, services.sheets};
     const BusyPointer busy;
     const DecodeEnd end = DecodePartNumber(services.state, services.state.bearing.partNumber, decode).end;
     if (end == DecodeEnd::BackToEntry) screens.formAs<Form9>("Form9").startAgain();
-    return end == DecodeEnd::Decoded;
+    return end;
 }
 
 }  // namespace norlaplan

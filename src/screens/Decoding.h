@@ -1,11 +1,12 @@
 #pragma once
 
+#include "catalogue/Subroutines.h"
 #include "screens/Screens.h"
 
 namespace norlaplan {
 
 /// Decodes the current part number and goes where its outcome leads: on a refusal to the part number screen,
-/// emptied, with its messages shown. True when the bearing is decoded, with its data sheet stored.
-bool decodeCurrentBearing(Screens& screens);
+/// emptied. The messages have been shown.
+DecodeEnd decodeCurrentBearing(Screens& screens);
 
 }  // namespace norlaplan

@@ -243,13 +243,15 @@ void Form15::choose(int index) {
     chosenGroup_->show();
 }
 
-bool Form15::decodeChosen() {
-    if (state().bearing.partNumber.empty()) return true;
+DecodeEnd Form15::decodeChosen() {
+    // A decode that has failed took the number away; the row still stands as chosen.
+    chooseHit(state(), list_->currentIndex() + 1);
     return decodeCurrentBearing(screens());
 }
 
 void Form15::goToMainMenu() {
-    if (decodeChosen()) screens().showAlone("Form3");
+    const bool chosen = list_->currentIndex() >= 0;
+    if (!chosen || decodeChosen() != DecodeEnd::BackToEntry) screens().showAlone("Form3");
 }
 
 void Form15::goToPrevious() {
@@ -264,7 +266,7 @@ void Form15::sort() {
 
 void Form15::showDataSheet() {
     // The sheet on show is that of the last decode, so the chosen bearing is decoded first.
-    if (state().bearing.partNumber.empty() || !decodeChosen()) return;
+    if (list_->currentIndex() < 0 || decodeChosen() != DecodeEnd::Decoded) return;
     screens().hide(*this);
     screens().show("Form17");
 }

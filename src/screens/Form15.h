@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalogue/Subroutines.h"
 #include "screens/Form.h"
 
 class QComboBox;
@@ -35,7 +36,7 @@ class Form15 : public Form {
     void fillList(bool fresh);
     void choose(int index);
     void keepLow();
-    bool decodeChosen();
+    DecodeEnd decodeChosen();
 
     void goToMainMenu();
     void goToPrevious();

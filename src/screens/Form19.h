@@ -37,8 +37,8 @@ class Form19 : public Form {
     void showStyle();
     void showResults();
     void clearResults();
-    /// The solve was given up or unstable: the load screen comes back with its corrected loads.
     void calculate();
+    /// The solve was given up or unstable: the load screen comes back with its corrected loads.
     void leaveUnsolved();
 
     void goToPrevious();

@@ -210,7 +210,8 @@ class Search {
                     return SolveCoupledRows(state_, arguments, messages_);
                 });
             if (result) state_.life.l10Revolutions = result->lifeRevolutions;
-        } catch (const NotConverging&) {
+        } catch (const NotConverging& error) {
+            messages_.show({NotConverging::title(), error.what()});
             state_.solver.SolveAborted = true;
         }
         state_.loads = entered_;

@@ -199,6 +199,16 @@ class Search(unittest.TestCase):
         self.assertEqual(status, 0)
         self.assertEqual([row["name"] for row in found["rows"]], [row["name"] for row in result(*words)[1]["rows"]])
 
+    def test_warns_of_rows_that_were_given_up(self):
+        sizes = ("--min-bore", "0", "--max-od", "4", "--min-height", "0", "--max-height", "1.2")
+        for words in (("FACE-TO-FACE SET", *sizes, "--radial", "500"),
+                      ("RADIAL CONTACT", *self.ENVELOPE[:8], "--radial", "1e12")):
+            status, found = result("search", "--style", *words)
+            self.assertEqual(status, 0, words)
+            self.assertIn("0", [row["l10Revolutions"] for row in found["rows"]])
+            self.assertEqual([warning["title"] for warning in found["warnings"]],
+                             ["The calculation does not converge"])
+
     def test_tells_what_to_enter_instead_of_a_negative_axial_load(self):
         status, told = result("search", "--style", "4-POINT CONTACT", "--min-bore", "5", "--max-od", "9",
                               "--min-height", ".2", "--max-height", "1.2", "--axial", "-5")

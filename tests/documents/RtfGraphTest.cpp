@@ -104,8 +104,8 @@ TEST(RtfGraph, LabelsYByThePowerOfTenOfItsScale) {
     }
 }
 
-TEST(RtfGraph, NeedsStepsAboveZero) {
-    for (const double step : {0.0, -1.0}) {
+TEST(RtfGraph, NeedsStepsThatAPageCanHold) {
+    for (const double step : {0.0, -1.0, 1e-300}) {
         RtfGraphPage graph = sample();
         graph.xStep = step;
         EXPECT_THROW(documentOf(graph), RuntimeError);

@@ -320,6 +320,22 @@ class SearchJourneyTest : public QObject {
         QCOMPARE(program.control<QLabel>("Form15", "Label5").text(), QString("RADIAL = 1200.5 lbs"));
     }
 
+    void aChosenBearingWhoseSheetCannotBeWrittenIsToldEachTime() {
+        Program program;
+        std::filesystem::create_directory(program.files.path() / "CONDENSED.DAT");
+        search(program, 1);
+        for (std::size_t times = 1; times <= 2; ++times) {
+            program.click("Form15", "Command4");
+            QCOMPARE(program.messages.shown.size(), times);
+            QCOMPARE(program.lastMessage().title, std::string("Please contact Varden with 75"));
+            QCOMPARE(program.inFront(), std::string("Form15"));
+        }
+        program.click("Form15", "Command1");
+        QCOMPARE(program.messages.shown.size(), std::size_t{3});
+        QCOMPARE(program.inFront(), std::string("Form3"));
+        QVERIFY(program.state.bearing.partNumber.empty());
+    }
+
     void savesAndPrintsTheList() {
         Program program;
         search(program, 1, "100");

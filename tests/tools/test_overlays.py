@@ -104,7 +104,7 @@ class Overlays(unittest.TestCase):
 
     def test_serve_every_separator_of_the_catalogue(self):
         for table, suffixes in (("ASEPARATOR.CSV", ("A", "U")), ("XSEPARATOR.CSV", ("XC",))):
-            for row in (ROOT / "data" / "Data Tables" / table).read_text("cp1252").splitlines():
+            for row in (ROOT / "data" / "Data Tables" / table).read_text("ascii").splitlines():
                 name = row.rsplit(",", 1)[-1]
                 for suffix in suffixes:
                     self.assertTrue((OVERLAYS / f"{name}{suffix}.sep").exists(), name + suffix)

@@ -33,7 +33,7 @@ class LocalClock : public ClockPort {
 };
 
 /// Keeps the data sheet as DATA.RTF and CONDENSED.DAT in the program folder. Neither is replaced before both
-/// are written, so that the two always tell of the same bearing. Errors as `writeWholeFile`.
+/// are written, so that a full disk leaves the two of the bearing before. Errors as `writeWholeFile`.
 class FolderSheets : public SheetStorePort {
   public:
     explicit FolderSheets(const ProgramFolder& folder) : folder_(folder) {}
