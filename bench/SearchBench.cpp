@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include "search/SearchEngine.h"
+#include "support/Folders.h"
 #include "support/LongCatalogue.h"
 #include "support/PlainSearch.h"
 #include "support/RecordingPorts.h"
@@ -12,7 +13,7 @@ namespace norlaplan {
 namespace {
 
 void searchOfTheProgram(benchmark::State& bench, const testing::SearchCase& style) {
-    const ProgramFolder folder(NORLAPLAN_PROGRAM_FOLDER);
+    const ProgramFolder folder(testing::programFolder());
     testing::RecordingMessages messages;
     testing::NeverStops watch;
     ProgramState state = testing::searchState(style);
@@ -22,7 +23,7 @@ void searchOfTheProgram(benchmark::State& bench, const testing::SearchCase& styl
 }
 
 void searchPlainly(benchmark::State& bench, const testing::SearchCase& style) {
-    const std::string tables = std::string(NORLAPLAN_PROGRAM_FOLDER) + "/Data Tables";
+    const std::string tables = (testing::programFolder() / "Data Tables").string();
     for (auto _ : bench) {
         benchmark::DoNotOptimize(
             plain::search(tables, style.caption, testing::kWideEnvelope, testing::searchLoads(style)));

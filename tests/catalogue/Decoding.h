@@ -4,6 +4,7 @@
 #include <string>
 
 #include "catalogue/Subroutines.h"
+#include "support/Folders.h"
 #include "support/RecordingPorts.h"
 
 namespace norlaplan::testing {
@@ -28,7 +29,7 @@ struct Decoding {
 
 /// The program folder as it is shipped.
 inline std::filesystem::path shippedFolder() {
-    return std::filesystem::path(NORLAPLAN_SOURCE_FOLDER) / "data";
+    return sourceFolder() / "data";
 }
 
 }  // namespace norlaplan::testing

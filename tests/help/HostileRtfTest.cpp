@@ -7,6 +7,7 @@
 #include "help/RtfReader.h"
 #include "help/RtfTexts.h"
 #include "state/WholeFile.h"
+#include "support/Folders.h"
 
 namespace norlaplan {
 namespace {
@@ -79,16 +80,14 @@ TEST(HostileRtf, SurvivesGroupsThatNestWithoutEnd) {
 }
 
 TEST(HostileRtf, SurvivesEveryCutOfARealDocument) {
-    const std::string whole =
-        readWholeFile(std::filesystem::path(NORLAPLAN_PROGRAM_FOLDER) / "help/Break Down.rtf");
+    const std::string whole = readWholeFile(programFolder() / "help/Break Down.rtf");
     for (std::size_t length = 0; length < whole.size(); length += 3) {
         EXPECT_NO_THROW(readRtf(std::string_view(whole).substr(0, length))) << length;
     }
 }
 
 TEST(HostileRtf, SurvivesAnyByteInPlaceOfAnother) {
-    const std::string whole =
-        readWholeFile(std::filesystem::path(NORLAPLAN_PROGRAM_FOLDER) / "help/Distributor.rtf");
+    const std::string whole = readWholeFile(programFolder() / "help/Distributor.rtf");
     unsigned random = 12345;
     for (int round = 0; round < 2000; ++round) {
         std::string damaged = whole;

@@ -4,6 +4,7 @@
 
 #include "numbers/RuntimeError.h"
 #include "paint/PictureModule.h"
+#include "support/Folders.h"
 #include "support/RecordingPorts.h"
 
 using namespace norlaplan;
@@ -15,7 +16,7 @@ class PictureModuleTest : public QObject {
 
   private:
     static SavePictureEntry entry() {
-        const std::string file = std::string(NORLAPLAN_PROGRAM_FOLDER) + "/" + kPictureModule;
+        const std::string file = (programFolder() / kPictureModule).string();
         void* const module = dlopen(file.c_str(), RTLD_NOW);
         return module == nullptr ? nullptr : reinterpret_cast<SavePictureEntry>(dlsym(module, kPictureEntry));
     }

@@ -10,6 +10,7 @@
 #include "screens/Form1.h"
 #include "screens/Screens.h"
 #include "screens/platform/QtPorts.h"
+#include "support/Folders.h"
 #include "support/RecordingPorts.h"
 
 namespace norlaplan::testing {
@@ -18,7 +19,7 @@ namespace norlaplan::testing {
 struct Program {
     Program() {
         namespace fs = std::filesystem;
-        for (const auto& entry : fs::directory_iterator(NORLAPLAN_PROGRAM_FOLDER)) {
+        for (const auto& entry : fs::directory_iterator(programFolder())) {
             if (entry.is_directory())
                 fs::create_directory_symlink(entry.path(), files.path() / entry.path().filename());
         }

@@ -11,6 +11,7 @@
 #include "screens/Program.h"
 #include "screens/SearchProgress.h"
 #include "state/StyleTable.h"
+#include "support/Folders.h"
 
 namespace norlaplan::testing {
 namespace {
@@ -158,7 +159,7 @@ class SearchJourneyTest : public QObject {
         Program program;
         const std::filesystem::path tables = program.files.path() / "Data Tables";
         std::filesystem::remove(tables);
-        std::filesystem::copy(std::filesystem::path(NORLAPLAN_PROGRAM_FOLDER) / "Data Tables", tables);
+        std::filesystem::copy(programFolder() / "Data Tables", tables);
         const auto writeRows = [&](int count) {
             std::string table = ",,,,,,,,,\r\n13,,,,,,,,,\r\n";
             for (int i = 0; i < count; ++i)

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "search/SearchEngine.h"
+#include "support/Folders.h"
 #include "support/PlainSearch.h"
 #include "support/RecordingPorts.h"
 #include "support/SearchCases.h"
@@ -17,9 +18,8 @@ TEST_P(PlainSearch, FindsTheSameRows) {
     ProgramState state = testing::searchState(style);
     testing::RecordingMessages messages;
     testing::NeverStops watch;
-    ASSERT_EQ(RunBearingSearch(state, ProgramFolder(NORLAPLAN_PROGRAM_FOLDER), messages, watch),
-              SearchEnd::Found);
-    const auto expected = plain::search(std::string(NORLAPLAN_PROGRAM_FOLDER) + "/Data Tables", style.caption,
+    ASSERT_EQ(RunBearingSearch(state, ProgramFolder(programFolder()), messages, watch), SearchEnd::Found);
+    const auto expected = plain::search((programFolder() / "Data Tables").string(), style.caption,
                                         testing::kWideEnvelope, testing::searchLoads(style));
     ASSERT_EQ(state.search.rows.size(), expected.size());
     for (std::size_t i = 0; i < expected.size(); ++i) {

@@ -12,6 +12,7 @@
 #include "search/HitLine.h"
 #include "search/SearchEngine.h"
 #include "state/LoadEntry.h"
+#include "support/Folders.h"
 #include "support/RecordingPorts.h"
 
 namespace norlaplan {
@@ -296,7 +297,7 @@ TEST(Search, TakesABoreThatThePrecisionTableLacksWithThePreviousRowsClearance) {
 /// Radial loads under which a row of the sample catalogue never settles.
 struct Unsettled : Catalogue {
     Unsettled() {
-        folder = NORLAPLAN_PROGRAM_FOLDER;
+        folder = programFolder();
         style("FACE-TO-FACE SET", "A");
         state.criteria = {0.0, 4.0, 0.0, 1.2, 0.0, 4.0, 0.0, 1.2};
     }
