@@ -18,8 +18,9 @@ TEST_P(PlainSearch, FindsTheSameRows) {
     ProgramState state = testing::searchState(style);
     testing::RecordingMessages messages;
     testing::NeverStops watch;
-    ASSERT_EQ(RunBearingSearch(state, ProgramFolder(programFolder()), messages, watch), SearchEnd::Found);
-    const auto expected = plain::search((programFolder() / "Data Tables").string(), style.caption,
+    ASSERT_EQ(RunBearingSearch(state, ProgramFolder(testing::programFolder()), messages, watch),
+              SearchEnd::Found);
+    const auto expected = plain::search((testing::programFolder() / "Data Tables").string(), style.caption,
                                         testing::kWideEnvelope, testing::searchLoads(style));
     ASSERT_EQ(state.search.rows.size(), expected.size());
     for (std::size_t i = 0; i < expected.size(); ++i) {

@@ -297,7 +297,7 @@ TEST(Search, TakesABoreThatThePrecisionTableLacksWithThePreviousRowsClearance) {
 /// Radial loads under which a row of the sample catalogue never settles.
 struct Unsettled : Catalogue {
     Unsettled() {
-        folder = programFolder();
+        folder = testing::programFolder();
         style("FACE-TO-FACE SET", "A");
         state.criteria = {0.0, 4.0, 0.0, 1.2, 0.0, 4.0, 0.0, 1.2};
     }
