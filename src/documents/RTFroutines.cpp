@@ -74,16 +74,27 @@ std::string channels(const char* stem, Colour colour) {
     return part("r", 0) + part("g", 8) + part("b", 16);
 }
 
+/// A text that is a hair wider than its box would break and vanish; the indent beyond the edge gives it room.
+const char* paragraphWords(Alignment alignment) {
+    switch (alignment) {
+        case Alignment::Centre:
+            return "\\qc\\ri-72\\li-72";
+        case Alignment::Right:
+            return "\\qr\\li-72";
+        case Alignment::Left:
+            break;
+    }
+    return "\\ri-72";
+}
+
 /// The text's run with its paragraph's end, without the closing of the groups around it.
-std::string run(const SheetText& text, bool centred) {
+std::string run(const SheetText& text, Alignment alignment) {
     const int halfPoints = static_cast<int>(std::lround(text.size * 2.0));
     std::string rtf = "\\pard\\plain ";
-    // A text that is a hair wider than its box would break and vanish; the indent beyond the edge gives it
-    // room.
-    rtf += centred ? "\\qc\\ri-72\\li-72" : "\\ri-72";
+    rtf += paragraphWords(alignment);
     // The blank of a label may stand left of its box: a five-digit one then keeps its last digit whole.
     const bool label = text.text.rfind(' ') == 0;
-    if (!centred && label) rtf += "\\li-30";
+    if (alignment == Alignment::Left && label) rtf += "\\li-30";
     rtf += "\\widctlpar\\adjustright " + word("fs", halfPoints) + "\\cgrid {";
     if (text.bold) rtf += "\\b";
     rtf += colourWord(text.colour);
@@ -181,7 +192,7 @@ std::string RtfDocument::fallbackPlace(const PageBox& box) const {
            word("dpysize", twipsY(box.bottom) - top) + "\r\n";
 }
 
-void RtfDocument::writeText(const SheetText& text, const Colour* fill, bool centred) {
+void RtfDocument::writeText(const SheetText& text, const Colour* fill, Alignment alignment) {
     std::string shape = beginShape(text.box, 202, false);
     shape += property("lTxid", static_cast<long long>(shapeCounter_ + 1) * kTextIdStep);
     for (const char* const inset : {"dxTextLeft", "dyTextTop", "dxTextRight", "dyTextBottom"}) {
@@ -193,7 +204,7 @@ void RtfDocument::writeText(const SheetText& text, const Colour* fill, bool cent
     } else {
         shape += property("fillColor", *fill) + property("fFilled", 1);
     }
-    const std::string paragraph = run(text, centred);
+    const std::string paragraph = run(text, alignment);
     shape += "\r\n{\\shptxt " + paragraph + "}}\r\n";
     shape += beginFallback(shapeCounter_) + "\\dptxbx{\\dptxbxtext" + paragraph + "}\r\n" +
              fallbackPlace(text.box);
@@ -213,9 +224,9 @@ void RtfDocument::RTFDATASHEETTEXT(const SheetText& text) {
     writeText(onPage, nullptr);
 }
 
-void RtfDocument::RtfPlainText(const SheetText& text) {
+void RtfDocument::RtfPlainText(const SheetText& text, Alignment alignment) {
     ++shapeCounter_;
-    writeText(kept(text), nullptr, true);
+    writeText(kept(text), nullptr, alignment);
 }
 
 void RtfDocument::RtfLogoPicture() {
@@ -226,7 +237,18 @@ void RtfDocument::RtfLogoPicture() {
 void RtfDocument::RTFTEXTWBOX(const SheetTextBox& box) {
     const SheetTextBox onPage{kept(box.text), box.fill};
     record(onPage);
-    writeText(onPage.text, &onPage.fill, true);
+    writeText(onPage.text, &onPage.fill, Alignment::Centre);
+}
+
+void RtfDocument::RtfFill(const PageBox& place, Colour fill) {
+    ++shapeCounter_;
+    const PageBox box = kept(place);
+    std::string shape = beginShape(box, 1, false);
+    shape += property("fillColor", fill) + property("fFilled", 1) + property("fLine", 0) + "}\r\n";
+    shape += beginFallback(shapeCounter_) + "\\dprect\r\n" + fallbackPlace(box);
+    shape += channels("dpfillfgc", colours::kWhite) + channels("dpfillbgc", fill) +
+             "\\dpfillpat1\\dplinehollow}}}";
+    append(shape);
 }
 
 void RtfDocument::TINTEDTTEXTBOX(const PageBox& place, Colour fore, Colour back) {
@@ -235,7 +257,7 @@ void RtfDocument::TINTEDTTEXTBOX(const PageBox& place, Colour fore, Colour back)
     std::string shape = beginShape(box, 202, false);
     shape += property("lTxid", static_cast<long long>(shapeCounter_ + 1) * kTextIdStep);
     shape += property("fillColor", fore) + property("fillBackColor", back) + property("fFilled", 1);
-    const std::string paragraph = run(SheetText{}, true);
+    const std::string paragraph = run(SheetText{}, Alignment::Centre);
     shape += "\r\n{\\shptxt " + paragraph + "}}\r\n" + beginFallback(shapeCounter_);
     shape += "\\dptxbx{\\dptxbxtext" + paragraph + "}\r\n" + fallbackPlace(box);
     shape += channels("dpfillfgc", back) + channels("dpfillbgc", fore) +

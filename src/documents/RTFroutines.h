@@ -2,7 +2,6 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "documents/SheetRecords.h"
 
@@ -11,16 +10,7 @@ namespace norlaplan {
 /// A text as RTF: backslash and braces escaped, characters beyond ASCII as cp1252 or Unicode escapes.
 std::string rtfText(std::string_view utf8);
 
-/// What a graph page shows, in page inches and in the units of the curve.
-struct RtfGraphPage {
-    std::string partNumber, title, xTitle, yTitle;
-    PagePoint origin;  ///< lower left corner of the plot
-    double width = 0.0, height = 0.0;
-    double xMost = 0.0, yMost = 0.0;  ///< ends of the scales
-    double xStep = 0.0, yStep = 0.0;
-    std::vector<PagePoint> points;
-    bool metric = false;  ///< x labels with three places instead of four
-};
+struct RtfGraphPage;
 
 /// A document in the making: its RTF text, the records of its side file and the number of its last shape.
 /// Places are page inches from the lower left corner of a letter page; sizes are points, widths EMU.
@@ -39,12 +29,14 @@ class RtfDocument {
     void RTFLINE(PagePoint from, PagePoint to, Colour colour, double width);
     void RTFDATASHEETLINE(PagePoint from, PagePoint to, Colour colour, double width, int dash);
     void RTFCIRCLE(PagePoint place, double size, Colour colour, double width);
-    /// A centred text of the document alone: the side file gets no record of it.
-    void RtfPlainText(const SheetText& text);
+    /// A text of the document alone: the side file gets no record of it.
+    void RtfPlainText(const SheetText& text, Alignment alignment = Alignment::Centre);
+    /// A filled box without a frame, of the document alone.
+    void RtfFill(const PageBox& place, Colour fill);
     /// The maker's picture once more, as a shape of its own number.
     void RtfLogoPicture();
-    /// A curve on its grid, with titles and the part number above. Error 5 for a step of 0 or less, or one
-    /// that makes more lines than a page holds.
+    /// A curve on its grid, with titles and the part number above. Errors: those of `rtfGraph`, and 5 for a
+    /// step of 0 or less, or one that makes more lines than a page holds.
     void RtfGraph(const RtfGraphPage& graph);
 
     int shapeCounter() const { return shapeCounter_; }
@@ -58,7 +50,7 @@ class RtfDocument {
     void record(const SheetRecord& record);
     void writePicture(int shapeId);
     std::string beginShape(const PageBox& box, int type, bool flip);
-    void writeText(const SheetText& text, const Colour* fill, bool centred = false);
+    void writeText(const SheetText& text, const Colour* fill, Alignment alignment = Alignment::Left);
     void writeLine(const SheetLine& line);
     std::string fallbackPlace(const PageBox& box) const;
 

@@ -1,16 +1,17 @@
-#include <algorithm>
-#include <cmath>
+#include "documents/RtfGraph.h"
 
+#include <utility>
+
+#include "documents/GraphShapes.h"
 #include "documents/RTFroutines.h"
 #include "numbers/Arithmetic.h"
 #include "numbers/FormatNumber.h"
+#include "numbers/Text.h"
 
 namespace norlaplan {
 namespace {
 
-constexpr double kThin = 9525.0;
 constexpr double kDouble = 19050.0;
-constexpr Colour kGridGrey = rgb(192, 192, 192);
 /// How far the x scale may run past its end and still count as there.
 constexpr double kSlack = 0.0001;
 
@@ -22,105 +23,129 @@ const char* yPicture(double e) {
     return e == -4.0 ? "0.00000" : "0.0000";
 }
 
-/// Whether a scale can be divided so, in lines that a page can hold.
-bool isStepOf(double step, double most) {
-    constexpr double kMostLines = 1000.0;
-    return step > 0.0 && most < step * kMostLines;
+GraphText centred(const PageBox& box, const std::string& text, double points, Colour colour) {
+    GraphText placed;
+    placed.box = box;
+    placed.text = text;
+    placed.look.points = points;
+    placed.look.colour = colour;
+    placed.look.alignment = Alignment::Centre;
+    return placed;
 }
 
-/// The plot on the page.
-struct Plot {
-    explicit Plot(const RtfGraphPage& graph)
-        : left(graph.origin.x),
-          bottom(graph.origin.y),
-          right(left + graph.width),
-          top(bottom + graph.height),
-          sx(divide(graph.width, graph.xMost)),
-          sy(divide(graph.height, graph.yMost)) {}
+void setTitles(Graph& graph, const RtfGraphPage& page) {
+    const double x = page.origin.x;
+    const double bottom = page.origin.y;
+    const double top = bottom + page.height;
+    graph.number = centred({x + 1.05, top + 1.25, x + 5.55, top + 0.5}, page.partNumber, 24.0, colours::kRed);
+    graph.title = centred({x + 0.05, top + 0.85, x + 6.55, top + 0.5}, page.title, 14.0, colours::kBlue);
+    graph.xTitle =
+        centred({x + 0.05, bottom - 0.2, x + 6.55, bottom - 0.5}, page.xTitle, 12.0, colours::kBlue);
+    graph.yTitle = centred({x - 0.8, top - 0.4, x - 0.4, bottom}, page.yTitle, 10.0, colours::kBlue);
+    graph.yTitle.look.vertical = true;
+}
 
-    double left, bottom, right, top;
-    double sx, sy;  ///< inches per unit
+void setAxes(Graph& graph, const RtfGraphPage& page) {
+    TextLook look;
+    look.points = 8.0;
+    look.alignment = Alignment::Centre;
+    graph.x.end = page.xMost;
+    graph.x.step = page.xStep;
+    graph.x.last = page.xMost + kSlack;
+    graph.x.picture = page.metric ? "0.000" : "0.0000";
+    graph.x.label = {-0.35, 0.0, -0.35 + 0.75, -0.3};
+    graph.x.zeroLabel = {-0.16, 0.0, 0.14, -0.3};
+    graph.x.labelLook = look;
+
+    graph.y.end = page.yMost;
+    graph.y.step = page.yStep;
+    graph.y.last = page.yMost + 0.01 * page.yStep;
+    graph.y.picture = yPicture(Int(naturalLog(page.yMost) / naturalLog(10.0)));
+    const double room = graph.y.picture == "0.00000" ? 0.6 : 0.5;
+    graph.y.label = graph.y.zeroLabel = {-room, 0.11, 0.05, -0.19};
+    graph.y.labelLook = look;
+}
+
+/// The word of RTF text for a colour; its dark form counts as the same.
+const char* colourName(Colour colour) {
+    static constexpr std::pair<Colour, const char*> kNames[] = {
+        {colours::kRed, "red"},       {graphcolours::kDarkRed, "red"},
+        {colours::kBlue, "blue"},     {graphcolours::kDarkBlue, "blue"},
+        {colours::kGreen, "green"},   {graphcolours::kDarkGreen, "green"},
+        {colours::kPurple, "purple"},
+    };
+    for (const auto& [known, name] : kNames) {
+        if (known == colour) return name;
+    }
+    return "black";
+}
+
+const char* fontName(Typeface typeface) {
+    switch (typeface) {
+        case Typeface::Arial:
+            return "ARIEL";
+        case Typeface::Courier:
+            return "Courier New";
+        case Typeface::Antiqua:
+            return "Book Antiqua";
+        case Typeface::Times:
+            break;
+    }
+    return "TNR";
+}
+
+class IntoDocument : public GraphShapes {
+  public:
+    explicit IntoDocument(RtfDocument& document) : document_(document) {}
+
+    void fill(const PageBox& box, Colour colour) override { document_.RtfFill(box, colour); }
+    void line(PagePoint from, PagePoint to, const PagePen& pen) override {
+        if (pen.dash == 0)
+            document_.RTFLINE(from, to, pen.colour, pen.width);
+        else
+            document_.RTFDATASHEETLINE(from, to, pen.colour, pen.width, pen.dash);
+    }
+    void text(const GraphText& text) override {
+        const TextLook& look = text.look;
+        document_.RtfPlainText({text.box, look.points, colourName(look.colour), text.text, look.bold,
+                                fontName(look.typeface), look.vertical || text.stacked, look.italic},
+                               look.alignment);
+    }
+
+  private:
+    RtfDocument& document_;
 };
-
-void writeTitles(RtfDocument& document, const RtfGraphPage& graph, const Plot& plot) {
-    const double x = plot.left;
-    document.RtfPlainText(
-        {{x + 1.05, plot.top + 1.25, x + 5.55, plot.top + 0.5}, 24.0, "red", graph.partNumber, false, "TNR"});
-    document.RtfPlainText(
-        {{x + 0.05, plot.top + 0.85, x + 6.55, plot.top + 0.5}, 14.0, "blue", graph.title, false, "TNR"});
-    document.RtfPlainText({{x + 0.05, plot.bottom - 0.2, x + 6.55, plot.bottom - 0.5},
-                           12.0,
-                           "blue",
-                           graph.xTitle,
-                           false,
-                           "TNR"});
-    document.RtfPlainText(
-        {{x - 0.8, plot.top - 0.4, x - 0.4, plot.bottom}, 10.0, "blue", graph.yTitle, false, "TNR", true});
-}
-
-void writeXGrid(RtfDocument& document, const RtfGraphPage& graph, const Plot& plot) {
-    const double slack = std::min(kSlack, 0.01 * graph.xStep);
-    for (double v = 0.0; v <= graph.xMost + kSlack; v += graph.xStep) {
-        const bool end = v == 0.0 || std::fabs(v - graph.xMost) <= slack;
-        const double x = plot.left + v * plot.sx;
-        // At the ends the frame stands, so the line is a tick.
-        document.RTFLINE({x, plot.bottom - 0.05}, {x, end ? plot.bottom : plot.top}, kGridGrey, kThin);
-        const PageBox box = v == 0.0
-                                ? PageBox{plot.left - 0.16, plot.bottom, plot.left + 0.14, plot.bottom - 0.3}
-                                : PageBox{x - 0.35, plot.bottom, x - 0.35 + 0.75, plot.bottom - 0.3};
-        const std::string label = v == 0.0 ? "0" : FormatNumber(v, graph.metric ? "0.000" : "0.0000");
-        document.RtfPlainText({box, 8.0, "black", label, false, "TNR"});
-    }
-}
-
-void writeYGrid(RtfDocument& document, const RtfGraphPage& graph, const Plot& plot) {
-    const double slack = 0.01 * graph.yStep;
-    const std::string picture = yPicture(Int(naturalLog(graph.yMost) / naturalLog(10.0)));
-    const double room = picture == "0.00000" ? 0.6 : 0.5;
-    for (double v = 0.0; v <= graph.yMost + slack; v += graph.yStep) {
-        const bool end = v == 0.0 || std::fabs(v - graph.yMost) <= slack;
-        const double y = plot.bottom + v * plot.sy;
-        document.RTFLINE({plot.left - 0.05, y}, {end ? plot.left : plot.right, y}, kGridGrey, kThin);
-        document.RtfPlainText({{plot.left - room, y + 0.11, plot.left + 0.05, y - 0.19},
-                               8.0,
-                               "black",
-                               v == 0.0 ? "0" : FormatNumber(v, picture),
-                               false,
-                               "TNR"});
-    }
-}
-
-void writeCurve(RtfDocument& document, const RtfGraphPage& graph, const Plot& plot) {
-    PagePoint pen{plot.left, plot.bottom};
-    for (const PagePoint& point : graph.points) {
-        if (point.x > graph.xMost) continue;
-        const PagePoint next{plot.left + point.x * plot.sx, plot.bottom + point.y * plot.sy};
-        document.RTFLINE(pen, next, colours::kRed, kDouble);
-        pen = next;
-    }
-}
-
-void writeFrame(RtfDocument& document, const Plot& plot) {
-    const PagePoint corners[] = {{plot.left, plot.bottom},
-                                 {plot.right, plot.bottom},
-                                 {plot.right, plot.top},
-                                 {plot.left, plot.top},
-                                 {plot.left, plot.bottom}};
-    for (std::size_t i = 0; i < 4; ++i)
-        document.RTFLINE(corners[i], corners[i + 1], colours::kBlack, kDouble);
-}
 
 }  // namespace
 
+TenSteps tenStepsFor(double top) {
+    // The mantissa and the exponent are read off the number's text, which rounds it to two figures.
+    const std::string text = FormatNumber(top / 5.0, "#.0E+00");
+    const double mantissa = leadingNumber(text.substr(0, 3));
+    const double exponent = leadingNumber(text.substr(text.size() - 3));
+    const double most = 5.0 * Int(mantissa + 1.0) * power(10.0, exponent);
+    return {most, most / 10.0};
+}
+
+Graph rtfGraph(const RtfGraphPage& page) {
+    Graph graph;
+    graph.origin = page.origin;
+    graph.width = page.width;
+    graph.height = page.height;
+    setTitles(graph, page);
+    setAxes(graph, page);
+    graph.curves = {{{{0.0, 0.0}}, {colours::kRed, kDouble, 0}}};
+    graph.curves[0].points.insert(graph.curves[0].points.end(), page.points.begin(), page.points.end());
+    return graph;
+}
+
+void writeGraph(const Graph& graph, RtfDocument& document) {
+    IntoDocument shapes(document);
+    layOutGraph(graph, shapes);
+}
+
 void RtfDocument::RtfGraph(const RtfGraphPage& graph) {
-    if (!isStepOf(graph.xStep, graph.xMost) || !isStepOf(graph.yStep, graph.yMost))
-        raise(fault::kInvalidCall);
-    const Plot plot(graph);
-    writeTitles(*this, graph, plot);
-    writeXGrid(*this, graph, plot);
-    writeYGrid(*this, graph, plot);
-    writeCurve(*this, graph, plot);
-    writeFrame(*this, plot);
+    writeGraph(rtfGraph(graph), *this);
 }
 
 }  // namespace norlaplan

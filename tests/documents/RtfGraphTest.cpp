@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "documents/RTFroutines.h"
+#include "documents/RtfGraph.h"
 #include "numbers/RuntimeError.h"
 
 namespace norlaplan {

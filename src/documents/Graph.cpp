@@ -1,0 +1,103 @@
+#include "documents/Graph.h"
+
+#include <utility>
+
+#include "documents/GraphShapes.h"
+#include "numbers/Arithmetic.h"
+#include "numbers/Text.h"
+
+namespace norlaplan {
+namespace {
+
+void move(GraphText& text, double right, double up) {
+    text.box.left += right;
+    text.box.right += right;
+    text.box.top += up;
+    text.box.bottom += up;
+}
+
+/// Every letter on a line of its own.
+std::string stackedText(const std::string& text) {
+    std::string stack;
+    for (const char letter : text) {
+        // The later bytes of a letter beyond ASCII stay with its first.
+        const bool goesOn = (static_cast<unsigned char>(letter) & 0xC0U) == 0x80U;
+        if (!stack.empty() && !goesOn) stack += '\n';
+        stack += letter;
+    }
+    return stack;
+}
+
+class OntoCanvas : public GraphShapes {
+  public:
+    explicit OntoCanvas(Canvas& canvas) : canvas_(canvas) {}
+
+    void fill(const PageBox& box, Colour colour) override { canvas_.rectangle(box, colour, std::nullopt); }
+    void line(PagePoint from, PagePoint to, const PagePen& pen) override { canvas_.line(from, to, pen); }
+    void text(const GraphText& text) override {
+        canvas_.text(text.box, text.stacked ? stackedText(text.text) : text.text, text.look);
+    }
+
+  private:
+    Canvas& canvas_;
+};
+
+}  // namespace
+
+PagePoint Graph::place(PagePoint value) const {
+    return {origin.x + value.x * divide(width, x.end), origin.y + value.y * divide(height, y.end)};
+}
+
+Graph pictureGraph() {
+    Graph graph;
+    graph.origin = {0.75, 0.5};
+    graph.grid->colour = graphcolours::kGrey;
+    // Labels begin at their places: a row below the axis, a column left of it.
+    graph.x.label = {-0.2, -0.1, 0.3, -0.25};
+    graph.x.zeroLabel = {-0.05, -0.1, 0.1, -0.25};
+    graph.y.label = graph.y.zeroLabel = {-0.45, 0.06, -0.05, -0.1};
+    graph.x.labelLook.points = graph.y.labelLook.points = 8.0;
+    return graph;
+}
+
+GraphText graphText(PagePoint leftTop, std::string text, double points, Colour colour) {
+    constexpr double kPointsPerInch = 72.0;
+    GraphText placed;
+    placed.box = {leftTop.x, leftTop.y, leftTop.x + 6.0, leftTop.y - 1.2 * points / kPointsPerInch};
+    placed.text = std::move(text);
+    placed.look.points = points;
+    placed.look.colour = colour;
+    return placed;
+}
+
+Graph moved(Graph graph, double right, double up) {
+    graph.origin.x += right;
+    graph.origin.y += up;
+    for (GraphText* const text : {&graph.number, &graph.title, &graph.subtitle, &graph.xTitle, &graph.yTitle})
+        move(*text, right, up);
+    for (GraphText& note : graph.notes)
+        move(note, right, up);
+    return graph;
+}
+
+Graph preview(const Graph& graph, double width, double height) {
+    Graph small;
+    small.width = width;
+    small.height = height;
+    small.grid.reset();
+    small.frame.reset();
+    small.curves = graph.curves;
+    if (!small.curves.empty() && !small.curves.back().points.empty()) {
+        const PagePoint last = small.curves.back().points.back();
+        small.x.end = last.x;
+        small.y.end = last.y;
+    }
+    return small;
+}
+
+void drawGraph(const Graph& graph, Canvas& canvas) {
+    OntoCanvas shapes(canvas);
+    layOutGraph(graph, shapes);
+}
+
+}  // namespace norlaplan
