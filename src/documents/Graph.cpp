@@ -9,6 +9,8 @@
 namespace norlaplan {
 namespace {
 
+constexpr double kPointsPerInch = 72.0;
+
 void move(GraphText& text, double right, double up) {
     text.box.left += right;
     text.box.right += right;
@@ -61,12 +63,21 @@ Graph pictureGraph() {
 }
 
 GraphText graphText(PagePoint leftTop, std::string text, double points, Colour colour) {
-    constexpr double kPointsPerInch = 72.0;
     GraphText placed;
     placed.box = {leftTop.x, leftTop.y, leftTop.x + 6.0, leftTop.y - 1.2 * points / kPointsPerInch};
     placed.text = std::move(text);
     placed.look.points = points;
     placed.look.colour = colour;
+    return placed;
+}
+
+GraphText stackedGraphText(PagePoint leftTop, std::string text, double points, Colour colour) {
+    GraphText placed = graphText(leftTop, std::move(text), points, colour);
+    const double letter = points / kPointsPerInch;
+    placed.box.right = leftTop.x + letter;
+    placed.box.bottom = leftTop.y - 1.15 * letter * static_cast<double>(placed.text.size());
+    placed.look.alignment = Alignment::Centre;
+    placed.stacked = true;
     return placed;
 }
 

@@ -93,6 +93,8 @@ Graph pictureGraph();
 
 /// A text that begins at a place, in Times.
 GraphText graphText(PagePoint leftTop, std::string text, double points, Colour colour);
+/// A column of letters that begins at a place: the title of a y axis.
+GraphText stackedGraphText(PagePoint leftTop, std::string text, double points, Colour colour);
 
 /// The same graph elsewhere on the page.
 Graph moved(Graph graph, double right, double up);

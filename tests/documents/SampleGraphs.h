@@ -16,8 +16,7 @@ inline Graph torqueGraph() {
     graph.title =
         graphText({1.25, 4.75}, "UNMOUNTED STARTING TORQUE DUE TO PRELOAD", 14.0, graphcolours::kDarkBlue);
     graph.xTitle = graphText({3.0, 0.2}, "PRELOAD IN INCHES", 10.0, graphcolours::kDarkBlue);
-    graph.yTitle = graphText({0.05, 5.0}, "TORQUE IN INCH POUNDS", 10.0, graphcolours::kDarkBlue);
-    graph.yTitle.stacked = true;
+    graph.yTitle = stackedGraphText({0.05, 5.0}, "TORQUE IN INCH POUNDS", 10.0, graphcolours::kDarkBlue);
     graph.notes = {graphText({5.4, 0.2}, "\"K\" PRELOAD RANGE IN GREY", 10.0, graphcolours::kGrey)};
     graph.x.end = 0.005;
     graph.x.step = 0.0005;
@@ -58,8 +57,7 @@ inline Graph deflectionGraph(Colour before, Colour behind) {
     graph.y.labelLook = graph.x.labelLook;
     graph.y.labelLook.alignment = Alignment::Right;
     graph.number = graphText({3.9, 6.1}, "K19013XP0", 16.0, graphcolours::kDarkRed);
-    graph.yTitle = graphText({0.1, 5.0}, "TILT", 10.0, graphcolours::kDarkBlue);
-    graph.yTitle.stacked = true;
+    graph.yTitle = stackedGraphText({0.1, 5.0}, "TILT", 10.0, graphcolours::kDarkBlue);
     GraphCurve stiff{{}, {before, 19050.0, 0}};
     for (int i = 0; i <= 4; ++i)
         stiff.points.push_back({i * 100.0, i * 0.0004});
