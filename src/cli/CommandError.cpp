@@ -25,4 +25,8 @@ Json CommandError::json() const {
               {"prompt", prompt_}}}};
 }
 
+void refuse(const std::optional<Message>& refusal) {
+    if (refusal) throw CommandError(ErrorKind::Message, refusal->title, refusal->prompt);
+}
+
 }  // namespace norlaplan::cli

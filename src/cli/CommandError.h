@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "cli/Json.h"
+#include "state/Ports.h"
 
 namespace norlaplan::cli {
 
@@ -31,5 +32,8 @@ class CommandError : public std::exception {
     std::string title_, prompt_;
     std::optional<int> number_;
 };
+
+/// Ends the command with the message, where there is one.
+void refuse(const std::optional<Message>& refusal);
 
 }  // namespace norlaplan::cli

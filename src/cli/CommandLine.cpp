@@ -16,6 +16,7 @@ struct Arguments {
     PartNumberOption number;
     LoadOptions loads;
     SearchOptions search;
+    DeflectionOptions deflection;
     std::string output;
 };
 
@@ -38,6 +39,12 @@ class Builder {
             command(app_, "search", "Bearings that fit an envelope, with their life under the loads",
                     [](Session& s, Arguments& a) { return searchCommand(s, a.search, a.loads); });
         addSearch(search);
+
+        CLI::App* const deflection =
+            command(app_, "deflection", "Spring rates, relief loads and deflection curves under a preload",
+                    [](Session& s, Arguments& a) { return deflectionCommand(s, a.number, a.deflection); });
+        addNumber(deflection);
+        addDeflection(deflection);
 
         CLI::App* const sheet =
             command(app_, "datasheet", "The data sheet as a file",
@@ -103,6 +110,18 @@ class Builder {
             ->check(CLI::IsMember({"bore", "od", "life", "availability"}));
         command->add_flag("--descending", search.descending, "Largest first");
         addLoads(command);
+    }
+
+    void addDeflection(CLI::App* command) {
+        DeflectionOptions& deflection = arguments_->deflection;
+        command
+            ->add_option("--preload", deflection.preload,
+                         "Axial preload of a pair, diametral preload of others; display units")
+            ->required();
+        const std::string proposed = ", display units; default: a fifth of the dynamic rating";
+        command->add_option("--max-radial", deflection.maxRadial, "End of the radial curve" + proposed);
+        command->add_option("--max-axial", deflection.maxAxial, "End of the axial curve" + proposed);
+        command->add_option("--max-moment", deflection.maxMoment, "End of the moment curve" + proposed);
     }
 
     void addOutput(CLI::App* command) {

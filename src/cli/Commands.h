@@ -16,9 +16,18 @@ struct SearchOptions {
     bool descending = false;
 };
 
+/// What the deflection command takes, in display units. A maximum that is left out is the one that the screen
+/// proposes.
+struct DeflectionOptions {
+    double preload = 0.0;
+    std::optional<double> maxRadial, maxAxial, maxMoment;
+};
+
 /// Each command: its result, or `CommandError` and the run-time errors of its calculation.
 CommandResult decodeCommand(Session& session, const PartNumberOption& number);
 CommandResult lifeCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads);
+CommandResult deflectionCommand(Session& session, const PartNumberOption& number,
+                                const DeflectionOptions& options);
 CommandResult dataSheetCommand(Session& session, const PartNumberOption& number,
                                const std::filesystem::path& output);
 CommandResult searchCommand(Session& session, const SearchOptions& options, const LoadOptions& loads);

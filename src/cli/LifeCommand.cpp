@@ -1,4 +1,3 @@
-#include <optional>
 #include <vector>
 
 #include "capacity/LoadLife.h"
@@ -14,10 +13,6 @@
 
 namespace norlaplan::cli {
 namespace {
-
-void refuse(const std::optional<Message>& refusal) {
-    if (refusal) throw CommandError(ErrorKind::Message, refusal->title, refusal->prompt);
-}
 
 void calculate(Session& session, const PartNumberOption& number, const LoadOptions& loads) {
     session.decode(number);

@@ -24,7 +24,9 @@ std::vector<Column> measure(const std::vector<std::vector<std::string>>& rows, b
         columns.resize(std::max(columns.size(), rows[row].size()));
         for (std::size_t i = 0; i < rows[row].size(); ++i) {
             columns[i].width = std::max(columns[i].width, shownWidth(rows[row][i]));
-            if (!(head && row == 0) && !wholeNumberText(rows[row][i])) columns[i].numeric = false;
+            // A head and an empty cell say nothing about their column.
+            const bool says = !(head && row == 0) && !rows[row][i].empty();
+            if (says && !wholeNumberText(rows[row][i])) columns[i].numeric = false;
         }
     }
     return columns;

@@ -6,7 +6,7 @@
 namespace norlaplan::cli {
 
 /// Rows of cells as text with the columns in line; the first row is the head when `head` is set. Columns in
-/// which every cell under the head is a number are set to the right.
+/// which every cell under the head is empty or a number are set to the right.
 std::string textTable(const std::vector<std::vector<std::string>>& rows, bool head);
 
 }  // namespace norlaplan::cli

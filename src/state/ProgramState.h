@@ -4,6 +4,7 @@
 
 #include "numbers/Int16.h"
 #include "state/BearingSpec.h"
+#include "state/DeflectionResult.h"
 #include "state/LifeResult.h"
 #include "state/LoadCase.h"
 #include "state/SearchRecords.h"
@@ -57,6 +58,7 @@ struct ProgramState {
 
     LifeResult life;
     SolverState solver;
+    DeflectionResult deflection;
     bool returningFromSideScreen = false;
 
     std::string lastSavedFile;
