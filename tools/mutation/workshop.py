@@ -1,0 +1,233 @@
+"""The scratch copy in which mistakes are built and tried."""
+
+import hashlib
+import json
+import os
+import re
+import resource
+import shutil
+import signal
+import subprocess
+import sys
+import time
+from pathlib import Path
+
+import report
+from mutant import reason
+
+CHOICE = "NORLAPLAN_MUTANT"
+CHOOSER = f"""#pragma once
+#include <cstdlib>
+namespace mutation {{
+inline const int chosen = std::getenv("{CHOICE}") != nullptr ? std::atoi(std::getenv("{CHOICE}")) : 0;
+}}
+"""
+ROUNDS = 8
+
+
+def programs_of(root, folder):
+    """The tests that answer for a folder: (target to build, command in the build folder)."""
+    if folder == "cli":
+        discover = [sys.executable, "-m", "unittest", "discover", "--failfast", "-s", "../tree/tests/cli"]
+        return [("norlaplan-cli", discover)]
+    if folder == "screens":
+        names = sorted(path.stem for path in (root / "tests" / "screens").glob("*Test.cpp"))
+        return [(f"test_screens_{name}", [f"tests/test_screens_{name}"]) for name in names]
+    return [(f"test_{folder}", [f"tests/test_{folder}", "--gtest_fail_fast", "--gtest_brief=1"])]
+
+
+class Workshop:
+    def __init__(self, root, work, jobs):
+        self.root, self.work, self.jobs = root, work, jobs
+        self.tree, self.build = work / "tree", work / "build"
+        os.nice(19)
+        for folder in (self.tree, self.build, work / "home"):
+            folder.mkdir(parents=True, exist_ok=True)
+        (work / "chooser.h").write_text(CHOOSER)
+        self.results_path = work / "results.json"
+        self.results = json.loads(self.results_path.read_text()) if self.results_path.exists() else {}
+        self.copy_tree()
+        flags = f"-O1 -Wno-error=unused-function -include {work / 'chooser.h'}"
+        self.call(["cmake", "-G", "Ninja", "-S", self.tree, "-B", self.build, "-DCMAKE_BUILD_TYPE=",
+                   "-DCMAKE_CXX_COMPILER_LAUNCHER=ccache", f"-DCMAKE_CXX_FLAGS={flags}", "-DNORLAPLAN_BENCH=OFF",
+                   "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST"], check=True)
+
+    def call(self, command, check=False, **more):
+        return subprocess.run([str(part) for part in command], stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                              text=True, errors="replace", check=check, **more)
+
+    def copy_tree(self):
+        """Brings the copy up to date, and touches no file that is already right."""
+        listed = subprocess.run(["git", "-C", self.root, "ls-files", "-co", "--exclude-standard", "-z"],
+                                stdout=subprocess.PIPE, text=True, check=True).stdout.split("\0")
+        wanted = {name for name in listed if name and (self.root / name).is_file()}
+        for name in wanted:
+            self.write(name, (self.root / name).read_bytes())
+        for path in [path for path in self.tree.rglob("*") if path.is_file()]:
+            if str(path.relative_to(self.tree)) not in wanted:
+                path.unlink()
+
+    def write(self, name, content):
+        target = self.tree / name
+        if target.exists() and target.read_bytes() == content:
+            return
+        target.parent.mkdir(parents=True, exist_ok=True)
+        target.write_bytes(content)
+
+    def make(self, targets, failures=1):
+        """Builds, and stops after so many failures (0: never)."""
+        return self.call(["ninja", "-C", self.build, "-k", failures, "-j", self.jobs, *targets])
+
+    def digest(self, folder):
+        """Changes with what may notice a mistake of the folder."""
+        found = hashlib.sha1()
+        for part in (folder, "support"):
+            for path in sorted((self.tree / "tests" / part).rglob("*")):
+                if path.suffix in (".cpp", ".h", ".py"):
+                    found.update(path.read_bytes())
+        return found.hexdigest()
+
+    def try_all(self, folder, programs, chosen, equivalent):
+        digest = self.digest(folder)
+        todo, outcomes = [], {}
+        for mutant in chosen:
+            known = self.results.get(mutant.key())
+            if reason(equivalent, mutant) is not None:
+                outcomes[mutant] = (report.EQUIVALENT, "")
+            elif known and (known[0] != report.SURVIVED or known[2] == digest):
+                outcomes[mutant] = (known[0], known[1])
+            else:
+                todo.append(mutant)
+        if todo:
+            self.say(f"{folder}: building")
+            bench = Bench(self, programs)
+            for mutant, outcome, by in bench.try_each(todo):
+                outcomes[mutant] = (outcome, by)
+                self.results[mutant.key()] = (outcome, by, digest)
+                self.results_path.write_text(json.dumps(self.results))
+                self.say(f"{outcome}: {mutant.path}:{mutant.line}: {mutant.kind}")
+            bench.check("The unchanged program fails its tests after the mistakes: a mistake has spoilt a file.")
+        return [(mutant, *outcomes[mutant]) for mutant in chosen]
+
+    def say(self, what):
+        print(f"{time.strftime('%H:%M:%S')} {what}", file=sys.stderr, flush=True)
+
+
+class Bench:
+    """The test programs of one folder, with the times that they take when nothing is wrong."""
+
+    def __init__(self, workshop, programs):
+        self.shop, self.programs = workshop, list(programs)
+        self.targets = [target for target, _ in programs] + ["program-folder"]
+        built = workshop.make(self.targets)
+        if built.returncode != 0:
+            sys.exit(built.stdout[-4000:] + "\nThe unchanged program doesn't build.")
+        self.seconds = {}
+        self.check("The unchanged program fails its tests.")
+        self.kills = dict.fromkeys((target for target, _ in programs), 0)
+
+    def check(self, complaint):
+        self.shop.make(self.targets)
+        for target, command in self.programs:
+            before = resource.getrusage(resource.RUSAGE_CHILDREN)
+            done = self.run(command, 0, 600)
+            after = resource.getrusage(resource.RUSAGE_CHILDREN)
+            if done.returncode != 0:
+                sys.exit(f"{done.stdout[-4000:]}\n{target}: {complaint}")
+            self.seconds[target] = after.ru_utime - before.ru_utime + after.ru_stime - before.ru_stime
+
+    def run(self, command, choice, seconds):
+        def limits():
+            resource.setrlimit(resource.RLIMIT_CPU, (int(seconds), int(seconds) + 5))
+            resource.setrlimit(resource.RLIMIT_AS, (8 << 30, 8 << 30))
+            resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+
+        environment = {**os.environ, CHOICE: str(choice), "QT_QPA_PLATFORM": "offscreen", "LC_ALL": "C.UTF-8",
+                       "HOME": str(self.shop.work / "home"), "PYTHONDONTWRITEBYTECODE": "1",
+                       "NORLAPLAN_CLI": str(self.shop.build / "bin" / "norlaplan-cli")}
+        environment.pop("XDG_CONFIG_HOME", None)
+        try:
+            return self.shop.call(command, cwd=self.shop.build, env=environment, preexec_fn=limits, timeout=1200)
+        except subprocess.TimeoutExpired as late:
+            return subprocess.CompletedProcess(command, -signal.SIGXCPU, str(late.stdout or ""))
+
+    def judge(self, choice):
+        """Whether a test notices; the programs that noticed most are asked first."""
+        for target, command in sorted(self.programs, key=lambda program: -self.kills[program[0]]):
+            done = self.run(command, choice, 10 + 6 * self.seconds[target])
+            if done.returncode in (-signal.SIGXCPU, -signal.SIGKILL):
+                return report.TIMED_OUT, target
+            if done.returncode != 0:
+                self.kills[target] += 1
+                return report.KILLED, self.failed_test(done.stdout) or target
+        return report.SURVIVED, ""
+
+    @staticmethod
+    def failed_test(output):
+        found = re.search(r"\[  FAILED  \] ([\w./]+)|^FAIL!\s*: (\S+)|^(?:FAIL|ERROR): (\w+)", output, re.MULTILINE)
+        return next((name for name in found.groups() if name), "") if found else ""
+
+    def try_each(self, mutants):
+        inside = [mutant for mutant in mutants if mutant.body]
+        alone = [mutant for mutant in mutants if not mutant.body]
+        left = list(inside)
+        for _ in range(ROUNDS):
+            spans = self.write_together(left)
+            built = self.shop.make(self.targets, 0)
+            if built.returncode == 0:
+                break
+            blamed = self.blamed(built.stdout, spans)
+            for mutant in blamed:
+                left.remove(mutant)
+                yield mutant, report.NO_BUILD, ""
+            if not blamed:
+                paths = {path for path in spans if f"{path.removeprefix('src/')}:" in built.stdout} or set(spans)
+                alone += [mutant for mutant in left if mutant.path in paths]
+                left = [mutant for mutant in left if mutant.path not in paths]
+        else:
+            alone, left = alone + left, []
+        for number, mutant in enumerate(left, 1):
+            yield mutant, *self.judge(number)
+        self.restore(inside)
+        for mutant in alone:
+            self.shop.write(mutant.path, mutant.mutated().encode())
+            built = self.shop.make(self.targets)
+            yield mutant, *(self.judge(0) if built.returncode == 0 else (report.NO_BUILD, ""))
+            self.restore([mutant])
+
+    def restore(self, mutants):
+        for mutant in mutants:
+            self.shop.write(mutant.path, mutant.text.encode())
+
+    def write_together(self, mutants):
+        """Writes all mistakes of function bodies, each under its number, and tells the lines that each one has."""
+        self.restore(mutants)
+        spans = {}
+        for path in {mutant.path for mutant in mutants}:
+            mine = [(number, mutant) for number, mutant in enumerate(mutants, 1) if mutant.path == path]
+            text, at, lines = "", 0, []
+            whole = mine[0][1].text
+            for first, last in sorted({mutant.body for _, mutant in mine}):
+                text += whole[at:first] + "{"
+                for number, mutant in mine:
+                    if mutant.body == (first, last):
+                        text += f"if (mutation::chosen == {number}) "
+                        start = text.count("\n") + 1
+                        text += whole[first:mutant.start] + mutant.replacement + whole[mutant.end:last]
+                        lines.append((start, text.count("\n") + 1, mutant))
+                        text += "\nelse "
+                text += whole[first:last] + "}"
+                at = last
+            self.shop.write(path, (text + whole[at:]).encode())
+            spans[path] = lines
+        return spans
+
+    @staticmethod
+    def blamed(output, spans):
+        found = []
+        for path, lines in spans.items():
+            # A header is reached through its folder's include root.
+            name = re.escape(path.removeprefix("src/"))
+            for line in re.findall(r"\b" + name + r":(\d+):\d+: error", output):
+                found += [mutant for first, last, mutant in lines if first <= int(line) <= last]
+        return list(dict.fromkeys(found))
