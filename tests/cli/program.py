@@ -14,7 +14,7 @@ WITH_PICTURES = (PROGRAM_FOLDER / "norlaplan-paint.so").exists()
 
 
 def run(*words, **options):
-    options = {"capture_output": True, "text": True, "check": False, "timeout": 60, **options}
+    options = {"capture_output": True, "text": True, "check": False, "timeout": 600, **options}
     return subprocess.run([CLI, *words], **options)
 
 
