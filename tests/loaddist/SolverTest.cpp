@@ -129,6 +129,24 @@ TEST(RadialRow, LoadsAtMostHalfOfTheBallsAndNoneOfTheSecondRow) {
     EXPECT_NEAR(sum, 500.0, 1e-5);
 }
 
+TEST(RadialRow, LeavesNoAxialForceMomentOrTiltOfAnEarlierSolve) {
+    ProgramState state;
+    RecordingMessages messages;
+    plain::Bearing before = solverCases('X')[0];
+    before.axialLoad = 300.0F;
+    before.moment = 100.0F;
+    ASSERT_TRUE(SolveCoupledRows(state, argumentsOf(before), messages).has_value());
+    ASSERT_NEAR(state.solver.ForceAxialSum, 300.0, 1e-6);
+    ASSERT_NE(state.solver.Tilt, 0.0);
+    const plain::Bearing radial = solverCases('C')[0];
+    SolveRadialRow(state, argumentsOf(radial), messages);
+    EXPECT_EQ(state.solver.ForceAxialSum, 0.0);
+    EXPECT_NEAR(state.solver.ForceRadialSum, static_cast<double>(radial.radialLoad), 1e-5);
+    EXPECT_EQ(state.solver.MomentSum, 0.0);
+    EXPECT_EQ(state.solver.AxialDisp, 0.0);
+    EXPECT_EQ(state.solver.Tilt, 0.0);
+}
+
 int faultOf(const plain::Bearing& bearing) {
     ProgramState state;
     RecordingMessages messages;

@@ -77,11 +77,65 @@ TEST(IntRoutine, GivesTheWholeNumberNotAboveTheValue) {
     EXPECT_EQ(Int(-2.0), -2.0);
 }
 
+TEST(Int16Field, HoldsBothEndsOfItsRangeAndNothingBeyond) {
+    EXPECT_EQ(Int16(-32768), -32768);
+    EXPECT_EQ(Int16(32767), 32767);
+    EXPECT_EQ(faultOf([] { [[maybe_unused]] const Int16 tooSmall(-32769); }), fault::kOverflow);
+    EXPECT_EQ(faultOf([] { [[maybe_unused]] const Int16 tooLarge(32768); }), fault::kOverflow);
+    EXPECT_EQ(Int16(32767.4), 32767);
+    Int16 field;
+    EXPECT_EQ(field, 0);
+    field = 4.5;
+    EXPECT_EQ(field, 4);
+    field = -7;
+    EXPECT_EQ(field, -7);
+}
+
+TEST(SingleField, AddsSubtractsAndMultipliesInSixtyFourBitsAndRoundsOnce) {
+    Single field;
+    EXPECT_EQ(static_cast<double>(field), 0.0);
+    field += 0.1;
+    EXPECT_EQ(field.stored(), 0.1F);
+    field -= 0.25;
+    EXPECT_EQ(field.stored(), static_cast<float>(static_cast<double>(0.1F) - 0.25));
+    field *= -4.0;
+    EXPECT_EQ(field.stored(), -4.0F * static_cast<float>(static_cast<double>(0.1F) - 0.25));
+}
+
+TEST(NaturalLog, IsTheLogarithmToTheBaseE) {
+    EXPECT_EQ(naturalLog(10.0), std::log(10.0));
+    EXPECT_EQ(faultOf([] { naturalLog(-1.0); }), fault::kInvalidCall);
+    EXPECT_EQ(faultOf([] { naturalLog(1e-300); }), 0);
+}
+
+TEST(Faults, CarryTheirNumberAndTheirTextOrABetterOne) {
+    const RuntimeError plain(fault::kPastEnd);
+    EXPECT_EQ(plain.number(), 62);
+    const RuntimeError told(fault::kFileNotFound, "File not found: Extras.txt");
+    EXPECT_EQ(told.number(), 53);
+    EXPECT_STREQ(told.what(), "File not found: Extras.txt");
+}
+
 TEST(RuntimeErrorText, IsTheClassicOne) {
-    EXPECT_STREQ(RuntimeError(11).what(), "Division by zero");
-    EXPECT_STREQ(RuntimeError(53).what(), "File not found");
-    EXPECT_STREQ(RuntimeError(5).what(), "Invalid procedure call or argument");
-    EXPECT_STREQ(RuntimeError(62).what(), "Input past end of file");
+    const struct {
+        int number;
+        const char* text;
+    } rows[] = {{5, "Invalid procedure call or argument"},
+                {6, "Overflow"},
+                {9, "Subscript out of range"},
+                {11, "Division by zero"},
+                {13, "Type mismatch"},
+                {53, "File not found"},
+                {57, "Device I/O error"},
+                {61, "Disk full"},
+                {62, "Input past end of file"},
+                {70, "Permission denied"},
+                {75, "Path/File access error"},
+                {1004, "Application-defined or object-defined error"}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(runtimeErrorText(row.number), row.text);
+        EXPECT_STREQ(RuntimeError(row.number).what(), row.text);
+    }
 }
 
 }  // namespace

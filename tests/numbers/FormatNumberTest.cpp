@@ -65,6 +65,23 @@ INSTANTIATE_TEST_SUITE_P(
                       Row{1.0, "0.0E+##", "1.0E+0"}, Row{1.0, "0.0E-00", "1.0E00"},
                       Row{1e100, "0.00E+00", "1.00E+100"}));
 
+INSTANTIATE_TEST_SUITE_P(Places, FormatNumberRows,
+                         ::testing::Values(Row{7.0, "000", "007"}, Row{7.0, "#00", "07"},
+                                           Row{-7.0, "000", "-007"}, Row{0.5, "#.##0#", ".500"},
+                                           Row{0.1235, "0.0###", "0.1235"}, Row{0.1, "0.0###", "0.1"},
+                                           Row{1234.0, ",###", "1234"}, Row{1234.5, "0.0,0", "1234.50"},
+                                           Row{12.0, "0,000", "0,012"}, Row{1000.0, "#,#", "1,000"},
+                                           Row{100.0, "#,#", "100"}, Row{1e-9, "0.00", "0.00"},
+                                           Row{0.09, "#", ""}, Row{0.49, "0", "0"}, Row{9.5, "0", "10"},
+                                           Row{0.95, "0.0", "1.0"}, Row{0.95, ".0", "1.0"}));
+
+INSTANTIATE_TEST_SUITE_P(MoreExponents, FormatNumberRows,
+                         ::testing::Values(Row{1.0, "0.0E-##", "1.0E0"}, Row{0.05, "0.0E-00", "5.0E-02"},
+                                           Row{1e12, "0E+0", "1E+12"}, Row{9.96, "0.0E+00", "1.0E+01"},
+                                           Row{-9.96, "0.0E+00", "-1.0E+01"},
+                                           Row{123.0, "0.0##E+000", "1.23E+002"},
+                                           Row{0.0, "0.0E+00", "0.0E+00"}));
+
 TEST(FormatNumber, TakesTheThirtyTwoBitValueAsItsSixtyFourBitOne) {
     // The 32-bit number nearest to 0.00035 lies below it, at 0.000349999988...
     EXPECT_EQ(FormatNumber(Single(0.00035), ".0000"), ".0003");

@@ -57,5 +57,69 @@ TEST(UpperCase, ChangesLettersOfTheAlphabetAlone) {
     EXPECT_EQ(trimmed("  a b\t"), "a b");
 }
 
+TEST(UpperCase, EndsWithTheFirstAndTheLastLetter) {
+    // The neighbours of a, z, A and Z in ASCII are no letters.
+    EXPECT_EQ(upperCase("`az{@AZ["), "`AZ{@AZ[");
+    EXPECT_EQ(lowerCase("`az{@AZ["), "`az{@az[");
+}
+
+TEST(Trimmed, TakesBlanksAndTabsFromBothEndsAndNothingElse) {
+    EXPECT_EQ(trimmed("\t a\tb \t "), "a\tb");
+    EXPECT_EQ(trimmed(" \t"), "");
+    EXPECT_EQ(trimmed("\nx\n"), "\nx\n");
+}
+
+TEST(LeadingNumber, EndsWhereADigitASecondPointOrABrokenExponentEndsIt) {
+    EXPECT_EQ(leadingNumber("+7"), 7.0);
+    EXPECT_EQ(leadingNumber("\t-7"), -7.0);
+    EXPECT_EQ(leadingNumber("- 7"), 0.0);
+    EXPECT_EQ(leadingNumber("+-7"), 0.0);
+    EXPECT_EQ(leadingNumber("09:30"), 9.0) << "the sign after 9 in ASCII is no digit";
+    EXPECT_EQ(leadingNumber("2/3"), 2.0) << "the sign before 0 in ASCII is no digit";
+    EXPECT_EQ(leadingNumber("1.2.3"), 1.2);
+    EXPECT_EQ(leadingNumber(".5.5"), 0.5);
+    EXPECT_EQ(leadingNumber("2E+03x"), 2000.0);
+    EXPECT_EQ(leadingNumber("2e-2"), 0.02);
+    EXPECT_EQ(leadingNumber("2e+"), 2.0);
+    EXPECT_EQ(leadingNumber("2e+-3"), 2.0);
+    EXPECT_EQ(leadingNumber("e5"), 0.0);
+}
+
+TEST(LeadingNumber, TooSmallForSixtyFourBitsIsZeroAndTooLargeAnOverflow) {
+    EXPECT_EQ(leadingNumber("-1E-999"), 0.0);
+    EXPECT_EQ(leadingNumber("3e-400 mm"), 0.0);
+    EXPECT_THROW(leadingNumber("-1E+999"), RuntimeError);
+    EXPECT_EQ(wholeNumberText("1e-999"), 0.0);
+}
+
+TEST(WholeNumberText, PassesOverCommasBetweenTheSignAndThePointAlone) {
+    EXPECT_EQ(wholeNumberText("-1,234,567.25"), -1234567.25);
+    EXPECT_EQ(wholeNumberText("+1,2"), 12.0);
+    EXPECT_EQ(wholeNumberText("1,"), 1.0);
+    EXPECT_EQ(wholeNumberText("1e3"), 1000.0);
+    for (const char* bad : {"1.2,5", "1.,5", "-,5", "+,5", ",.5", "-", "+", "."}) {
+        EXPECT_FALSE(wholeNumberText(bad).has_value()) << bad;
+    }
+}
+
+TEST(PlainText, OfSixtyFourBitsHasNoExponentEither) {
+    EXPECT_EQ(plainText(1e-7), "0.0000001");
+    EXPECT_EQ(plainText(-1.5e22), "-15000000000000000000000");
+    EXPECT_EQ(plainText(1234.5), "1234.5");
+    EXPECT_EQ(plainText(12345678.0), "12345678");
+    EXPECT_EQ(plainText(1.0), "1");
+    EXPECT_EQ(plainText(-0.25), "-0.25");
+    EXPECT_EQ(plainText(0.0), "0");
+    EXPECT_EQ(plainText(-42), "-42");
+}
+
+TEST(ShortestText, IsTheShortestOfItsOwnWidth) {
+    EXPECT_EQ(shortestText(Single(0.1)), "0.1") << "not the 64 bits of the 32-bit number";
+    EXPECT_EQ(shortestText(0.1), "0.1");
+    EXPECT_EQ(shortestText(static_cast<double>(0.1F)), "0.10000000149011612");
+    EXPECT_EQ(shortestText(Single(1e30)), "1e+30");
+    EXPECT_EQ(shortestText(-2.5e-300), "-2.5e-300");
+}
+
 }  // namespace
 }  // namespace norlaplan

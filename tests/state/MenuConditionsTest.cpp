@@ -53,5 +53,43 @@ TEST(MenuConditions, ClearTheLoadsOfARadialBearingWithoutRadialLoad) {
     EXPECT_EQ(lifeRefusal(state)->prompt, "Please enter loads first");
 }
 
+TEST(MenuConditions, AllowWhatTheBearingAndItsLoadsAllow) {
+    for (const char* style : {"C", "X", "B", "F"}) {
+        ProgramState state = bearingOfStyle(style);
+        state.loadsEntered = true;
+        state.loads.radialLoad = 10.0;
+        EXPECT_FALSE(bearingRefusal(state).has_value());
+        EXPECT_FALSE(lifeRefusal(state).has_value()) << style;
+        EXPECT_FALSE(thermalFitsRefusal(state).has_value());
+        EXPECT_TRUE(state.loadsEntered);
+    }
+    ProgramState axial = bearingOfStyle("X");
+    axial.loadsEntered = true;
+    EXPECT_FALSE(lifeRefusal(axial).has_value()) << "only a radial bearing needs a radial load";
+}
+
+TEST(MenuConditions, RefuseWithTheirTitlesAndIcons) {
+    ProgramState state = bearingOfStyle("C");
+    EXPECT_EQ(lifeRefusal(state), (Message{"Missing Load Data", "Please enter loads first"}));
+    state.loadsEntered = true;
+    EXPECT_EQ(lifeRefusal(state), (Message{"Missing Load Data", "Please enter Radial load first"}));
+    EXPECT_EQ(
+        axialPlayRefusal(bearingOfStyle("F")),
+        (Message{"Wrong Bearing style", "Only radial and 4-point contact bearings allowed", Icon::Critical}));
+    EXPECT_EQ(preloadTorqueRefusal(bearingOfStyle("T")),
+              (Message{"Wrong Bearing style", "Only Duplexes , 'C' or 'X' styles allowed", Icon::Critical}));
+}
+
+TEST(MenuConditions, RefuseTheLifeOfAStyleThatTakesNoLoads) {
+    ProgramState state = bearingOfStyle("U");
+    state.loadsEntered = true;
+    EXPECT_EQ(lifeRefusal(state)->prompt, "Bearing type U Not allowed");
+}
+
+TEST(MenuConditions, TakeNoTwoLettersForAStyle) {
+    EXPECT_TRUE(preloadTorqueRefusal(bearingOfStyle("XC")).has_value());
+    EXPECT_TRUE(axialPlayRefusal(bearingOfStyle("")).has_value());
+}
+
 }  // namespace
 }  // namespace norlaplan

@@ -63,5 +63,19 @@ TEST(NewBearing, KeepsTheTextsThatAreNotNamed) {
     EXPECT_EQ(state.style.searchStyleCaption, "RADIAL CONTACT");
 }
 
+TEST(NewBearing, ClearsEverySizeOfTheBearing) {
+    constexpr Single BearingSpec::*kSizes[] = {&BearingSpec::outsideDiameter, &BearingSpec::bore,
+                                               &BearingSpec::height,          &BearingSpec::pitchDiameter,
+                                               &BearingSpec::momentArm,       &BearingSpec::ballDiameter,
+                                               &BearingSpec::raceRadius,      &BearingSpec::stdClearanceLow,
+                                               &BearingSpec::stdClearanceHigh};
+    ProgramState state = filled();
+    for (const auto size : kSizes)
+        state.bearing.*size = 1.5;
+    clearBearingAndLoads(state);
+    for (const auto size : kSizes)
+        EXPECT_EQ(state.bearing.*size, 0.0);
+}
+
 }  // namespace
 }  // namespace norlaplan

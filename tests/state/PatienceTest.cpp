@@ -67,5 +67,69 @@ TEST(Patience, ForgetsTheStatesOfTheIterationBefore) {
     EXPECT_NO_THROW(patience.pass({1.0}));
 }
 
+TEST(Patience, AsksUnderItsTitleAndNotBeforeTenSeconds) {
+    RecordingMessages messages;
+    seconds = 100.0;
+    Patience patience(messages, &now);
+    patience.begin();
+    seconds = 109.999;
+    for (int pass = 0; pass < 64; ++pass)
+        patience.pass({static_cast<double>(pass)});
+    EXPECT_TRUE(messages.asked.empty());
+    seconds = 110.0;
+    int passes = 64;
+    EXPECT_THROW(
+        for (;; ++passes) {
+            patience.pass({static_cast<double>(passes)});
+            ASSERT_LT(passes, 1000);
+        },
+        NotConverging);
+    ASSERT_EQ(messages.asked.size(), 1U);
+    EXPECT_EQ(messages.asked[0],
+              (Message{"The calculation does not converge", "Do you want to keep trying?", Icon::Question}));
+    EXPECT_EQ(passes, 127) << "it looks at the clock at every 64th pass";
+}
+
+TEST(Patience, CountsItsTenSecondsAnewAfterAYes) {
+    RecordingMessages messages;
+    messages.answers = {Answer::Yes, Answer::Yes};
+    seconds = 0.0;
+    Patience patience(messages, &now);
+    patience.begin();
+    int pass = 0;
+    const auto passes = [&](double until) {
+        seconds = until;
+        for (int i = 0; i < 64; ++i)
+            patience.pass({static_cast<double>(pass++)});
+        return messages.asked.size();
+    };
+    EXPECT_EQ(passes(10.0), 1U);
+    EXPECT_EQ(passes(19.0), 1U);
+    EXPECT_EQ(passes(20.0), 2U);
+}
+
+TEST(Patience, TakesAStateThatDiffersInOneValueForANewOne) {
+    RecordingMessages messages;
+    Patience patience(messages);
+    patience.begin();
+    for (int pass = 0; pass < 500; ++pass)
+        patience.pass({1.0, 2.0, 3.0, 4.0, 5.0, 6.0, 7.0, static_cast<double>(pass)});
+    SUCCEED();
+}
+
+TEST(NotConverging, SaysWhyTheCalculationWasEnded) {
+    EXPECT_STREQ(NotConverging().what(),
+                 "The calculation was ended because it comes to no result with these values.");
+}
+
+TEST(SteadySeconds, CountSecondsAndNeverRunBackward) {
+    const Patience::Seconds before = Patience::steadySeconds();
+    const auto clock = std::chrono::steady_clock::now().time_since_epoch();
+    const Patience::Seconds after = Patience::steadySeconds();
+    const double between = std::chrono::duration<double>(clock).count();
+    EXPECT_LE(before.count(), between);
+    EXPECT_GE(after.count(), between);
+}
+
 }  // namespace
 }  // namespace norlaplan

@@ -34,5 +34,17 @@ TEST(ProgramFolder, MissingFileOrFolderIsFileNotFound) {
     EXPECT_EQ(faultOf([&] { folder.read("\\Data Tables\\none.csv"); }), fault::kFileNotFound);
 }
 
+TEST(ProgramFolder, FindsWhatIsThereAndNamesWhatIsMissing) {
+    TemporaryFolder place;
+    place.write("Help/HELP1.RTF", "help");
+    const ProgramFolder folder(place.path());
+    EXPECT_EQ(folder.root(), place.path());
+    EXPECT_EQ(folder.find("\\help\\help1.rtf"), place.path() / "Help" / "HELP1.RTF");
+    EXPECT_EQ(folder.find("help//help1.rtf"), place.path() / "Help" / "HELP1.RTF");
+    EXPECT_EQ(folder.find("\\help\\New.RTF"), place.path() / "Help" / "New.RTF");
+    EXPECT_EQ(folder.find("missing\\New.RTF"), place.path() / "missing" / "New.RTF");
+    EXPECT_EQ(folder.find(""), place.path());
+}
+
 }  // namespace
 }  // namespace norlaplan

@@ -1,3 +1,6 @@
+#include <string>
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include "numbers/RuntimeError.h"
@@ -103,18 +106,62 @@ TEST(LoadExtras, ComparesWholeLinesAfterUpperCasing) {
     EXPECT_FALSE(outcome.pressEnterModelNumber);
 }
 
-TEST(LoadExtras, SetsEveryOption) {
+constexpr std::pair<const char*, Flag Options::*> kOptions[] = {
+    {"FAX COVER", &Options::faxCoverEnabled},      {"DEFLECTION", &Options::deflectionOption},
+    {"LARS HOFMANN", &Options::larsHofmannOption}, {"NED GROVE", &Options::nedGroveOption},
+    {"IAN MORAY", &Options::ianMorayOption},       {"SKIP INTRO", &Options::skipIntroOption},
+    {"BALL SHOW", &Options::ballShowOption},       {"LUBE FILM", &Options::lubeFilmOption},
+    {"PATH STRESS", &Options::pathStressOption},   {"SAM LUND", &Options::samLundOption},
+    {"TEMPFITS", &Options::tempFitsOption},        {"QLX", &Options::qlxOption}};
+
+std::string optionsSet(const Options& options) {
+    std::string found;
+    for (const auto& [keyword, flag] : kOptions) {
+        if (options.*flag) found += std::string(keyword) + ";";
+    }
+    return found;
+}
+
+TEST(LoadExtras, EachKeywordSetsItsOwnOptionAlone) {
+    for (const auto& [keyword, flag] : kOptions) {
+        Start start;
+        start.place.write("Extras.txt", std::string(keyword) + "\n");
+        start.run();
+        EXPECT_EQ(optionsSet(start.state.options), std::string(keyword) + ";");
+    }
+}
+
+TEST(LoadExtras, EmptyLinesSetNothingAndHideNothing) {
+    for (const char* content : {"\n", "\r\n\r\n", "\n\n\n\n\n\n\n\n\n\n\n\n\n\n\n\n"}) {
+        Start start;
+        start.place.write("Extras.txt", content);
+        start.run();
+        EXPECT_EQ(optionsSet(start.state.options), "");
+        EXPECT_EQ(start.state.options.footerText, "");
+        EXPECT_EQ(start.state.unitSystem, "US");
+    }
     Start start;
-    start.place.write("Extras.txt",
-                      "FAX COVER\nDEFLECTION\nLARS HOFMANN\nNED GROVE\nIAN MORAY\nSKIP INTRO\nBALL SHOW\n"
-                      "LUBE FILM\nPATH STRESS\nSAM LUND\nTEMPFITS\nQLX\n");
-    const StartUp outcome = start.run();
-    const Options& options = start.state.options;
-    EXPECT_TRUE(options.faxCoverEnabled && options.deflectionOption && options.larsHofmannOption &&
-                options.nedGroveOption && options.ianMorayOption && options.skipIntroOption &&
-                options.ballShowOption && options.lubeFilmOption && options.pathStressOption &&
-                options.samLundOption && options.tempFitsOption && options.qlxOption);
-    EXPECT_TRUE(outcome.pressStart && outcome.pressEnterModelNumber && outcome.showNedGrove);
+    start.place.write("Extras.txt", "\r\nQLX\r\n\r\n\r\nTEMPFITS\r\n\r\n");
+    start.run();
+    EXPECT_EQ(optionsSet(start.state.options), "TEMPFITS;QLX;");
+}
+
+TEST(LoadExtras, SayWhatTheStartDoesNext) {
+    struct {
+        const char* line;
+        bool pressStart, pressEnterModelNumber, showNedGrove;
+    } const rows[] = {{"SKIP INTRO", true, false, false},
+                      {"IAN MORAY", true, true, false},
+                      {"NED GROVE", false, false, true},
+                      {"QLX", false, false, false}};
+    for (const auto& row : rows) {
+        Start start;
+        start.place.write("Extras.txt", row.line);
+        const StartUp outcome = start.run();
+        EXPECT_EQ(outcome.pressStart, row.pressStart) << row.line;
+        EXPECT_EQ(outcome.pressEnterModelNumber, row.pressEnterModelNumber) << row.line;
+        EXPECT_EQ(outcome.showNedGrove, row.showNedGrove) << row.line;
+    }
 }
 
 TEST(LoadExtras, FooterKeepsTheRestOfTheLineAsTypedAndTheLastOneWins) {

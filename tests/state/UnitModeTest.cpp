@@ -70,5 +70,35 @@ TEST(NewState, StartsWithUsUnits) {
     EXPECT_EQ(initialUnits().lengthUnit, "inches");
 }
 
+TEST(ApplyUnitSystem, SetsTheWordsAndFactorsOfBothSystems) {
+    const struct {
+        std::string UnitMode::*word;
+        const char *us, *metric;
+    } words[] = {{&UnitMode::lengthUnit, "inches", "mm"},  {&UnitMode::loadUnitWord, "pounds", "N"},
+                 {&UnitMode::loadUnit, "lbs", "N"},        {&UnitMode::momentUnitWord, "inch-lbs.", "N-m"},
+                 {&UnitMode::momentUnit, "in-lbs", "N-m"}, {&UnitMode::tempUnit, "deg. F", "deg. C"}};
+    const struct {
+        Single UnitMode::*factor;
+        double metric;
+    } factors[] = {{&UnitMode::forceFactor, 0.2248089},
+                   {&UnitMode::lengthFactor, 25.4},
+                   {&UnitMode::momentFactor, 8.850744},
+                   {&UnitMode::massFactor, 1.0 / 2.204622}};
+    UnitMode us, metric;
+    ApplyUnitSystem("US", us);
+    ApplyUnitSystem("METRIC", metric);
+    const UnitMode first = initialUnits();
+    for (const auto& row : words) {
+        EXPECT_EQ(us.*row.word, row.us);
+        EXPECT_EQ(first.*row.word, row.us);
+        EXPECT_EQ(metric.*row.word, row.metric);
+    }
+    for (const auto& row : factors) {
+        EXPECT_EQ((us.*row.factor).stored(), 1.0F);
+        EXPECT_EQ((first.*row.factor).stored(), 1.0F);
+        EXPECT_EQ((metric.*row.factor).stored(), static_cast<float>(row.metric));
+    }
+}
+
 }  // namespace
 }  // namespace norlaplan

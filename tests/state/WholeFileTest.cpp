@@ -87,5 +87,77 @@ TEST(WriteWholeFile, MissingFolderOrAFolderOfThatNameIsSeventyFive) {
     EXPECT_EQ(place.read("folder/report.rtf"), "old");
 }
 
+TEST(ReadWholeFile, ReadsFilesOfAnyLengthAndWithAnyBytes) {
+    TemporaryFolder place;
+    std::string content;
+    for (int i = 0; i < 200000; ++i)
+        content += static_cast<char>(i % 256);
+    for (const std::size_t length : {0U, 1U, 65535U, 65536U, 65537U, 200000U}) {
+        place.write("file", content.substr(0, length));
+        EXPECT_EQ(readWholeFile(place.path() / "file"), content.substr(0, length)) << length;
+    }
+}
+
+TEST(ReadWholeFile, MissingIsFiftyThreeAndAFolderSeventyFive) {
+    TemporaryFolder place;
+    place.write("file", "content");
+    EXPECT_EQ(faultOf([&] { readWholeFile(place.path() / "none"); }), fault::kFileNotFound);
+    EXPECT_EQ(faultOf([&] { readWholeFile(place.path() / "file" / "none"); }), fault::kFileNotFound);
+    EXPECT_EQ(faultOf([&] { readWholeFile(place.path()); }), fault::kPathAccess);
+}
+
+TEST(WriteWholeFile, WritesContentOfAnyLength) {
+    TemporaryFolder place;
+    const std::string content(3000000, 'x');
+    writeWholeFile(place.path() / "long", content);
+    EXPECT_EQ(place.read("long"), content);
+    writeWholeFile(place.path() / "empty", "");
+    EXPECT_TRUE(std::filesystem::exists(place.path() / "empty"));
+    EXPECT_EQ(place.read("empty"), "");
+}
+
+TEST(WriteWholeFile, GivesANewFileTheRightsThatTheUserGivesNewFiles) {
+    TemporaryFolder place;
+    for (const mode_t mask : {0022U, 0077U}) {
+        const mode_t before = ::umask(mask);
+        writeWholeFile(place.path() / std::to_string(mask), "new");
+        EXPECT_EQ(::umask(before), mask) << "and leaves those of later files alone";
+        struct stat status {};
+        ASSERT_EQ(::stat((place.path() / std::to_string(mask)).c_str(), &status), 0);
+        EXPECT_EQ(status.st_mode & 0777U, 0666U & ~mask);
+    }
+}
+
+TEST(WriteWholeFile, WritesThroughALinkAndKeepsIt) {
+    TemporaryFolder place;
+    place.write("far/report.rtf", "old");
+    std::filesystem::create_symlink(place.path() / "far" / "report.rtf", place.path() / "report.rtf");
+    writeWholeFile(place.path() / "report.rtf", "new");
+    EXPECT_TRUE(std::filesystem::is_symlink(place.path() / "report.rtf"));
+    EXPECT_EQ(place.read("far/report.rtf"), "new");
+}
+
+TEST(WriteWholeFile, AFolderThatTakesNoFilesIsSeventy) {
+    // Nobody, not even the administrator, makes files there.
+    const std::filesystem::path closed = "/sys/kernel";
+    if (!std::filesystem::is_directory(closed)) GTEST_SKIP() << "no such folder on this system";
+    EXPECT_EQ(faultOf([&] { writeWholeFile(closed / "report.rtf", "new"); }), fault::kPermissionDenied);
+}
+
+TEST(WriteWholeFile, AFileInTheFoldersPlaceIsSeventyFive) {
+    TemporaryFolder place;
+    place.write("file", "content");
+    EXPECT_EQ(faultOf([&] { writeWholeFile(place.path() / "file" / "report.rtf", "new"); }),
+              fault::kPathAccess);
+}
+
+TEST(StagedFile, WhoseFolderHasGoneIsSeventyFiveAtTheCommit) {
+    TemporaryFolder place;
+    place.write("folder/old", "");
+    StagedFile staged(place.path() / "folder" / "report.rtf", "new");
+    std::filesystem::remove_all(place.path() / "folder");
+    EXPECT_EQ(faultOf([&] { staged.commit(); }), fault::kPathAccess);
+}
+
 }  // namespace
 }  // namespace norlaplan
