@@ -1,9 +1,9 @@
 #include <vector>
 
-#include "cli/BearingFields.h"
 #include "cli/Commands.h"
 #include "cli/TextTable.h"
 #include "numbers/Text.h"
+#include "state/BearingFields.h"
 
 namespace norlaplan::cli {
 namespace {

@@ -4,12 +4,12 @@
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
 #include "cli/OutputFile.h"
-#include "cli/SolverFields.h"
 #include "cli/TextTable.h"
 #include "documents/LoadLifeReport.h"
 #include "numbers/FormatNumber.h"
 #include "numbers/Text.h"
 #include "state/MenuConditions.h"
+#include "state/SolverFields.h"
 
 namespace norlaplan::cli {
 namespace {

@@ -13,10 +13,13 @@ constexpr double kMpaPerPsi = 0.006895;
 constexpr double kMillimetresPerInch = 25.4;
 constexpr double kTenThirds = 10.0 / 3.0;
 
+/// Semi-major axis per cube root of the load, after Hertz: a^3 = 3 kappa^2 E Q S / (pi R) with the elastic
+/// sum S and the curvature sum R (Harris, Rolling Bearing Analysis, contact stress and deformation).
 double ellipseFactor(double elasticSum, double E, double kappaSq, double curvatureSum) {
     return power(divide(((elasticSum * 3.0) * E) * kappaSq, curvatureSum * PiValue), kOneThird);
 }
 
+/// The ball's ellipses and its largest Hertz stress, 3 Q / (2 pi a b).
 void stressOfBall(SolverState& state, int row, int ball) {
     const double Q = state.BallLoad(row, ball);
     if (Q == 0.0) {
@@ -48,6 +51,9 @@ Single sumOfPowers(const SolverState& state, int row, double exponent) {
     return sum;
 }
 
+/// Lundberg and Palmgren's mean loads of the balls of a row: the cube mean for the ring that turns, for the
+/// ring that stands still the mean with exponent 3 e = 10/3, where e = 10/9 is the Weibull slope of point
+/// contact.
 void meanLoads(SolverState& state) {
     const double Z = state.BallCount;
     state.RmcRow1 = power(divide(sumOfPowers(state, 1, 3.0), Z), kOneThird);
@@ -58,6 +64,10 @@ void meanLoads(SolverState& state) {
     state.RmcRow2Newtons = state.RmcRow2 * kNewtonsPerPound;
 }
 
+/// Basic dynamic capacity of a point contact, by Lundberg and Palmgren (Dynamic Capacity of Rolling Bearings,
+/// Acta Polytechnica, Mechanical Engineering Series, 1947): fc (2f / (2f - 1))^0.41 (1 -+ g)^1.39 / (1 +-
+/// g)^(1/3) (g / cos alpha)^0.3 D^1.8 Z^(-1/3), the upper signs for the inner race, with D^1.4 for balls
+/// above an inch. Conformities are per cent here, and the inner one serves both races.
 void dynamicCapacities(SolverState& state) {
     const double D = state.BallDiameter;
     const double fi = state.InnerConformityPct;
@@ -74,7 +84,8 @@ void dynamicCapacities(SolverState& state) {
     state.OuterDynamicCapacity = set * go;
 }
 
-/// L10 in revolutions of a row, from the mean loads that its inner and outer race see.
+/// L10 in revolutions of a row, from the mean loads that its inner and outer race see. Each race lives (Qc /
+/// Q)^3 million revolutions; both together, by Weibull with slope 10/9, (Li^(-10/9) + Lo^(-10/9))^(-9/10).
 double rowLife(const SolverState& state, double innerMean, double outerMean) {
     const double ratioI = divide(state.InnerDynamicCapacity, innerMean);
     const double ratioO = divide(state.OuterDynamicCapacity, outerMean);
@@ -93,6 +104,8 @@ void lives(SolverState& state) {
     if (secondRow) state.L10OuterRotationRow2 = rowLife(state, state.MeanRow2, state.RmcRow2);
 }
 
+/// Ball load at which the Hertz stress reaches the limit: 3 Q / (2 pi a b) with a = factor Q^(1/3) and b = a
+/// / kappa, solved for Q.
 double staticCapacity(const SolverState& state, double factor, double kappa) {
     return power(divide(((factor * factor) * TwoPiValue) * state.StressLimit, kappa * 3.0), 3.0);
 }
@@ -146,6 +159,7 @@ void LifeAndStress(SolverState& state) {
     meanLoads(state);
     dynamicCapacities(state);
     lives(state);
+    // 4200 MPa, the contact stress of the basic static load rating of radial ball bearings in ISO 76.
     state.StressLimit = 609000.0;
     state.InnerStaticCapacity = staticCapacity(state, state.InnerEllipseFactor, state.InnerKappa);
     state.OuterStaticCapacity = staticCapacity(state, state.OuterEllipseFactor, state.OuterKappa);

@@ -2,7 +2,7 @@
 
 #include "state/BearingSpec.h"
 
-namespace norlaplan::cli {
+namespace norlaplan {
 
 /// Calls `visit(name, value)` for every field of the bearing, in the order of the record.
 template <typename Visit>
@@ -99,4 +99,4 @@ void visitBearing(const BearingSpec& bearing, Visit visit) {
 #undef NORLAPLAN_FIELD
 }
 
-}  // namespace norlaplan::cli
+}  // namespace norlaplan

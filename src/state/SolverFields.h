@@ -2,7 +2,7 @@
 
 #include "state/SolverState.h"
 
-namespace norlaplan::cli {
+namespace norlaplan {
 
 /// Calls `visit(name, value)` for the solver's state that a result shows, in the order of the calculation.
 template <typename Visit>
@@ -90,4 +90,4 @@ void visitBall(const SolverState& solver, int row, int ball, Visit visit) {
 #undef NORLAPLAN_FIELD
 }
 
-}  // namespace norlaplan::cli
+}  // namespace norlaplan
