@@ -2,9 +2,25 @@
 
 import math
 
+from plot import BLACK
 from section import BOTTOM, CENTRE, TOP
 
 GAP, OVER = 0.05, 0.06
+
+
+def middle(top):
+    """The middle of the figures of a size text whose box has this top: Courier of 14 points has its feet 0.833 em below
+    the top of its line, and its figures are 0.67 em high."""
+    return top - (0.833 - 0.67 / 2) * 14 / 72
+
+
+# The middles of the size texts of the sheet.
+PITCH, BORE, OUTSIDE = middle(9.088), middle(6.467), middle(5.25)
+INNER_LAND, UPPER_LAND, RELIEF, OUTER_LAND = middle(5.741), middle(9.631), middle(5.47), middle(5.487)
+LEFT_HEIGHT, RIGHT_HEIGHT = middle(8.14), middle(8.022)
+INNER_RUNOUT, OUTER_RUNOUT = middle(6.102), middle(4.91)
+HALF_GAP = 0.125
+HALF_FRAME = 0.125
 
 
 def extension_down(plot, x, top, y):
@@ -17,8 +33,9 @@ def half_dimension(plot, x, y, text_x):
     plot.arrow(x, y, 180)
 
 
-def height(plot, edge, x, gap_low, gap_high):
+def height(plot, edge, x, text):
     """A vertical dimension with a gap for its text; `edge` is the ring's side that it measures."""
+    gap_low, gap_high = text - HALF_GAP, text + HALF_GAP
     sign = 1 if x > edge else -1
     for y in (TOP, BOTTOM):
         plot.path((edge + sign * GAP, y), (x + sign * OVER, y))
@@ -39,9 +56,9 @@ def letter(plot, name, x, y):
         plot.path((x + 0.055, y + 0.057), (x + 0.075, y + 0.04), (x + 0.075, y + 0.015), (x + 0.06, y), (x, y))
 
 
-def runout_frame(plot, begin, bottom, value, datum_end, datum):
+def runout_frame(plot, begin, text, value, datum_end, datum):
     """Three cells: the runout arrow, the value (a text of the sheet), the datum."""
-    top = bottom + 0.25
+    bottom, top = text - HALF_FRAME, text + HALF_FRAME
     plot.box(begin, bottom, datum_end, top)
     for x in value:
         plot.path((x, bottom), (x, top))
@@ -65,14 +82,14 @@ def reference_dimensions(plot, shape):
     style = shape.style
     if style in "AUT":
         upper = shape.outer_land
-        plot.path((upper, TOP + GAP), (upper, 9.524 + OVER))
-        half_dimension(plot, upper, 9.524, 5.26)
+        plot.path((upper, TOP + GAP), (upper, UPPER_LAND + OVER))
+        half_dimension(plot, upper, UPPER_LAND, 5.26)
     if style in "AUTB":
-        extension_down(plot, shape.relief, BOTTOM - GAP, 5.363)
-        half_dimension(plot, shape.relief, 5.363, 4.20)
+        extension_down(plot, shape.relief, BOTTOM - GAP, RELIEF)
+        half_dimension(plot, shape.relief, RELIEF, 4.20)
     if style in "CXF":
-        extension_down(plot, shape.outer_land, BOTTOM - GAP, 5.38)
-        half_dimension(plot, shape.outer_land, 5.38, 4.26)
+        extension_down(plot, shape.outer_land, BOTTOM - GAP, OUTER_LAND)
+        half_dimension(plot, shape.outer_land, OUTER_LAND, 4.26)
 
 
 def frames(plot, shape):
@@ -82,30 +99,32 @@ def frames(plot, shape):
         inner, outer = (4.45, (4.67, 5.44), 5.66), (3.45, (3.67, 4.44), 4.66)
     else:
         inner, outer = (4.42, (4.67, 5.44), 5.66), (3.42, (3.67, 4.44), 4.66)
-    runout_frame(plot, inner[0], 5.87, inner[1], inner[2], "B")
-    runout_frame(plot, outer[0], 4.68, outer[1], outer[2], "A")
+    runout_frame(plot, inner[0], INNER_RUNOUT, inner[1], inner[2], "B")
+    runout_frame(plot, outer[0], OUTER_RUNOUT, outer[1], outer[2], "A")
     if shape.style in "AU":
         # Its value stands off the ring, so the frame hangs on an elbow of the outside diameter's line.
-        plot.path((shape.left, BOTTOM - GAP), (shape.left, 4.805), (outer[0], 4.805))
+        plot.path((shape.left, BOTTOM - GAP), (shape.left, OUTER_RUNOUT), (outer[0], OUTER_RUNOUT))
 
 
 def draw_dimensions(plot, shape):
-    plot.pen(2)
-    height(plot, shape.left, 1.59, 7.91, 8.16)
-    height(plot, shape.right, 7.09, 7.79, 8.04)
-    half_dimension(plot, CENTRE, 8.981, 4.76)
-    single = shape.style in "CX"
-    extension_down(plot, shape.right, BOTTOM - GAP, 5.93 if single or shape.is_set else 6.18)
-    half_dimension(plot, shape.right, 6.36, 5.32)
-    extension_down(plot, shape.inner_land, BOTTOM - GAP, 5.634)
-    half_dimension(plot, shape.inner_land, 5.634, 4.51)
+    plot.pen(BLACK)
+    height(plot, shape.left, 1.59, LEFT_HEIGHT)
+    height(plot, shape.right, 7.09, RIGHT_HEIGHT)
+    half_dimension(plot, CENTRE, PITCH, 4.76)
+    # The runout frames hang on the lines of the bore and the outside diameter.
+    plot.path((shape.right, BOTTOM - GAP), (shape.right, INNER_RUNOUT + HALF_FRAME))
+    half_dimension(plot, shape.right, BORE, 5.32)
+    extension_down(plot, shape.inner_land, BOTTOM - GAP, INNER_LAND)
+    half_dimension(plot, shape.inner_land, INNER_LAND, 4.51)
     if shape.style not in "AU":
-        extension_down(plot, shape.left, BOTTOM - GAP, 4.99)
-    half_dimension(plot, shape.left, 5.143, 3.85)
+        plot.path((shape.left, BOTTOM - GAP), (shape.left, OUTER_RUNOUT + HALF_FRAME))
+    half_dimension(plot, shape.left, OUTSIDE, 3.85)
     reference_dimensions(plot, shape)
-    plot.path((1.93, 9.965), (2.08, 9.965), (shape.left + 0.03, TOP - 0.03))
-    plot.arrow(shape.left + 0.03, TOP - 0.03,
-               math.degrees(math.atan2(TOP - 0.03 - 9.965, shape.left + 0.03 - 2.08)))
+    # The leader ends on the rounded corner itself.
+    inset = shape.round * (1 - math.sqrt(0.5))
+    tip = (shape.left + inset, TOP - inset)
+    plot.path((1.93, 9.965), (2.08, 9.965), tip)
+    plot.arrow(*tip, math.degrees(math.atan2(tip[1] - 9.965, tip[0] - 2.08)))
     frames(plot, shape)
     datum_sign(plot, shape.right, 6.60, 1, "A")
     datum_sign(plot, shape.left, 5.70, -1, "B")

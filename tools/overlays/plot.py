@@ -6,6 +6,7 @@ UNITS = 1016.0
 LEFT, BOTTOM = 0.25, 0.625
 
 RED, BLACK, BLUE = 1, 2, 3
+SHORTEST = 0.02  # a shorter hatch line is a speck
 
 
 class Plot:
@@ -35,14 +36,9 @@ class Plot:
         self.words.append("PU" + self._at(x + radius, y))
         self.words.append(f"AA{self._at(x, y)},360")
 
-    def arc(self, x, y, radius, start, sweep):
-        """Angles in degrees, counter-clockwise."""
-        angle = math.radians(start)
-        self.words.append("PU" + self._at(x + radius * math.cos(angle), y + radius * math.sin(angle)))
-        self.words.append(f"AA{self._at(x, y)},{sweep:g}")
-
     def curve(self, x, y, radius, start, sweep, chords):
-        """A small arc as few chords; `arc` leaves their number, ten and more, to the reader."""
+        """An arc as chords, angles in degrees, counter-clockwise; the reader's own arcs have more of them than a text
+        program needs."""
         angles = [math.radians(start + sweep * i / chords) for i in range(chords + 1)]
         self.path(*((x + radius * math.cos(angle), y + radius * math.sin(angle)) for angle in angles))
 
@@ -59,11 +55,25 @@ class Plot:
             at = stop + gap
             long_stroke = not long_stroke
 
+    def clipped(self, start, end, is_inside):
+        """The parts of a line whose points are inside, found by walking along it."""
+        steps = 160
+        run = None
+        for i in range(steps + 2):
+            t = i / steps
+            point = (start[0] + (end[0] - start[0]) * t, start[1] + (end[1] - start[1]) * t)
+            if i <= steps and is_inside(*point):
+                run = (run[0], point) if run else (point, point)
+            elif run:
+                if math.dist(*run) > SHORTEST:
+                    self.path(*run)
+                run = None
+
     def arrow(self, x, y, direction):
         """A slim arrowhead with its tip at (x, y); direction in degrees of the way it points."""
         angle = math.radians(direction)
         ux, uy = math.cos(angle), math.sin(angle)
-        for half in (0.02, 0.007):
+        for half in (0.02, 0.0125, 0.005):
             self.path((x - 0.11 * ux + half * uy, y - 0.11 * uy - half * ux), (x, y),
                       (x - 0.11 * ux - half * uy, y - 0.11 * uy + half * ux))
         self.path((x - 0.11 * ux + 0.02 * uy, y - 0.11 * uy - 0.02 * ux),

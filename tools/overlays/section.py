@@ -6,6 +6,8 @@ two inches high; a set is drawn at half the scale.
 
 import math
 
+from plot import BLUE, RED
+
 CENTRE, TOP, BOTTOM = 3.95, 8.80, 6.80
 FAMILY_A = "ABFTU"
 SETS = "BFT"
@@ -97,7 +99,8 @@ def draw_groove(plot, shape, row, side, upper, lower):
         x, y = groove_centre(shape, row, side, half)
         start = math.degrees(math.atan2(first[1] - y, first[0] - x)) % 360
         stop = math.degrees(math.atan2(last[1] - y, last[0] - x)) % 360
-        plot.arc(x, y, shape.groove, start, round((stop - start) % 360, 2))
+        sweep = (stop - start) % 360
+        plot.curve(x, y, shape.groove, start, sweep, math.ceil(sweep / 8))
 
 
 def draw_rings(plot, shape):
@@ -128,26 +131,6 @@ def is_steel(shape, side, x, y):
     return False
 
 
-SHORTEST = 0.02  # a shorter hatch line is a speck
-
-
-def clip(start, end, blocks):
-    """The parts of a hatch line whose points `blocks` says are steel, found by walking along it."""
-    steps = 160
-    run = None
-    for i in range(steps + 1):
-        t = i / steps
-        point = (start[0] + (end[0] - start[0]) * t, start[1] + (end[1] - start[1]) * t)
-        if blocks(*point):
-            run = (run[0], point) if run else (point, point)
-        elif run:
-            if math.dist(*run) > SHORTEST:
-                yield run
-            run = None
-    if run and math.dist(*run) > SHORTEST:
-        yield run
-
-
 def hatch(plot, shape):
     """45 degrees, opposite in the two rings."""
 
@@ -158,8 +141,7 @@ def hatch(plot, shape):
         for side, slope, left, right in ((OUTER, 1, shape.left, CENTRE), (INNER, -1, CENTRE, shape.right)):
             width = right - left
             ends = ((left, y - slope * width / 2), (right, y + slope * width / 2))
-            for start, end in clip(*ends, lambda px, py, ring=side: is_steel(shape, ring, px, py)):
-                plot.path(start, end)
+            plot.clipped(*ends, lambda px, py, ring=side: is_steel(shape, ring, px, py))
         offset += step
 
 
@@ -169,9 +151,9 @@ def draw_section(plot, style):
     for y, *_ in shape.rows:
         plot.circle(CENTRE, y, shape.ball)
     draw_rings(plot, shape)
-    plot.pen(3)
+    plot.pen(BLUE)
     hatch(plot, shape)
-    plot.pen(1)
+    plot.pen(RED)
     plot.dash_dot((CENTRE, 6.72), (CENTRE, 9.06))
     for (y, *_), angles in zip(shape.rows, shape.contacts):
         reach = 0.93 * (0.5 if shape.is_set else 1.0)

@@ -1,112 +1,161 @@
-"""The separator details of the data sheet: a stretch of the ball row, seen along the axis, in a field of its own."""
+"""The separator details of the data sheet: a stretch of the ball row, seen along the axis, in a field of its own.
+
+Balls and massive parts have the thick outline of the first pen; strip, wire and springs are thin; what is cut is
+hatched. Nothing of a detail leaves the field.
+"""
 
 import math
 
-LEFT, RIGHT, MIDDLE = 6.50, 8.00, 5.60
-BALL = 0.16
+from plot import BLACK, BLUE, RED
+
+LEFT, RIGHT, MIDDLE = 6.42, 8.08, 5.60
+CENTRE = (LEFT + RIGHT) / 2
+HATCH = 0.06
 
 
-def balls(plot, count, radius=BALL):
-    """Balls spread evenly over the field; gives their centres."""
-    pitch = (RIGHT - LEFT) / count
-    centres = [LEFT + pitch * (i + 0.5) for i in range(count)]
+def balls(plot, count, pitch, radius):
+    """Balls in a row around the middle of the field; gives their centres."""
+    centres = [CENTRE + pitch * (i - (count - 1) / 2) for i in range(count)]
     for x in centres:
         plot.circle(x, MIDDLE, radius)
     return centres
 
 
+def gaps(centres):
+    """The middles between neighbours."""
+    return [(left + right) / 2 for left, right in zip(centres, centres[1:])]
+
+
 def centre_line(plot):
-    plot.pen(1)
-    plot.dash_dot((LEFT - 0.08, MIDDLE), (RIGHT + 0.08, MIDDLE))
+    plot.pen(RED)
+    plot.dash_dot((LEFT, MIDDLE), (RIGHT, MIDDLE))
+
+
+def hatch(plot, left, right, low, high, is_cut):
+    """Hatching at 45 degrees in the part of a rectangle that is cut material."""
+    plot.pen(BLUE)
+    step = HATCH * math.sqrt(2)
+    offset = math.floor((left - high) / step) * step
+    while offset < right - low:
+        start, end = max(left, low + offset), min(right, high + offset)
+        if start < end:
+            plot.clipped((start, start - offset), (end, end - offset), is_cut)
+        offset += step
 
 
 def ribbon(plot, rivets):
     """Two strips that close around each ball and meet between them; one kind snaps over, the other is riveted."""
-    centres = balls(plot, 3)
-    plot.pen(3)
-    reach = BALL + 0.03
-    for x in centres:
-        plot.curve(x, MIDDLE, reach, 10, 160, 10)
-        plot.curve(x, MIDDLE, reach, 190, 160, 10)
-    end = reach * math.cos(math.radians(10))
-    gap = reach * math.sin(math.radians(10))
-    edges = [(LEFT, centres[0] - end)] + [(left + end, right - end) for left, right in zip(centres, centres[1:])]
-    for left, right in edges + [(centres[-1] + end, RIGHT)]:
-        for y in (MIDDLE - gap, MIDDLE + gap):
-            plot.path((left, y), (right, y))
-    if not rivets:
-        return
-    for left, right in zip(centres, centres[1:]):
-        x = (left + right) / 2
-        for side in (-1, 1):
-            plot.path((x - 0.03, MIDDLE + side * gap), (x - 0.02, MIDDLE + side * (gap + 0.03)),
-                      (x + 0.02, MIDDLE + side * (gap + 0.03)), (x + 0.03, MIDDLE + side * gap))
-        plot.path((x - 0.015, MIDDLE - gap), (x - 0.015, MIDDLE + gap))
-        plot.path((x + 0.015, MIDDLE - gap), (x + 0.015, MIDDLE + gap))
+    radius, sheet, chords = 0.19, 0.03, 14
+    centres = balls(plot, 3, 0.56, radius)
+    reach = radius + 0.045
+    opening = math.degrees(math.asin(sheet / reach))
+    end = reach * math.cos(math.radians(opening))
+    edges = [LEFT + 0.02] + [x + to * end for x in centres for to in (-1, 1)] + [RIGHT - 0.02]
+    plot.pen(BLACK)
+    for side in (-1, 1):
+        for x in centres:
+            plot.curve(x, MIDDLE, reach, opening if side > 0 else 180 + opening, 180 - 2 * opening, chords)
+        for left, right in zip(edges[::2], edges[1::2]):
+            plot.path((left, MIDDLE + side * sheet), (right, MIDDLE + side * sheet))
+    for x in gaps(centres):
+        if rivets:
+            rivet(plot, x, sheet)
+        else:
+            # The tongue that snaps over the strip of the other side.
+            plot.path((x - 0.025, MIDDLE + sheet), (x - 0.025, MIDDLE - sheet - 0.025), (x + 0.02, MIDDLE - sheet - 0.025),
+                      (x + 0.02, MIDDLE - sheet))
+
+
+def rivet(plot, x, sheet):
+    for side in (-1, 1):
+        y = MIDDLE + side * sheet
+        plot.path((x - 0.04, y), (x - 0.03, y + side * 0.035), (x + 0.03, y + side * 0.035), (x + 0.04, y))
+    for edge in (x - 0.018, x + 0.018):
+        plot.path((edge, MIDDLE - sheet), (edge, MIDDLE + sheet))
 
 
 def crown(plot):
     """One piece: a rail on one side with prongs that grip the balls."""
-    centres = balls(plot, 3)
-    plot.pen(3)
-    reach, rail = BALL + 0.02, MIDDLE - 0.27
-    end, tip = reach * math.cos(math.radians(25)), MIDDLE + reach * math.sin(math.radians(25))
+    radius, pocket, opening = 0.18, 0.215, 25
+    centres = balls(plot, 3, 0.53, radius)
+    left, right, rail = LEFT + 0.05, RIGHT - 0.05, MIDDLE - 0.34
+    end = pocket * math.cos(math.radians(opening))
+    tip = MIDDLE + pocket * math.sin(math.radians(opening))
     for x in centres:
-        plot.curve(x, MIDDLE, reach, 155, 230, 14)
-    edges = [LEFT] + [x + side * end for x in centres for side in (-1, 1)] + [RIGHT]
-    for left, right in zip(edges[::2], edges[1::2]):
-        plot.path((left, tip), (right, tip))
-    plot.path((LEFT, tip), (LEFT, rail), (RIGHT, rail), (RIGHT, tip))
+        plot.curve(x, MIDDLE, pocket, 180 - opening, 180 + 2 * opening, 16)
+    edges = [left] + [x + side * end for x in centres for side in (-1, 1)] + [right]
+    for start, stop in zip(edges[::2], edges[1::2]):
+        plot.path((start, tip), (stop, tip))
+    plot.path((left, tip), (left, rail), (right, rail), (right, tip))
+    hatch(plot, left, right, rail, tip, lambda x, y: all(math.hypot(x - c, y - MIDDLE) > pocket for c in centres))
 
 
 def toroid(plot):
-    centres = balls(plot, 4)
-    plot.pen(3)
-    for x in centres[::2]:
-        plot.circle(x, MIDDLE, BALL + 0.045)
-        plot.circle(x, MIDDLE, BALL + 0.018)
+    """Every second ball carries a ring; the balls between stand free."""
+    radius, ring = 0.14, 0.235
+    centres = balls(plot, 4, radius + ring, radius)
+    ringed = centres[1::2]
+    for x in ringed:
+        plot.circle(x, MIDDLE, ring)
+    for x in ringed:
+        hatch(plot, x - ring, x + ring, MIDDLE - ring, MIDDLE + ring,
+              lambda px, py, c=x: radius < math.hypot(px - c, py - MIDDLE) < ring)
 
 
 def slug(plot):
-    centres = balls(plot, 4)
-    plot.pen(3)
+    """Cylinders between the balls, with hollow ends."""
+    radius, half = 0.15, 0.10
+    centres = balls(plot, 3, 0.60, radius)
+    reach = radius + 0.035
+    bow = math.degrees(math.asin(half / reach))
+    end = reach * math.cos(math.radians(bow))
     for left, right in zip(centres, centres[1:]):
-        x = (left + right) / 2
-        plot.box(x - 0.025, MIDDLE - 0.11, x + 0.025, MIDDLE + 0.11)
+        plot.curve(left, MIDDLE, reach, -bow, 2 * bow, 6)
+        plot.curve(right, MIDDLE, reach, 180 - bow, 2 * bow, 6)
+        for y in (MIDDLE - half, MIDDLE + half):
+            plot.path((left + end, y), (right - end, y))
+    for left, right in zip(centres, centres[1:]):
+        hatch(plot, left, right, MIDDLE - half, MIDDLE + half,
+              lambda x, y, a=left, b=right: min(math.hypot(x - a, y - MIDDLE), math.hypot(x - b, y - MIDDLE)) > reach)
 
 
 def spacer(plot):
-    """Smaller balls between the ones that carry."""
-    small = 0.11
-    pitch = 2 * (BALL + small)
-    for i in (-1, 0, 1):
-        plot.circle((LEFT + RIGHT) / 2 + i * pitch, MIDDLE, BALL)
-    plot.pen(3)
-    for i in (-0.5, 0.5):
-        plot.circle((LEFT + RIGHT) / 2 + i * pitch, MIDDLE, small)
+    """Smaller balls, which carry nothing, between the ones that do."""
+    radius, small = 0.175, 0.125
+    centres = balls(plot, 3, 2 * (radius + small), radius)
+    plot.pen(BLACK)
+    for x in gaps(centres):
+        plot.circle(x, MIDDLE, small)
 
 
 def spring(plot):
-    centres = balls(plot, 4)
-    plot.pen(3)
+    """Coils between the balls."""
+    radius, coils, height = 0.15, 5, 0.09
+    centres = balls(plot, 3, 0.62, radius)
+    plot.pen(BLACK)
     for left, right in zip(centres, centres[1:]):
-        start, stop, coils = left + BALL, right - BALL, 3
-        step = (stop - start) / (2 * coils)
-        points = [(start + step * i, MIDDLE + (0.07 if i % 2 else -0.07)) for i in range(2 * coils + 1)]
-        plot.path(*points)
+        start = left + math.sqrt(radius ** 2 - height ** 2) + 0.03
+        step = (left + right - 2 * start) / coils
+        for i in range(coils + 1):
+            x = start + step * i
+            plot.path((x, MIDDLE - height), (x, MIDDLE + height))
+            if i < coils:
+                plot.path((x, MIDDLE + height), (x + step, MIDDLE - height))
 
 
 def wire(plot):
-    centres = balls(plot, 5, 0.135)
-    plot.pen(3)
+    """A wire that winds around the balls, above and below them in turn."""
+    radius, pitch, thick = 0.135, 0.32, 0.025
+    centres = balls(plot, 5, pitch, radius)
+    plot.pen(BLACK)
     for i, x in enumerate(centres):
-        plot.curve(x, MIDDLE, 0.155, 0 if i % 2 else 180, 180, 10)
-    plot.path((LEFT - 0.03, MIDDLE - 0.2), (RIGHT + 0.03, MIDDLE - 0.2))
+        for reach in (pitch / 2 - thick / 2, pitch / 2 + thick / 2):
+            plot.curve(x, MIDDLE, reach, 0 if i % 2 else 180, 180, 10)
 
 
 def full(plot):
-    radius = (RIGHT - LEFT) / 10
-    balls(plot, 5, radius)
+    """Ball beside ball."""
+    balls(plot, 5, 0.33, 0.165)
 
 
 SEPARATORS = {
