@@ -64,7 +64,7 @@ void printHead(Canvas& canvas, PageWriter& page, const ProgramState& state) {
     page.skip(0.1);
 }
 
-void printColumnHeads(Canvas& canvas, PageWriter& page) {
+void printColumnHeads(Canvas& canvas, PageWriter& page, const ProgramState& state) {
     const TextLook look = timesLook(kSize, true);
     page.put(kPageLeft, "BEARING", look);
     page.lifeText(kLifeEnd - 0.75, "L", " LIFE ", look);
@@ -79,6 +79,7 @@ void printColumnHeads(Canvas& canvas, PageWriter& page) {
     page.endLine(9.0);
     canvas.line({kPageLeft, page.y()}, {kPageRight, page.y()}, PagePen{});
     page.skip(0.05);
+    if (state.loads.speed == 0.0) page.line(kNoSpeedNote, timesLook(9.0));
 }
 
 void printRow(PageWriter& page, const ProgramState& state, const SearchHit& hit) {
@@ -112,7 +113,7 @@ void printSearch(const ProgramState& state, ClockPort& clock, Canvas& canvas) {
         drawPageFrame(canvas);
         PageWriter page(canvas, 10.0);
         if (number == 1) printHead(canvas, page, state);
-        printColumnHeads(canvas, page);
+        printColumnHeads(canvas, page, state);
         const std::size_t end =
             std::min(rows.size(), next + (number == 1 ? kRowsOfFirstPage : kRowsOfFurtherPage));
         for (; next < end; ++next)

@@ -70,6 +70,7 @@ void writeHead(RtfDocument& document, const ProgramState& state) {
         "{\\fs24\\b\\cf2 BEARING\\tab\\tab\\ L\\sub 10 \\nosupersub  LIFE\\tab\\tab\\tab\\ L\\sub 10 "
         "\\nosupersub  LIFE (hours)}");
     document.append("\\par");
+    if (loads.speed == 0.0) document.append("{\\fs18\\cf1 " + std::string(kNoSpeedNote) + "}\\par");
 }
 
 void writeRow(RtfDocument& document, const ProgramState& state, const SearchHit& hit) {

@@ -8,6 +8,9 @@
 
 namespace norlaplan {
 
+/// Stands under the head of a list that was searched with no speed: its hours are those of no speed at all.
+constexpr const char* kNoSpeedNote = "No speed was entered: the hours do not apply.";
+
 /// The results list of the state as an RTF document, 29 rows a page.
 std::string searchRtf(const ProgramState& state, ClockPort& clock);
 

@@ -26,11 +26,12 @@ std::string shownLife(const std::string& text) {
 void fillHitModel(QStandardItemModel& model, const ProgramState& state, bool fresh) {
     model.clear();
     model.setHorizontalHeaderLabels({"", "Bearing", "L10 (rev.)", "L10 (hours)", "Stock", "Speed"});
+    const bool speed = state.loads.speed != 0.0;
     for (const SearchHit& hit : state.search.rows) {
-        const std::string mark = fresh && state.loads.speed != 0.0 ? overSpeedMark(state, hit) : "";
+        const std::string mark = fresh && speed ? overSpeedMark(state, hit) : "";
         model.appendRow({item(FormatHitLine(state, hit, mark)), item(hit.name),
                          item(shownLife(hit.l10Revolutions), Qt::AlignRight),
-                         item(shownLife(hit.l10Hours), Qt::AlignRight), item(trimmed(hit.stock)),
+                         item(speed ? shownLife(hit.l10Hours) : "", Qt::AlignRight), item(trimmed(hit.stock)),
                          item(trimmed(mark))});
     }
 }

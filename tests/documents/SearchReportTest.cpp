@@ -42,6 +42,13 @@ std::size_t countOf(const std::string& text, const std::string& part) {
     return count;
 }
 
+RecordingCanvas printed(const ProgramState& state) {
+    RecordingCanvas canvas;
+    FixedClock clock;
+    printSearch(state, clock, canvas);
+    return canvas;
+}
+
 TEST(SearchRtf, HoldsTheStatedLinesInTheirOrder) {
     const std::string rtf = rtfOf(resultsOf(2));
     std::size_t at = 0;
@@ -91,6 +98,35 @@ TEST(SearchRtf, StartsANewPageAfterEachTwentyNineRows) {
     EXPECT_LT(rtf.find("ROW29"), rtf.find(page));
 }
 
+TEST(SearchReports, SayUnderTheHeadOfTheListThatTheHoursDoNotApplyWithNoSpeed) {
+    constexpr const char* kNote = "No speed was entered: the hours do not apply.";
+    ProgramState state = resultsOf(70);
+    EXPECT_EQ(countOf(rtfOf(state), kNote), 0U);
+    EXPECT_FALSE(printed(state).hasText(kNote));
+    state.loads.speed = 0.0;
+    const std::string rtf = rtfOf(state);
+    EXPECT_EQ(countOf(rtf, kNote), 1U);
+    EXPECT_GT(rtf.find(kNote), rtf.find("LIFE (hours)"));
+    EXPECT_LT(rtf.find(kNote), rtf.find("ROW1"));
+    // On paper the head stands on every page: 26 rows, 40 rows, 4 rows.
+    const RecordingCanvas canvas = printed(state);
+    double note = 0.0;
+    int notes = 0;
+    for (const auto& text : canvas.texts) {
+        if (text.text == "Basic Bearing") note = text.box.bottom;
+        if (text.text == kNote) {
+            ++notes;
+            EXPECT_LT(text.box.top, note) << "under the head";
+            note = text.box.bottom;
+        }
+        if (text.text.rfind("ROW", 0) == 0) {
+            EXPECT_LT(text.box.top, note) << text.text;
+            EXPECT_GT(text.box.bottom, 0.8) << text.text;
+        }
+    }
+    EXPECT_EQ(notes, 3);
+}
+
 TEST(SearchRtf, CutsTheNameOfASetBeforeItsSuffix) {
     for (const auto& [caption, suffix] :
          {std::pair{"BACK-TO-BACK SET WITH SPACERS", "BR0A W/ 0.1000 spacers"},
@@ -108,13 +144,6 @@ TEST(SearchRtf, ClosesEveryGroupForAnyNumberOfPages) {
         const std::string rtf = rtfOf(resultsOf(rows));
         EXPECT_EQ(countOf(rtf, "{"), countOf(rtf, "}")) << rows;
     }
-}
-
-RecordingCanvas printed(const ProgramState& state) {
-    RecordingCanvas canvas;
-    FixedClock clock;
-    printSearch(state, clock, canvas);
-    return canvas;
 }
 
 bool footerHolds(const RecordingCanvas& canvas, const std::string& part) {
