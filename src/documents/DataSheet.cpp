@@ -29,7 +29,7 @@ void writeRunout(const SheetWriter& sheet, double top, const char* race, double 
     constexpr double kLine = 0.165;
     sheet.box({0.4, top, 1.85, top - 0.55}, "", kGreyFill);
     const std::string value = sheet.length(runout, sheet.units.runoutPicture) + " Max. FIM";
-    double y = top - 0.03;
+    double y = top - 0.04;
     for (const std::string& words : {std::string(race), std::string("Axial Runout"), value}) {
         sheet.text({0.5, y, 1.8, y - kLine}, words);
         y -= kLine;

@@ -13,6 +13,7 @@ constexpr double kLine = 0.117;
 /// Boxes are higher than the line's step: word processors cut what hangs below a box.
 constexpr double kBoxHeight = 0.16;
 constexpr double kStackLine = 0.1;
+constexpr double kBlank = 0.25 * kSize / 72.0;  ///< width of a blank of Times
 
 std::string without(const std::string& text, std::size_t characters) {
     return text.size() > characters ? text.substr(characters) : std::string();
@@ -44,7 +45,9 @@ class DetailWriter {
         const double bracket = bracketSize / 72.0;
         sheet_.text({kLeft + 0.08, middle + 0.6 * bracket, kLeft + 0.25, middle - 0.6 * bracket}, "]",
                     {bracketSize});
-        sheet_.text({kLeft + 0.2, middle + 0.07, kRight, middle + 0.07 - kBoxHeight}, meaning, {kSize});
+        // The sign of equality stands in line whether a blank is in front of it or not.
+        const double left = kLeft + (meaning.starts_with(" ") ? 0.2 - kBlank : 0.2);
+        sheet_.text({left, middle + 0.07, kRight, middle + 0.07 - kBoxHeight}, meaning, {kSize});
         for (const char digit : digits) {
             sheet_.text({kLeft, y_, kLeft + 0.15, y_ - kBoxHeight}, std::string(1, digit),
                         {kSize, "BLUE", true});
@@ -55,7 +58,7 @@ class DetailWriter {
 
   private:
     const SheetWriter& sheet_;
-    double y_ = 4.08;
+    double y_ = 4.09;
 };
 
 std::string fitMeaning(const SheetWriter& sheet) {

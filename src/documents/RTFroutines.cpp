@@ -92,9 +92,9 @@ std::string run(const SheetText& text, Alignment alignment) {
     const int halfPoints = static_cast<int>(std::lround(text.size * 2.0));
     std::string rtf = "\\pard\\plain ";
     rtf += paragraphWords(alignment);
-    // The blank of a label may stand left of its box: a five-digit one then keeps its last digit whole.
-    const bool label = text.text.rfind(' ') == 0;
-    if (alignment == Alignment::Left && label) rtf += "\\li-30";
+    const double indent = labelIndent(text);
+    if (alignment == Alignment::Left && indent > 0.0)
+        rtf += word("li", -static_cast<int>(std::lround(indent * kTwipsPerInch)));
     rtf += "\\widctlpar\\adjustright " + word("fs", halfPoints) + "\\cgrid {";
     if (text.bold) rtf += "\\b";
     rtf += colourWord(text.colour);
@@ -202,7 +202,8 @@ void RtfDocument::writeText(const SheetText& text, const Colour* fill, Alignment
     if (fill == nullptr) {
         shape += property("fFilled", 0) + property("fLine", 0);
     } else {
-        shape += property("fillColor", *fill) + property("fFilled", 1);
+        constexpr int kMiddle = 1;
+        shape += property("anchorText", kMiddle) + property("fillColor", *fill) + property("fFilled", 1);
     }
     const std::string paragraph = run(text, alignment);
     shape += "\r\n{\\shptxt " + paragraph + "}}\r\n";

@@ -43,14 +43,16 @@ void writeRatings(const SheetWriter& sheet) {
     row(sheet, 4, "Moment", moment(bearing.staticMoment), moment(bearing.dynamicMoment));
 
     sheet.document.TINTEDTTEXTBOX({kLeft, 1.7, kRight, 1.08}, kTintFore, kTintBack);
-    constexpr double kLine = 0.15;
-    double y = 1.69;
+    // The longest line just fits: it begins so that its blank stands on the frame and both ends are free.
+    constexpr double kNoteLeft = kLeft - 0.008;
+    constexpr double kLine = 0.14;
+    double y = 1.67;
     for (const std::string& words :
          {std::string(" Capacities do not apply simultaneously, and are based on"),
           "   the '" + bearing.separatorCode + "' separator.  The Static ratings are based on the",
           std::string("   onset of permanent non-detrimental deformation.  The "),
           std::string(" Dynamic rating is based on 1,000,000 revolutions L10 life.")}) {
-        sheet.text({kLeft, y, kRight, y - kLine}, words);
+        sheet.text({kNoteLeft, y, kRight, y - kLine}, words);
         y -= kLine;
     }
 }

@@ -1,9 +1,14 @@
+#include <algorithm>
+
 #include "documents/LogoMetafile.h"
 #include "documents/SheetRecords.h"
 #include "numbers/Text.h"
 
 namespace norlaplan {
 namespace {
+
+/// Where the document's own margin is; a box that is stated wider ends there.
+constexpr double kRightMargin = 8.0;
 
 Colour colourNamed(const std::string& name) {
     const std::string upper = upperCase(name);
@@ -36,13 +41,20 @@ class Painter {
   public:
     explicit Painter(Canvas& canvas) : canvas_(canvas) {}
 
-    void operator()(const SheetText& text) const { canvas_.text(text.box, text.text, lookOf(text)); }
+    void operator()(const SheetText& text) const {
+        PageBox place = text.box;
+        place.left -= labelIndent(text);
+        canvas_.text(place, text.text, lookOf(text));
+    }
 
     void operator()(const SheetTextBox& box) const {
-        canvas_.rectangle(box.text.box, box.fill, PagePen{});
+        PageBox place = box.text.box;
+        place.right = std::min(place.right, kRightMargin);
+        canvas_.rectangle(place, box.fill, PagePen{});
         TextLook look = lookOf(box.text);
         look.alignment = Alignment::Centre;
-        if (!box.text.text.empty()) canvas_.text(box.text.box, box.text.text, look);
+        look.middle = true;
+        if (!box.text.text.empty()) canvas_.text(place, box.text.text, look);
     }
 
     void operator()(const SheetTint& tint) const { canvas_.rectangle(tint.box, tint.fill, PagePen{}); }

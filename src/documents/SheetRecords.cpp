@@ -195,6 +195,11 @@ std::string_view takeLine(std::string_view& text) {
 
 }  // namespace
 
+double labelIndent(const SheetText& text) {
+    constexpr double kBlank = 30.0 / 1440.0;
+    return text.text.rfind(' ') == 0 ? kBlank : 0.0;
+}
+
 BadSheetRecord::BadSheetRecord(const std::string& line)
     : std::runtime_error("The drawing of the data sheet holds a line that it can't mean: " + line) {}
 

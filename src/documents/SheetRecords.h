@@ -20,7 +20,11 @@ struct SheetText {
     std::string font;
     bool vertical = false, italic = false;
 };
-/// A filled, framed box with its text centred.
+/// How far left of its box a text begins, in inches. A chart's label has a blank in front: it may stand
+/// outside, so that the figures are in the middle and a fifth digit has room.
+double labelIndent(const SheetText& text);
+
+/// A filled, framed box with its text centred both ways.
 struct SheetTextBox {
     SheetText text;
     Colour fill = 0;

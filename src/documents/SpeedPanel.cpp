@@ -84,16 +84,73 @@ void writeScale(const SheetWriter& sheet, double most) {
     }
 }
 
-void writeCurve(const SheetWriter& sheet, const Lubrication& lubrication, double most) {
-    // Beyond the largest scale the curve runs along the chart's edge; its number still tells.
-    const double limit = std::clamp(lubrication.limit, 0.0, most);
-    const double y = kChartBottom + kChartHeight * limit / most;
-    const double y2 = kChartBottom + kChartHeight * 0.2 * limit / most;
-    sheet.line({kKnee, y}, {kChartLeft, y}, lubrication.colour, kDouble);
-    sheet.line({kKnee, y}, {kFoot, y2}, lubrication.colour, kDouble);
-    sheet.line({kFoot, y2}, {kChartRight, y2}, lubrication.colour, kDouble);
-    sheet.text({kChartLeft, y + 0.12, kKnee, y}, FormatNumber(lubrication.limit, "0"),
-               {7.0, lubrication.colourName});
+/// One limit on the chart: where its curve begins and ends.
+struct Curve {
+    const Lubrication& lubrication;
+    double high, low;  ///< page inches of full speed and of a fifth of it
+};
+
+std::vector<Curve> curvesOf(const std::vector<Lubrication>& shown, double most) {
+    std::vector<Curve> curves;
+    for (const Lubrication& lubrication : shown) {
+        // Beyond the largest scale the curve runs along the chart's edge; its number still tells.
+        const double limit = std::clamp(lubrication.limit, 0.0, most);
+        curves.push_back({lubrication, kChartBottom + kChartHeight * limit / most,
+                          kChartBottom + kChartHeight * 0.2 * limit / most});
+    }
+    return curves;
+}
+
+void writeCurve(const SheetWriter& sheet, const Curve& curve) {
+    const Colour colour = curve.lubrication.colour;
+    sheet.line({kKnee, curve.high}, {kChartLeft, curve.high}, colour, kDouble);
+    sheet.line({kKnee, curve.high}, {kFoot, curve.low}, colour, kDouble);
+    sheet.line({kFoot, curve.low}, {kChartRight, curve.low}, colour, kDouble);
+}
+
+// Figures of Times at the size of the chart's numbers, in inches.
+constexpr double kFigureSize = 7.0;
+constexpr double kEm = kFigureSize / 72.0;
+constexpr double kFigureWidth = 0.5 * kEm;
+constexpr double kFigureHeight = 0.676 * kEm;
+constexpr double kTextTop = 0.891 * kEm;  ///< of a line of text above the feet of its figures
+constexpr double kTextBox = 0.12;
+
+/// The feet of a limit's figures: above its curve, or below it where the frame or the next curve is too near.
+double feetOfFigures(const std::vector<Curve>& curves, const Curve& own) {
+    constexpr double kNear = 0.015;
+    constexpr double kFar = kTextBox - kTextTop;  // the box of the text then stands on the curve
+    double next = kChartTop;
+    for (const Curve& other : curves) {
+        if (other.high > own.high) next = std::min(next, other.high);
+    }
+    const double free = next - own.high - kFigureHeight;
+    if (free < 2.0 * kNear) return own.high - kFar - kFigureHeight;
+    return own.high + std::min(free / 2.0, kFar);
+}
+
+/// White behind the figures, so that no grid line strikes them through; the curves go over it.
+void writePatch(const SheetWriter& sheet, const std::string& figures, double feet) {
+    constexpr double kEdge = 0.008;
+    constexpr double kEmuPerInch = 914400.0;
+    const double y = feet + kFigureHeight / 2.0;
+    const double right = kChartLeft + kFigureWidth * static_cast<double>(figures.size());
+    sheet.line({kChartLeft - kEdge, y}, {right + kEdge, y}, colours::kWhite,
+               (kFigureHeight + 2.0 * kEdge) * kEmuPerInch);
+}
+
+void writeCurves(const SheetWriter& sheet, const std::vector<Lubrication>& shown, double most) {
+    const std::vector<Curve> curves = curvesOf(shown, most);
+    const auto figures = [](const Curve& curve) { return FormatNumber(curve.lubrication.limit, "0"); };
+    for (const Curve& curve : curves)
+        writePatch(sheet, figures(curve), feetOfFigures(curves, curve));
+    for (const Curve& curve : curves)
+        writeCurve(sheet, curve);
+    for (const Curve& curve : curves) {
+        const double top = feetOfFigures(curves, curve) + kTextTop;
+        sheet.text({kChartLeft, top, kKnee, top - kTextBox}, figures(curve),
+                   {kFigureSize, curve.lubrication.colourName});
+    }
 }
 
 void writeLegend(const SheetWriter& sheet, const std::vector<Lubrication>& shown) {
@@ -111,11 +168,14 @@ void writeLegend(const SheetWriter& sheet, const std::vector<Lubrication>& shown
 
 void writeFitNote(const SheetWriter& sheet) {
     sheet.box({4.6, 1.8, 5.9, 1.5}, "", kPaleFill, {7.0});
-    double y = 1.803;
+    // Three lines of this size just fit: the blanks in front stand on the frame, the lines close together.
+    constexpr double kNoteLeft = 4.591;
+    constexpr double kLine = 0.09;
+    double y = 1.805;
     for (const char* const words : {" Speeds shown are for '0' preload ", " only.  Check actual fit value ",
                                     " for more information. "}) {
-        sheet.text({4.6, y, 5.9, y - 0.13}, words, {7.0, "RED"});
-        y -= 0.095;
+        sheet.text({kNoteLeft, y, 5.9, y - 0.13}, words, {7.0, "RED"});
+        y -= kLine;
     }
 }
 
@@ -139,8 +199,7 @@ void writeSpeedPanel(const SheetWriter& sheet) {
     const double most = NiceAxisMaximum(shown.back().limit);
     writeFrame(sheet);
     writeScale(sheet, most);
-    for (const Lubrication& lubrication : shown)
-        writeCurve(sheet, lubrication, most);
+    writeCurves(sheet, shown, most);
     writeLegend(sheet, shown);
     if (sheet.bearing.fitLetter != "Z") writeFitNote(sheet);
 }

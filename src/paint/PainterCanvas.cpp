@@ -87,12 +87,14 @@ void PainterCanvas::usePageScale() {
 }
 
 void PainterCanvas::usePen(const PagePen& pen) {
+    // A line as wide as a figure is a patch behind one: it ends at its points.
+    constexpr double kPatch = 38100.0;
     // Never thinner than a dot of the device: at small zooms hair lines would fade away.
     const double width = std::max(pen.width / kEmuPerTwip, kTwips / pixelsPerInch_);
     QPen line(colourOf(pen.colour), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     if (pen.dash == kDashed) line.setDashPattern({6.0, 4.0});
     if (pen.dash == kDashDotted) line.setDashPattern({12.0, 4.0, 1.0, 4.0});
-    if (pen.dash != 0) line.setCapStyle(Qt::FlatCap);
+    if (pen.dash != 0 || pen.width >= kPatch) line.setCapStyle(Qt::FlatCap);
     painter_.setPen(line);
 }
 
@@ -126,8 +128,14 @@ void PainterCanvas::text(const PageBox& box, std::string_view text, const TextLo
     painter_.translate(look.vertical ? area.bottomLeft() : area.topLeft());
     if (look.vertical) painter_.rotate(-90.0);
     const double room = look.vertical ? area.height() : area.width();
+    const QStringList lines = textOf(text).split(QLatin1Char('\n'));
     double baseline = metrics.ascent();
-    for (const QString& line : textOf(text).split(QLatin1Char('\n'))) {
+    if (look.middle) {
+        const double height =
+            metrics.height() + static_cast<double>(lines.size() - 1) * metrics.lineSpacing();
+        baseline += ((look.vertical ? area.width() : area.height()) - height) / 2.0;
+    }
+    for (const QString& line : lines) {
         const double start = startOf(room, metrics.horizontalAdvance(line), look.alignment);
         painter_.drawText(QPointF(start, baseline), line);
         baseline += metrics.lineSpacing();

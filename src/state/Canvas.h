@@ -52,6 +52,7 @@ struct TextLook {
     bool underline = false;
     bool vertical = false;  ///< turned to read upward
     Alignment alignment = Alignment::Left;
+    bool middle = false;  ///< in the middle of the box's height instead of at its top
 };
 
 /// Where a drawing goes: the screen, the printer, PDF, a picture file. Every drawing of the program is made
@@ -65,7 +66,8 @@ class Canvas {
     virtual void rectangle(const PageBox& box, std::optional<Colour> fill,
                            const std::optional<PagePen>& frame) = 0;
     virtual void circle(PagePoint centre, double radius, const PagePen& pen) = 0;
-    /// Text (UTF-8) with its first line at the top of the box, aligned between left and right; never clipped.
+    /// Text (UTF-8) with its first line at the top of the box, or all of it in the middle of its height,
+    /// aligned between left and right; never clipped.
     virtual void text(const PageBox& box, std::string_view text, const TextLook& look) = 0;
     /// Width of a text in inches, for layouts that go on behind it.
     virtual double textWidth(std::string_view text, const TextLook& look) = 0;

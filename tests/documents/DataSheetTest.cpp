@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -70,6 +71,54 @@ TEST(DataSheet, ShowsOnePairOfFitsWithTheirNoteWhenTheSecondColumnIsZero) {
     EXPECT_TRUE(canvas.hasText(" = Special Internal Fitup"));
     EXPECT_FALSE(canvas.hasText("If Used Face-to-Face"));
     EXPECT_FALSE(canvas.hasText(" only.  Check actual fit value "));
+}
+
+TEST(DataSheet, CutsTheInfoBoxAtTheMarginAndKeepsItsRecord) {
+    Sheet sheet;
+    const RecordingCanvas canvas = sheet.draw();
+    const auto box = std::find_if(canvas.rectangles.begin(), canvas.rectangles.end(),
+                                  [](const auto& drawn) { return drawn.box.left == 5.25; });
+    ASSERT_NE(box, canvas.rectangles.end());
+    EXPECT_EQ(box->box.right, 8.0);
+    EXPECT_EQ(box->box.top, 4.96);
+    EXPECT_NE(sheet.files.records.find("9.636"), std::string::npos);
+}
+
+TEST(DataSheet, SetsTheTextsOfItsCellsInTheirMiddle) {
+    Sheet sheet;
+    const RecordingCanvas canvas = sheet.draw();
+    for (const auto& text : canvas.texts) {
+        // Cells are centred texts with a box of their own; everything else begins at its stated top.
+        EXPECT_EQ(text.look.middle, text.look.alignment == Alignment::Centre) << text.text;
+    }
+    for (const char* const cell : {"Radial", " 11,543 lbs.", "Part Number Detail", "7.4988", "Ø Housing"}) {
+        const auto at = std::find_if(canvas.texts.begin(), canvas.texts.end(),
+                                     [&](const auto& text) { return text.text == cell; });
+        ASSERT_NE(at, canvas.texts.end()) << cell;
+        EXPECT_TRUE(at->look.middle) << cell;
+    }
+}
+
+TEST(DataSheet, LeavesTheNotesClearOfTheirFrames) {
+    Sheet sheet;
+    const RecordingCanvas canvas = sheet.draw();
+    const struct {
+        const char *first, *last;
+        double size, top, bottom;
+    } notes[] = {{" Capacities do not apply simultaneously, and are based on",
+                  " Dynamic rating is based on 1,000,000 revolutions L10 life.", 9.0, 1.7, 1.08},
+                 {" Speeds shown are for '0' preload ", " for more information. ", 7.0, 1.8, 1.5}};
+    for (const auto& note : notes) {
+        double first = 0.0, last = 0.0;
+        for (const auto& text : canvas.texts) {
+            if (text.text == note.first) first = text.box.top;
+            if (text.text == note.last) last = text.box.top;
+        }
+        // Times: capitals from 0.229 em below the top of the line to 0.891, tails to 1.107.
+        const double em = note.size / 72.0;
+        EXPECT_GT(note.top - (first - 0.208 * em), 0.012) << note.first;
+        EXPECT_GT(last - 1.107 * em - note.bottom, 0.012) << note.last;
+    }
 }
 
 TEST(DataSheet, WithoutItsOverlayIsFileNotFound) {

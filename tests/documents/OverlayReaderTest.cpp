@@ -114,10 +114,22 @@ TEST(Overlay, DividesAnArcIntoEqualChordsEitherWay) {
     EXPECT_NEAR(line(right, 0).to.y, 0.625 - std::sin(kThreeDegrees), 1e-12);
 }
 
-TEST(Overlay, LeavesThePenAtTheEndOfAnArc) {
-    const auto records = drawn("PU1016,0;AA0,0,90;PD0,2032;");
-    EXPECT_NEAR(line(records, 30).from.x, 0.25, 1e-9);
-    EXPECT_NEAR(line(records, 30).from.y, 1.625, 1e-9);
+// The standard's own rule: the pen goes along the arc.
+TEST(Overlay, AnArcLeavesThePenWhereItEnds) {
+    const struct {
+        const char* sweep;
+        double x, y;  ///< from the centre in inches, with the pen at (1, 0) before
+    } rows[] = {{"90", 0, 1}, {"-90", 0, -1}, {"180", -1, 0}, {"270", 0, -1}};
+    for (const auto& row : rows) {
+        const auto records = drawn(std::string("PU1016,0;AA0,0,") + row.sweep + ";PD0,2032;");
+        ASSERT_EQ(records.size(), 31U) << row.sweep;
+        EXPECT_NEAR(line(records, 30).from.x - 0.25, row.x, 1e-9) << row.sweep;
+        EXPECT_NEAR(line(records, 30).from.y - 0.625, row.y, 1e-9) << row.sweep;
+    }
+    const auto circle = drawn("PU1016,0;AA0,0,360;PD0,2032;");
+    ASSERT_EQ(circle.size(), 2U);
+    EXPECT_DOUBLE_EQ(line(circle, 1).from.x, 1.25) << "a full turn ends where it began";
+    EXPECT_DOUBLE_EQ(line(circle, 1).from.y, 0.625);
 }
 
 TEST(Overlay, TakesTwoPointsAnInstructionAndNoMore) {

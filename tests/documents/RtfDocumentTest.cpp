@@ -74,11 +74,18 @@ TEST(RtfTextShape, NeverReachesBeyondThePageOnTheRight) {
     EXPECT_NE(document.records().find("9.636"), std::string::npos) << "the record keeps the stated number";
 }
 
+TEST(RtfTextShape, BeginsAtTheTopOfItsBox) {
+    RtfDocument document;
+    document.RTFDATASHEETTEXT(sample());
+    EXPECT_FALSE(has(document, "anchorText"));
+}
+
 TEST(RtfTextBox, IsFilledAndCentred) {
     RtfDocument document;
     document.RTFTEXTWBOX({sample(), rgb(221, 221, 221)});
     EXPECT_TRUE(has(document, property("fillColor", std::to_string(221 + 221 * 256 + 221 * 65536))));
     EXPECT_TRUE(has(document, property("fFilled", "1")));
+    EXPECT_TRUE(has(document, property("anchorText", "1"))) << "in the middle of its height";
     EXPECT_TRUE(has(document, "\\qc"));
     EXPECT_TRUE(has(document, "\\dpfillbgcr221\\dpfillbgcg221\\dpfillbgcb221"));
 }
