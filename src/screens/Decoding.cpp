@@ -10,7 +10,7 @@ DecodeEnd decodeCurrentBearing(Screens& screens) {
     DecodeServices decode{services.folder, services.messages, services.clock, services.sheets};
     const BusyPointer busy;
     const DecodeEnd end = DecodePartNumber(services.state, services.state.bearing.partNumber, decode).end;
-    if (end == DecodeEnd::BackToEntry) screens.formAs<Form9>("Form9").startAgain();
+    if (end == DecodeEnd::BackToEntry) screens.formAs<Form9>(forms::kPartNumber).startAgain();
     return end;
 }
 

@@ -8,8 +8,8 @@
 
 namespace norlaplan {
 
-Form::Form(Screens& screens, const char* name, const QString& caption) : screens_(screens) {
-    setObjectName(QString::fromUtf8(name));
+Form::Form(Screens& screens, FormName name, const QString& caption) : screens_(screens) {
+    setObjectName(QString::fromUtf8(name.text));
     setWindowTitle(caption);
     setAutoFillBackground(true);
 }

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "screens/FormRegistry.h"
 #include "screens/Services.h"
 
 namespace norlaplan {
@@ -14,10 +15,13 @@ class Screens;
 /// controls carry their names ("Command3") as object names.
 class Form : public QWidget {
   public:
-    Form(Screens& screens, const char* name, const QString& caption);
+    Form(Screens& screens, FormName name, const QString& caption);
 
-    /// The form has come to the front: bring what it shows up to date.
-    virtual void activated() {}
+    /// The form has been opened: it starts anew with what the program knows now.
+    virtual void opened() {}
+    /// The form is in front again after one that lay over it was left. What it showed still stands unless it
+    /// says otherwise.
+    virtual void cameBack() {}
 
     /// The form is about to appear in the middle of a screen with this room. Unless a form says otherwise it
     /// takes the size of its contents the first time and then keeps the user's.

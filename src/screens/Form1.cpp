@@ -23,7 +23,7 @@ constexpr QSize kExtraPicture(150, 100);
 
 }  // namespace
 
-Form1::Form1(Screens& screens) : Form(screens, "Form1", "Form1") {
+Form1::Form1(Screens& screens) : Form(screens, forms::kStart, "Form1") {
     auto* const picture = new Picture("Image2", "Picture of a thin-section bearing", kStartPicture);
     picture->showFile(services().folder, "\\bkground\\start.png");
     logo_ = picture;
@@ -100,7 +100,7 @@ void Form1::dressForNedGrove() {
 
 void Form1::start() {
     timer_->stop();
-    screens().showAlone("Form3");
+    screens().showAlone(forms::kMainMenu);
 }
 
 void Form1::showWarranty() {
@@ -113,13 +113,13 @@ void Form1::closed() {
 }
 
 void ShowStartScreen(Screens& screens) {
-    auto& form = screens.formAs<Form1>("Form1");
+    auto& form = screens.formAs<Form1>(forms::kStart);
     const Services& services = screens.services();
     const StartUp outcome = startUp(services.state, services.folder);
     if (outcome.pressStart) form.pressStart();
-    if (outcome.pressEnterModelNumber) screens.formAs<Form3>("Form3").pressEnterModelNumber();
+    if (outcome.pressEnterModelNumber) screens.formAs<Form3>(forms::kMainMenu).pressEnterModelNumber();
     if (outcome.showNedGrove) form.dressForNedGrove();
-    if (!outcome.pressStart) screens.show("Form1");
+    if (!outcome.pressStart) screens.show(forms::kStart);
     if (!outcome.notice.empty()) services.messages.show({"SETTINGS.INI", outcome.notice, Icon::Warning});
 }
 

@@ -14,7 +14,7 @@
 
 namespace norlaplan {
 
-Form12::Form12(Screens& screens) : Form(screens, "Form12", "Bearing Size Selection") {
+Form12::Form12(Screens& screens) : Form(screens, forms::kSizes, "Bearing Size Selection") {
     for (std::size_t i = 0; i < labels_.size(); ++i) {
         labels_[i] =
             build::label(QByteArray("Label" + QByteArray::number(static_cast<int>(i) + 1)).constData());
@@ -35,7 +35,8 @@ Form12::Form12(Screens& screens) : Form(screens, "Form12", "Bearing Size Selecti
     enterMovesTo(*minHeight_, [this]() -> QWidget* { return proceed_; });
     on(previous_, &QPushButton::clicked, "Previous", [this] { goToPrevious(); });
     on(proceed_, &QPushButton::clicked, "Proceed to load input", [this] { proceed(); });
-    on(mainMenu_, &QPushButton::clicked, "Main Menu", [this] { this->screens().showAlone("Form3"); });
+    on(mainMenu_, &QPushButton::clicked, "Main Menu",
+       [this] { this->screens().showAlone(forms::kMainMenu); });
 
     auto* const grid = theme::spaced(new QGridLayout, 0);
     const std::array<NumberField*, 4> fields = {minBore_, maxOd_, maxHeight_, minHeight_};
@@ -46,7 +47,7 @@ Form12::Form12(Screens& screens) : Form(screens, "Form12", "Bearing Size Selecti
     build::layOutEntry(*this, {picture_, grid, minHeight_, proceed_, previous_, mainMenu_});
 }
 
-void Form12::activated() {
+void Form12::opened() {
     showSizesAgain(state());
     refresh();
     minBore_->setFocus();
@@ -71,8 +72,7 @@ void Form12::refresh() {
 }
 
 void Form12::goToPrevious() {
-    screens().hide(*this);
-    screens().show("Form16");
+    screens().showInstead(*this, forms::kStyle);
 }
 
 void Form12::proceed() {
@@ -81,8 +81,7 @@ void Form12::proceed() {
         return;
     }
     refresh();
-    screens().hide(*this);
-    screens().show("Form14");
+    screens().showInstead(*this, forms::kLoads);
 }
 
 }  // namespace norlaplan

@@ -17,7 +17,7 @@ class Form12 : public Form {
   public:
     explicit Form12(Screens& screens);
 
-    void activated() override;
+    void opened() override;
 
   private:
     void goToPrevious();

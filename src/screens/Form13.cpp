@@ -14,7 +14,7 @@
 
 namespace norlaplan {
 
-Form13::Form13(Screens& screens) : Form(screens, "Form13", "List Sort Options") {
+Form13::Form13(Screens& screens) : Form(screens, forms::kSort, "List Sort Options") {
     bore_ = build::option("Option1", "Bore Diameter");
     od_ = build::option("Option2", "Outer Diameter");
     life_ = build::option("Option3", "L10 Life");
@@ -43,7 +43,7 @@ Form13::Form13(Screens& screens) : Form(screens, "Form13", "List Sort Options") 
     page->addWidget(process_, 0, Qt::AlignRight);
 }
 
-void Form13::activated() {
+void Form13::opened() {
     process_->setFocus();
 }
 
@@ -56,7 +56,6 @@ void Form13::process() {
                                                       : kSortByBore;
     results.sortDirection = ascending_->isChecked() ? "UP" : "DOWN";
     sortHits(results);
-    results.sortPending = false;
     screens().hide(*this);
 }
 

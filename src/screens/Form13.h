@@ -12,7 +12,7 @@ class Form13 : public Form {
   public:
     explicit Form13(Screens& screens);
 
-    void activated() override;
+    void opened() override;
 
   private:
     void process();

@@ -14,7 +14,7 @@
 
 namespace norlaplan {
 
-Form14::Form14(Screens& screens) : Form(screens, "Form14", "Bearing Load Input") {
+Form14::Form14(Screens& screens) : Form(screens, forms::kLoads, "Bearing Load Input") {
     EntryTexts& texts = state().entries;
     radialLabel_ = build::label("Label1");
     axialLabel_ = build::label("Label2");
@@ -56,7 +56,7 @@ void Form14::layOut() {
     build::layOutEntry(*this, {picture_, grid, speed_, proceed_, previous_, mainMenu_});
 }
 
-void Form14::activated() {
+void Form14::opened() {
     prepareLoadEntry(state());
     refresh();
     radial_->setFocus();
@@ -99,13 +99,11 @@ bool Form14::enter() {
 void Form14::proceed() {
     if (!enter()) return;
     const bool known = state().knownBearingLoadInput;
-    screens().hide(*this);
-    screens().show(known ? "Form19" : "Form15");
+    screens().showInstead(*this, known ? forms::kLife : forms::kResults);
 }
 
 void Form14::goToPrevious() {
-    screens().hide(*this);
-    screens().show("Form12");
+    screens().showInstead(*this, forms::kSizes);
 }
 
 void Form14::closed() {
@@ -117,7 +115,7 @@ void Form14::goToMainMenu() {
     // Refused, the screen stays and still serves the path that it was opened for.
     if (!enter()) return;
     state().knownBearingLoadInput = false;
-    screens().showAlone("Form3");
+    screens().showAlone(forms::kMainMenu);
 }
 
 }  // namespace norlaplan

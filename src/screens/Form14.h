@@ -15,7 +15,7 @@ class Form14 : public Form {
   public:
     explicit Form14(Screens& screens);
 
-    void activated() override;
+    void opened() override;
     void closed() override;
 
   private:

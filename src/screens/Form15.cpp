@@ -50,7 +50,7 @@ QGroupBox* frameOf(const char* name, const char* caption, const char* tip,
 
 }  // namespace
 
-Form15::Form15(Screens& screens) : Form(screens, "Form15", "Life Calculation Results") {
+Form15::Form15(Screens& screens) : Form(screens, forms::kResults, "Life Calculation Results") {
     layOut();
     connectActions();
 }
@@ -147,21 +147,24 @@ void Form15::connectActions() {
             [this](const QModelIndex& row) { list_->setCurrentIndex(row.row()); });
 }
 
-void Form15::activated() {
-    SearchResults& results = state().search;
+void Form15::opened() {
     keepLow();
-    if (results.noResultFlag) {
-        screens().hide(*this);
-        screens().show("Form12");
-    } else if (results.listOnlyFlag) {
-        results.listOnlyFlag = false;
-        fillList(false);
-    } else if (results.sortPending) {
-        // The sort screen was closed without sorting.
-        results.sortPending = false;
-    } else {
+    if (state().search.noResultFlag)
+        screens().showInstead(*this, forms::kSizes);
+    else if (!takeSortedList())
         search();
-    }
+}
+
+void Form15::cameBack() {
+    keepLow();
+    takeSortedList();
+}
+
+bool Form15::takeSortedList() {
+    if (!state().search.listOnlyFlag) return false;
+    state().search.listOnlyFlag = false;
+    fillList(false);
+    return true;
 }
 
 void Form15::keepLow() {
@@ -180,16 +183,14 @@ void Form15::search() {
         SearchProgress progress(*this);
         end = RunBearingSearch(state(), services().folder, services().messages, progress);
     } catch (...) {
-        screens().hide(*this);
-        screens().show("Form14");
+        screens().showInstead(*this, forms::kLoads);
         throw;
     }
     if (end == SearchEnd::Found) {
         fillList(true);
         return;
     }
-    screens().hide(*this);
-    screens().show(end == SearchEnd::NoneFound ? "Form12" : "Form14");
+    screens().showInstead(*this, end == SearchEnd::NoneFound ? forms::kSizes : forms::kLoads);
 }
 
 void Form15::showRequirements() {
@@ -251,24 +252,21 @@ DecodeEnd Form15::decodeChosen() {
 
 void Form15::goToMainMenu() {
     const bool chosen = list_->currentIndex() >= 0;
-    if (!chosen || decodeChosen() != DecodeEnd::BackToEntry) screens().showAlone("Form3");
+    if (!chosen || decodeChosen() != DecodeEnd::BackToEntry) screens().showAlone(forms::kMainMenu);
 }
 
 void Form15::goToPrevious() {
-    screens().hide(*this);
-    screens().show("Form14");
+    screens().showInstead(*this, forms::kLoads);
 }
 
 void Form15::sort() {
-    state().search.sortPending = true;
-    screens().show("Form13");
+    screens().show(forms::kSort);
 }
 
 void Form15::showDataSheet() {
     // The sheet on show is that of the last decode, so the chosen bearing is decoded first.
     if (list_->currentIndex() < 0 || decodeChosen() != DecodeEnd::Decoded) return;
-    screens().hide(*this);
-    screens().show("Form17");
+    screens().showInstead(*this, forms::kDataSheet);
 }
 
 void Form15::print() {

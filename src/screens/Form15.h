@@ -19,7 +19,8 @@ class Form15 : public Form {
   public:
     explicit Form15(Screens& screens);
 
-    void activated() override;
+    void opened() override;
+    void cameBack() override;
 
   private:
     QGroupBox* requirementsFrame();
@@ -30,6 +31,8 @@ class Form15 : public Form {
     void layOut();
     void connectActions();
 
+    /// Shows the rows anew after a sort; false when there was none.
+    bool takeSortedList();
     void search();
     void showRequirements();
     /// Fills the list from the rows; freshly computed ones carry their over-speed marks.

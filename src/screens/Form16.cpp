@@ -38,7 +38,7 @@ QToolButton* pictureButton(std::size_t row, const ProgramFolder& folder) {
 
 }  // namespace
 
-Form16::Form16(Screens& screens) : Form(screens, "Form16", "Bearing Style Selection") {
+Form16::Form16(Screens& screens) : Form(screens, forms::kStyle, "Bearing Style Selection") {
     auto* const group = new QButtonGroup(this);
     for (std::size_t row = 0; row < pictures_.size(); ++row) {
         pictures_[row] = pictureButton(row, services().folder);
@@ -71,7 +71,7 @@ Form16::Form16(Screens& screens) : Form(screens, "Form16", "Bearing Style Select
     setTabOrder(proceed_, mainMenu_);
 }
 
-void Form16::activated() {
+void Form16::opened() {
     refresh();
 }
 
@@ -95,13 +95,12 @@ void Form16::proceed() {
         return;
     }
     takeStyle();
-    screens().hide(*this);
-    screens().show("Form12");
+    screens().showInstead(*this, forms::kSizes);
 }
 
 void Form16::goToMainMenu() {
     if (!state().style.searchStyleCaption.empty()) takeStyle();
-    screens().showAlone("Form3");
+    screens().showAlone(forms::kMainMenu);
 }
 
 void Form16::refresh() {

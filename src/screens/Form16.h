@@ -15,7 +15,7 @@ class Form16 : public Form {
   public:
     explicit Form16(Screens& screens);
 
-    void activated() override;
+    void opened() override;
 
   private:
     void chooseStyle(std::size_t row);

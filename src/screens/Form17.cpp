@@ -29,7 +29,7 @@ int pixels(double units) {
 
 }  // namespace
 
-Form17::Form17(Screens& screens) : Form(screens, "Form17", "Drawing Display") {
+Form17::Form17(Screens& screens) : Form(screens, forms::kDataSheet, "Drawing Display") {
     sheet_ = new SheetView("Picture2");
     scroll_ = new QScrollBar(Qt::Vertical);
     scroll_->setObjectName(QStringLiteral("VScroll1"));
@@ -42,7 +42,7 @@ Form17::Form17(Screens& screens) : Form(screens, "Form17", "Drawing Display") {
 
     sheet_->changed = [this] { fitScrollBar(); };
     on(scroll_, &QScrollBar::valueChanged, "Scroll", [this] { sheet_->scrollTo(scroll_->value()); });
-    on(menu, &QPushButton::clicked, "Main Menu", [this] { this->screens().show("Form3"); });
+    on(menu, &QPushButton::clicked, "Main Menu", [this] { this->screens().show(forms::kMainMenu); });
     on(redrawButton, &QPushButton::clicked, "Redraw", [this] { redraw(); });
     on(saveButton, &QPushButton::clicked, "Save", [this] { save(); });
     on(printButton, &QPushButton::clicked, "Print", [this] { print(); });
@@ -69,7 +69,7 @@ void Form17::fitToScreen(const QRect& room) {
     resize(wanted.boundedTo(room.size()));
 }
 
-void Form17::activated() {
+void Form17::opened() {
     redraw();
     scroll_->setFocus();
 }

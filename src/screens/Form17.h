@@ -13,7 +13,7 @@ class Form17 : public Form {
   public:
     explicit Form17(Screens& screens);
 
-    void activated() override;
+    void opened() override;
     void fitToScreen(const QRect& room) override;
 
   protected:

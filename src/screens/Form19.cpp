@@ -50,7 +50,7 @@ const char* frameCaption(const std::string& style) {
 
 }  // namespace
 
-Form19::Form19(Screens& screens) : Form(screens, "Form19", "Load Life Calculation for") {
+Form19::Form19(Screens& screens) : Form(screens, forms::kLife, "Load Life Calculation for") {
     layOut();
     connectActions();
 }
@@ -158,19 +158,16 @@ void Form19::connectActions() {
     on(mainMenu_, &QPushButton::clicked, "Main Menu", [this] { goToMainMenu(); });
     on(print_, &QPushButton::clicked, "Print", [this] { print(); });
     on(save_, &QPushButton::clicked, "Save", [this] { save(); });
-    on(ballPlot_, &QPushButton::clicked, "Ball Load Plot", [this] { openSideScreen("tlodestarballloads"); });
-    on(lubeFilm_, &QPushButton::clicked, "Lube Film Check", [this] { openSideScreen("Form27"); });
-    on(contactStress_, &QPushButton::clicked, "Contact Stress", [this] { openSideScreen("form30"); });
+    on(ballPlot_, &QPushButton::clicked, "Ball Load Plot", [this] { screens().show(forms::kBallLoadGraph); });
+    on(lubeFilm_, &QPushButton::clicked, "Lube Film Check", [this] { screens().show(forms::kLubeFilm); });
+    on(contactStress_, &QPushButton::clicked, "Contact Stress",
+       [this] { screens().show(forms::kContactStress); });
     on(analysis_, &QPushButton::clicked, "Show Sams Tlodestar Results",
-       [this] { openSideScreen("DataForm"); });
+       [this] { screens().show(forms::kAnalysis); });
 }
 
-void Form19::activated() {
+void Form19::opened() {
     ProgramState& now = state();
-    if (now.returningFromSideScreen) {
-        now.returningFromSideScreen = false;
-        return;
-    }
     const bool fromLoadScreen = now.knownBearingLoadInput;
     now.knownBearingLoadInput = false;
     showOptions();
@@ -267,13 +264,12 @@ void Form19::showResults() {
 
 void Form19::goToPrevious() {
     state().knownBearingLoadInput = true;
-    screens().hide(*this);
-    screens().show("Form14");
+    screens().showInstead(*this, forms::kLoads);
 }
 
 void Form19::goToMainMenu() {
     state().knownBearingLoadInput = false;
-    screens().showAlone("Form3");
+    screens().showAlone(forms::kMainMenu);
 }
 
 void Form19::closed() {
@@ -286,12 +282,6 @@ void Form19::keyPressEvent(QKeyEvent* event) {
         return;
     }
     Form::keyPressEvent(event);
-}
-
-void Form19::openSideScreen(const char* name) {
-    // Only a screen that opens is one to come back from.
-    state().returningFromSideScreen = screens().knows(name);
-    screens().show(name);
 }
 
 void Form19::print() {

@@ -16,7 +16,7 @@ class Form19 : public Form {
   public:
     explicit Form19(Screens& screens);
 
-    void activated() override;
+    void opened() override;
     void closed() override;
 
   protected:
@@ -43,7 +43,6 @@ class Form19 : public Form {
 
     void goToPrevious();
     void goToMainMenu();
-    void openSideScreen(const char* name);
     void print();
     void save();
 

@@ -10,7 +10,7 @@
 #include "screens/Theme.h"
 
 namespace norlaplan {
-Form2::Form2(Screens& screens) : Form(screens, "Form2", "") {
+Form2::Form2(Screens& screens) : Form(screens, forms::kTextViewer, "") {
     text_ = new RichTextBox;
     text_->setObjectName(QStringLiteral("RichTextBox1"));
     text_->setAccessibleName(QStringLiteral("Text"));
@@ -31,7 +31,7 @@ void Form2::load(const std::string& file, const QString& title, const QString& c
     return_->setAccessibleName(closeCaption);
 }
 
-void Form2::activated() {
+void Form2::opened() {
     text_->setFocus();
 }
 
@@ -45,8 +45,8 @@ bool Form2::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void showText(Screens& screens, const std::string& file, const QString& title, const QString& closeCaption) {
-    screens.formAs<Form2>("Form2").load(file, title, closeCaption);
-    screens.show("Form2");
+    screens.formAs<Form2>(forms::kTextViewer).load(file, title, closeCaption);
+    screens.show(forms::kTextViewer);
 }
 
 }  // namespace norlaplan

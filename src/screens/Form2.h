@@ -17,7 +17,7 @@ class Form2 : public Form {
     /// `ProgramFolder::read`; the viewer then keeps what it held.
     void load(const std::string& file, const QString& title, const QString& closeCaption);
 
-    void activated() override;
+    void opened() override;
     QSize sizeHint() const override { return {760, 640}; }
 
   protected:

@@ -6,7 +6,6 @@
 #include <filesystem>
 
 #include "screens/Form2.h"
-#include "screens/LaterScreens.h"
 #include "screens/Screens.h"
 #include "screens/Theme.h"
 #include "state/MenuConditions.h"
@@ -18,7 +17,7 @@ void Form3::pressEnterModelNumber() {
     modelNumber_->click();
 }
 
-void Form3::activated() {
+void Form3::refresh() {
     setPalette(theme::onFixedBackground(theme::menuBackground(state().unitSystem)));
     const Options& options = state().options;
     faxCover_->setVisible(options.faxCoverEnabled);
@@ -37,7 +36,7 @@ bool Form3::refused(const std::optional<Message>& refusal) {
     return refusal.has_value();
 }
 
-void Form3::openFor(const std::optional<Message>& refusal, const char* form) {
+void Form3::openFor(const std::optional<Message>& refusal, FormName form) {
     if (!refused(refusal)) screens().show(form);
 }
 
@@ -52,47 +51,47 @@ void Form3::askForPath() {
 }
 
 void Form3::openModelNumber() {
-    screens().show("Form9");
+    screens().show(forms::kPartNumber);
 }
 
 void Form3::openDataSheet() {
-    openFor(bearingRefusal(state()), "Form17");
+    openFor(bearingRefusal(state()), forms::kDataSheet);
 }
 
 void Form3::openPreloadTorque() {
-    openFor(preloadTorqueRefusal(state()), "Form23");
+    openFor(preloadTorqueRefusal(state()), forms::kPreloadTorque);
 }
 
 void Form3::openAxialPlay() {
-    openFor(axialPlayRefusal(state()), "Form18");
+    openFor(axialPlayRefusal(state()), forms::kAxialPlay);
 }
 
 void Form3::openDeflection() {
-    openFor(loadableBearingRefusal(state()), "Form24");
+    openFor(loadableBearingRefusal(state()), forms::kDeflection);
 }
 
 void Form3::openKnownLoads() {
     if (refused(loadableBearingRefusal(state()))) return;
     state().knownBearingLoadInput = true;
-    screens().show("Form14");
+    screens().show(forms::kLoads);
 }
 
 void Form3::openLife() {
-    openFor(lifeRefusal(state()), "Form19");
+    openFor(lifeRefusal(state()), forms::kLife);
 }
 
 void Form3::openThermalFits() {
-    openFor(thermalFitsRefusal(state()), "Form31");
+    openFor(thermalFitsRefusal(state()), forms::kThermalFits);
 }
 
 void Form3::openStyle() {
-    screens().show("Form16");
+    screens().show(forms::kStyle);
 }
 
 bool Form3::needsStyle() {
     if (state().styleChosen) return false;
     services().messages.show({"STYLE OF BEARING UNKNOWN", "BEARING STYLE MUST BE CHOSEN BEFORE SIZES"});
-    screens().show("Form16");
+    screens().show(forms::kStyle);
     return true;
 }
 
@@ -100,28 +99,28 @@ bool Form3::needsSizes() {
     if (needsStyle()) return true;
     if (state().sizesChosen) return false;
     services().messages.show({"Missing Bearing Size", "Size of bearing must be known"});
-    screens().show("Form12");
+    screens().show(forms::kSizes);
     return true;
 }
 
 void Form3::openSizes() {
-    if (!needsStyle()) screens().show("Form12");
+    if (!needsStyle()) screens().show(forms::kSizes);
 }
 
 void Form3::openSearchLoads() {
     if (needsSizes()) return;
     state().knownBearingLoadInput = false;
-    screens().show("Form14");
+    screens().show(forms::kLoads);
 }
 
 void Form3::openResults() {
     if (needsSizes()) return;
     if (!state().loadsEntered) {
         services().messages.show({"Missing Load Data", "Bearing Loads Must be known"});
-        screens().show("Form14");
+        screens().show(forms::kLoads);
         return;
     }
-    screens().show("Form15");
+    screens().show(forms::kResults);
 }
 
 void Form3::openIntroduction() {
@@ -130,31 +129,31 @@ void Form3::openIntroduction() {
 }
 
 void Form3::openTraining() {
-    services().messages.show(notInThisVersion("Training"));
+    services().messages.show(notInThisVersion(forms::kTraining));
 }
 
 void Form3::openApplicationForm() {
-    screens().show("Form10");
+    screens().show(forms::kApplication);
 }
 
 void Form3::openFaxCover() {
-    screens().show("Form28");
+    screens().show(forms::kFaxCover);
 }
 
 void Form3::openNedsPictures() {
-    screens().show("Form29");
+    screens().show(forms::kPictureBrowser);
 }
 
 void Form3::clearAll() {
     clearBearingAndLoads(state());
-    activated();
+    refresh();
 }
 
 void Form3::sendMail() {
     if (state().lastSavedFile.empty())
         services().messages.show({"No File Available to Send", "Please Save File First", Icon::Critical});
     else
-        services().messages.show(notInThisVersion("Mail"));
+        services().messages.show(notInThisVersion(forms::kMail));
 }
 
 void Form3::askToQuit() {

@@ -17,10 +17,13 @@ class Form3 : public Form {
 
     void pressEnterModelNumber();
 
-    void activated() override;
+    void opened() override { refresh(); }
+    void cameBack() override { refresh(); }
     void closed() override;
 
   private:
+    /// Brings what the menu shows up to date.
+    void refresh();
     QPushButton* makeButton(const char* name, const QString& caption, const QString& tip,
                             void (Form3::*action)());
     QWidget* makeHead();
@@ -59,7 +62,7 @@ class Form3 : public Form {
     /// Shows the message, if there is one, and says whether there was.
     bool refused(const std::optional<Message>& refusal);
     /// Opens a form unless the bearing in hand is refused.
-    void openFor(const std::optional<Message>& refusal, const char* form);
+    void openFor(const std::optional<Message>& refusal, FormName form);
     bool needsStyle();
     bool needsSizes();
 

@@ -7,7 +7,6 @@
 #include "screens/Form2.h"
 #include "screens/Form3.h"
 #include "screens/FormBuilder.h"
-#include "screens/LaterScreens.h"
 #include "screens/Screens.h"
 #include "screens/Theme.h"
 
@@ -64,7 +63,7 @@ void addStep(QGridLayout& grid, int row, const QString& number, std::initializer
 
 }  // namespace
 
-Form3::Form3(Screens& screens) : Form(screens, "Form3", "Norlaplan MM") {
+Form3::Form3(Screens& screens) : Form(screens, forms::kMainMenu, "Norlaplan MM") {
     auto* const paths = new QHBoxLayout;
     paths->setSpacing(theme::kWideGap);
     // The Tab key goes in the order in which they are made.
@@ -189,21 +188,21 @@ QMenuBar* Form3::makeMenus() {
     sendTo.setObjectName("Sendto");
     addAction(sendTo, "mail", "Mail Recipient", [this] { sendMail(); });
     addAction(file, "makeqlx", "Create QLX file",
-              [this] { services().messages.show(notInThisVersion("Export")); });
+              [this] { services().messages.show(notInThisVersion(forms::kExport)); });
     export_ = file.actions().constLast();
     file.addSeparator();
     addAction(file, "Exit", "Exit", [this] { exitProgram(); });
 
     QMenu& options = *bar->addMenu("&Options");
-    addAction(options, "dimensions", "Dimensions", [this] { screens().show("Form6"); });
+    addAction(options, "dimensions", "Dimensions", [this] { screens().show(forms::kUnits); });
     QMenu& settings = *options.addMenu("Settings");
     settings.setObjectName("settings");
-    addAction(settings, "userinfo", "User Info", [this] { screens().show("Form11"); });
+    addAction(settings, "userinfo", "User Info", [this] { screens().show(forms::kUserInfo); });
 
     QMenu& types = *bar->addMenu("&Bearing Types");
     for (const char* const line :
          {"Metric Series", "Inch Series Thin Section", "Slewing Rings", "Crossed Rollers", "Custom"})
-        addAction(types, line, line, [this] { screens().show("Form7"); });
+        addAction(types, line, line, [this] { screens().show(forms::kProductPage); });
 
     QMenu& more = *bar->addMenu("&Additional Information");
     // There is no catalogue to fetch: the item does nothing.
@@ -216,8 +215,8 @@ QMenuBar* Form3::makeMenus() {
               [this] { showText(this->screens(), "\\help\\warranty.rtf", "Warranty", "Exit Warranty"); });
 
     QMenu& help = *bar->addMenu("&Help");
-    addAction(help, "kmetrichelp", "Help", [this] { screens().show("Form22"); });
-    addAction(help, "About", "About", [this] { screens().show("Form4"); });
+    addAction(help, "kmetrichelp", "Help", [this] { screens().show(forms::kHelpIndex); });
+    addAction(help, "About", "About", [this] { screens().show(forms::kAbout); });
     return bar;
 }
 

@@ -12,7 +12,7 @@
 
 namespace norlaplan {
 
-Form6::Form6(Screens& screens) : Form(screens, "Form6", "Measurement") {
+Form6::Form6(Screens& screens) : Form(screens, forms::kUnits, "Measurement") {
     us_ = build::option("Option1", "U.S. units (inches and pounds)");
     metric_ = build::option("Option2", "SI units (mm and Newtons)");
     auto* const note =
@@ -40,7 +40,7 @@ Form6::Form6(Screens& screens) : Form(screens, "Form6", "Measurement") {
     page->addLayout(buttons);
 }
 
-void Form6::activated() {
+void Form6::opened() {
     const bool metric = state().unitSystem == "METRIC";
     metric_->setChecked(metric);
     us_->setChecked(!metric);

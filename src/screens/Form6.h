@@ -11,7 +11,7 @@ class Form6 : public Form {
   public:
     explicit Form6(Screens& screens);
 
-    void activated() override;
+    void opened() override;
 
   private:
     void accept();

@@ -32,7 +32,7 @@ QPlainTextEdit* makeAdvice() {
 
 }  // namespace
 
-Form9::Form9(Screens& screens) : Form(screens, "Form9", "Part Number Processing") {
+Form9::Form9(Screens& screens) : Form(screens, forms::kPartNumber, "Part Number Processing") {
     auto* const what = build::heading("Label1", "Enter full Metric part number:");
     entry_ = build::edit("Text1", "9 or 10 digit code");
     entry_->setFont(theme::headingFont());
@@ -92,13 +92,13 @@ QGroupBox* Form9::makeSeparators(const char* name, const std::vector<std::array<
     return frame;
 }
 
-void Form9::activated() {
+void Form9::opened() {
     entry_->setFocus();
 }
 
 void Form9::startAgain() {
     entry_->clear();
-    screens().show("Form9");
+    screens().show(forms::kPartNumber);
     entry_->setFocus();
 }
 
@@ -115,9 +115,9 @@ void Form9::followEntry() {
 
 void Form9::decode() {
     state().bearing.partNumber = upperCase(entry_->text().toStdString());
-    screens().show("Form3");
-    decodeCurrentBearing(screens());
-    if (Form* const front = screens().current()) front->activated();
+    screens().show(forms::kMainMenu);
+    // The menu was in front during the decode; now it shows the number.
+    if (decodeCurrentBearing(screens()) != DecodeEnd::BackToEntry) screens().show(forms::kMainMenu);
 }
 
 }  // namespace norlaplan

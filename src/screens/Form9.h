@@ -15,7 +15,8 @@ class Form9 : public Form {
     /// After a part number that was refused: the screen with an empty field and the cursor in it.
     void startAgain();
 
-    void activated() override;
+    void opened() override;
+    void cameBack() override { opened(); }
 
   private:
     QGroupBox* makeSeparators(const char* name, const std::vector<std::array<const char*, 3>>& options);

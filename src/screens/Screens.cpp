@@ -8,7 +8,6 @@
 
 #include "numbers/RuntimeError.h"
 #include "numbers/Single.h"
-#include "screens/LaterScreens.h"
 #include "state/Patience.h"
 
 namespace norlaplan {
@@ -21,6 +20,14 @@ void centre(Form& form) {
     const Single left = static_cast<double>(screen.width() - own.width()) / 2.0;
     const Single top = static_cast<double>(screen.height() - own.height()) / 2.0;
     form.move(screen.x() + static_cast<int>(left), screen.y() + static_cast<int>(top));
+}
+
+/// The pile with `wanted` on top: what lay over it goes.
+std::vector<Form*> openUpTo(std::vector<Form*> pile, Form& wanted) {
+    const auto found = std::find(pile.begin(), pile.end(), &wanted);
+    pile.erase(found, pile.end());
+    pile.push_back(&wanted);
+    return pile;
 }
 
 }  // namespace
@@ -37,23 +44,26 @@ Form& Screens::form(const std::string& name) {
     return *form;
 }
 
-void Screens::show(const std::string& name) {
-    if (!knows(name)) {
-        services_.messages.show(notInThisVersion(name));
-        return;
-    }
-    Form& wanted = form(name);
-    Pile pile = open_;
-    const auto found = std::find(pile.begin(), pile.end(), &wanted);
-    if (found != pile.end())
-        pile.erase(found + 1, pile.end());
-    else
-        pile.push_back(&wanted);
-    activate(std::move(pile));
+bool Screens::isMissing(FormName name) {
+    if (knows(name)) return false;
+    services_.messages.show(notInThisVersion(name));
+    return true;
 }
 
-void Screens::showAlone(const std::string& name) {
-    activate({&form(name)});
+void Screens::show(FormName name) {
+    if (isMissing(name)) return;
+    activate(openUpTo(open_, form(name)));
+}
+
+void Screens::showAlone(FormName name) {
+    if (!isMissing(name)) activate({&form(name)});
+}
+
+void Screens::showInstead(const Form& left, FormName name) {
+    if (isMissing(name)) return;
+    Pile pile = open_;
+    std::erase(pile, &left);
+    activate(openUpTo(std::move(pile), form(name)));
 }
 
 void Screens::hide(Form& form) {
@@ -83,8 +93,13 @@ void Screens::bringToFront(Pile pile) {
 }
 
 void Screens::activate(Pile pile) {
+    const bool wasOpen = !pile.empty() && std::find(open_.begin(), open_.end(), pile.back()) != open_.end();
     bringToFront(std::move(pile));
-    if (current() != nullptr) current()->activated();
+    if (current() == nullptr) return;
+    if (wasOpen)
+        current()->cameBack();
+    else
+        current()->opened();
 }
 
 void Screens::runAction(const std::string& name, const std::function<void()>& action) {

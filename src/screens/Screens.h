@@ -12,7 +12,8 @@
 namespace norlaplan {
 
 /// The navigator: makes each form when it is first asked for, shows one at a time, and gives every action its
-/// boundary. The forms that are open stand in a pile: hiding the top one brings back the one beneath.
+/// boundary. The forms that are open stand in a pile: hiding the top one brings back the one beneath. A form
+/// that newly comes onto the pile is told `opened()`, one that was on it already `cameBack()`.
 class Screens {
   public:
     using Maker = std::function<std::unique_ptr<Form>(Screens&)>;
@@ -31,15 +32,17 @@ class Screens {
     /// The form, made now when it isn't there yet. The name must be known.
     Form& form(const std::string& name);
     template <typename Kind>
-    Kind& formAs(const std::string& name) {
+    Kind& formAs(FormName name) {
         return dynamic_cast<Kind&>(form(name));
     }
 
     /// Brings a form to the front, centred; a form that was open already comes back and what was over it
     /// closes. A form that this version of the program doesn't have is said so in one sentence.
-    void show(const std::string& name);
+    void show(FormName name);
     /// As `show`, in place of everything that is open.
-    void showAlone(const std::string& name);
+    void showAlone(FormName name);
+    /// As `show`, in place of `left`, which goes.
+    void showInstead(const Form& left, FormName name);
     /// Takes a form away; the one beneath comes to the front again. Nothing when it isn't open.
     void hide(Form& form);
     /// The form in front; none before the first is shown.
@@ -54,6 +57,7 @@ class Screens {
 
   private:
     using Pile = std::vector<Form*>;
+    bool isMissing(FormName name);
     void bringToFront(Pile pile);
     void activate(Pile pile);
     void showFailure(const std::string& title, const std::string& text, const std::string& action);
@@ -63,8 +67,5 @@ class Screens {
     std::map<std::string, std::unique_ptr<Form>> forms_;
     Pile open_;
 };
-
-/// Makes all forms of the program known to the navigator.
-void addForms(Screens& screens);
 
 }  // namespace norlaplan

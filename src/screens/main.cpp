@@ -1,6 +1,7 @@
 #include <QApplication>
 
 #include "screens/Form1.h"
+#include "screens/FormRegistry.h"
 #include "screens/Screens.h"
 #include "screens/Theme.h"
 #include "screens/platform/QtPorts.h"

@@ -59,7 +59,6 @@ struct ProgramState {
     LifeResult life;
     SolverState solver;
     DeflectionResult deflection;
-    bool returningFromSideScreen = false;
 
     std::string lastSavedFile;
 };

@@ -33,7 +33,6 @@ struct SearchResults {
     Int16 hitCount;  ///< the next free row number: 1 when there is no row
     bool noResultFlag = false;
     bool listOnlyFlag = false;  ///< the list is to be rebuilt from the rows, nothing computed
-    bool sortPending = false;   ///< the sort screen is open: the list behind it stands
     bool sorted = false;
     Int16 sortColumn = 5;
     std::string sortDirection = "UP";

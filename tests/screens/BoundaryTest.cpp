@@ -32,53 +32,53 @@ class BoundaryTest : public QObject {
 
     void after_a_failure_the_user_is_back_where_the_action_began() {
         Program program;
-        program.blank("Form12");
-        program.screens.show("Form3");
+        program.blank(forms::kSizes);
+        program.screens.show(forms::kMainMenu);
         program.screens.runAction("Load Input", [&] {
-            program.screens.show("Form12");
+            program.screens.show(forms::kSizes);
             raise(fault::kOverflow);
         });
-        QCOMPARE(program.inFront(), std::string("Form3"));
-        QVERIFY(program.screens.form("Form3").isVisible());
-        QVERIFY(!program.screens.form("Form12").isVisible());
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
+        QVERIFY(program.screens.form(forms::kMainMenu).isVisible());
+        QVERIFY(!program.screens.form(forms::kSizes).isVisible());
     }
 
     void one_form_shows_at_a_time_and_hiding_it_brings_back_the_one_beneath() {
         Program program;
-        program.blank("Form12");
-        program.screens.show("Form3");
-        program.screens.show("Form12");
-        QVERIFY(!program.screens.form("Form3").isVisible());
-        program.screens.form("Form12").close();
-        QCOMPARE(program.inFront(), std::string("Form3"));
-        QVERIFY(program.screens.form("Form3").isVisible());
+        program.blank(forms::kSizes);
+        program.screens.show(forms::kMainMenu);
+        program.screens.show(forms::kSizes);
+        QVERIFY(!program.screens.form(forms::kMainMenu).isVisible());
+        program.screens.form(forms::kSizes).close();
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
+        QVERIFY(program.screens.form(forms::kMainMenu).isVisible());
     }
 
     void a_form_stands_in_the_middle_of_the_screen_when_it_appears() {
         Program program;
-        program.screens.show("Form6");
-        const Form& form = program.screens.form("Form6");
+        program.screens.show(forms::kUnits);
+        const Form& form = program.screens.form(forms::kUnits);
         const QPoint off = form.frameGeometry().center() - form.screen()->geometry().center();
         QVERIFY(off.manhattanLength() <= 4);
     }
 
     void a_screen_that_is_not_there_yet_says_so_in_one_sentence() {
         Program program;
-        program.screens.show("Form3");
-        program.screens.show("Form99");
+        program.screens.show(forms::kMainMenu);
+        program.screens.show(FormName("Form99"));
         QCOMPARE(program.lastMessage().prompt,
                  std::string("This screen is not part of this version of the program."));
-        QCOMPARE(program.inFront(), std::string("Form3"));
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
     }
 
     void enter_presses_the_button_that_has_the_focus() {
         Program program;
-        program.blank("Form16");
-        program.screens.show("Form3");
-        auto& button = program.control<QAbstractButton>("Form3", "Command4");
+        program.blank(forms::kStyle);
+        program.screens.show(forms::kMainMenu);
+        auto& button = program.control<QAbstractButton>(forms::kMainMenu, "Command4");
         button.setFocus();
         QTest::keyClick(&button, Qt::Key_Return);
-        QCOMPARE(program.inFront(), std::string("Form16"));
+        QCOMPARE(program.inFront(), std::string(forms::kStyle));
     }
 };
 

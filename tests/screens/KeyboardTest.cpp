@@ -16,12 +16,12 @@ struct Everything : Program {
         state.unitSystem = "US";
         ApplyUnitSystem("US", state.units);
         state.options.faxCoverEnabled = state.options.nedGroveOption = state.options.tempFitsOption = true;
-        screens.show("Form3");
-        click("Form3", "Command8");
-        QTest::keyClicks(&control<QWidget>("Form9", "Text1"), "K19013XZ0");
-        click("Form9", "Option6");
-        click("Form9", "Command1");
-        screens.showAlone("Form3");
+        screens.show(forms::kMainMenu);
+        click(forms::kMainMenu, "Command8");
+        QTest::keyClicks(&control<QWidget>(forms::kPartNumber, "Text1"), "K19013XZ0");
+        click(forms::kPartNumber, "Option6");
+        click(forms::kPartNumber, "Command1");
+        screens.showAlone(forms::kMainMenu);
     }
 };
 
@@ -41,7 +41,7 @@ class KeyboardTest : public QObject {
     void the_tab_key_reaches_every_control() {
         QFETCH(QString, form);
         Everything program;
-        program.screens.show(form.toStdString());
+        program.screens.show(FormName(qPrintable(form)));
         Form& window = *program.screens.current();
         QCOMPARE(window.objectName(), form);
         QApplication::setActiveWindow(&window);
@@ -88,22 +88,22 @@ class KeyboardTest : public QObject {
             QTest::keyClick(window.focusWidget(), Qt::Key_Return);
         };
         press("Command1");
-        QCOMPARE(program.inFront(), std::string("Form3"));
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
         press("Command8");
-        QCOMPARE(program.inFront(), std::string("Form9"));
+        QCOMPARE(program.inFront(), std::string(forms::kPartNumber));
         QWidget* const entry = program.screens.current()->focusWidget();
         QTest::keyClicks(entry, "K19013XP0");
         QTest::keyClick(entry, Qt::Key_Return);
-        QCOMPARE(program.inFront(), std::string("Form3"));
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
         press("Command9");
-        QCOMPARE(program.inFront(), std::string("Form17"));
-        auto& bar = program.control<QScrollBar>("Form17", "VScroll1");
+        QCOMPARE(program.inFront(), std::string(forms::kDataSheet));
+        auto& bar = program.control<QScrollBar>(forms::kDataSheet, "VScroll1");
         QTest::keyClick(&bar, Qt::Key_PageDown);
         QVERIFY(bar.value() > 0);
         press("Command4");
         QCOMPARE(program.printer.documents.size(), std::size_t{1});
         press("Command1");
-        QCOMPARE(program.inFront(), std::string("Form3"));
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
         QVERIFY(program.messages.shown.empty());
     }
 };

@@ -13,7 +13,7 @@ class KnownBearingJourneyTest : public QObject {
 
   private:
     static QString label(Program& program, const char* name) {
-        return program.control<QLabel>("Form19", name).text();
+        return program.control<QLabel>(forms::kLife, name).text();
     }
 
   private slots:
@@ -21,10 +21,10 @@ class KnownBearingJourneyTest : public QObject {
         Program program;
         program.state.unitSystem = "US";
         program.enterNumber("k19013xp0");
-        QCOMPARE(program.inFront(), std::string("Form3"));
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
         program.openLife("1200", "300", "900", "400");
-        QCOMPARE(program.inFront(), std::string("Form19"));
-        QCOMPARE(program.screens.form("Form19").windowTitle(),
+        QCOMPARE(program.inFront(), std::string(forms::kLife));
+        QCOMPARE(program.screens.form(forms::kLife).windowTitle(),
                  QString("LOAD-LIFE CALCULATION FOR K19013XP0"));
         QCOMPARE(label(program, "Label1"), QString("BORE       = 7.4803 inches"));
         QCOMPARE(label(program, "Label4"), QString("RADIAL = 1,200 pounds"));
@@ -33,7 +33,7 @@ class KnownBearingJourneyTest : public QObject {
         QVERIFY(label(program, "Label9").endsWith(" HOURS"));
         QVERIFY(label(program, "Label10").startsWith("STATIC SAFETY FACTOR = "));
         QVERIFY(label(program, "Label11").startsWith("The speed of 400 RPM is below"));
-        QVERIFY(program.control<QLabel>("Form19", "Label11").isVisible());
+        QVERIFY(program.control<QLabel>(forms::kLife, "Label11").isVisible());
     }
 
     void showsTheSameBearingUnderTheSameLoadInBothUnits() {
@@ -46,7 +46,7 @@ class KnownBearingJourneyTest : public QObject {
         metric.enterNumber("K19013XP0");
         // 1 N is 0.2248089 lb, 1 N-m is 8.850744 in-lb.
         metric.openLife("1000", "200", "10", "400");
-        QCOMPARE(metric.inFront(), std::string("Form19"));
+        QCOMPARE(metric.inFront(), std::string(forms::kLife));
         QCOMPARE(label(metric, "Label1"), QString("BORE       = 190.000 mm"));
         QCOMPARE(label(metric, "Label2"), QString("O. D.      = 216.000 mm"));
         QCOMPARE(label(metric, "Label3"), QString("HEIGHT     = 13.000 mm"));
@@ -62,9 +62,9 @@ class KnownBearingJourneyTest : public QObject {
         Program program;
         program.enterNumber("K19013XP0");
         program.openLife("1200", "", "", "");
-        QCOMPARE(program.inFront(), std::string("Form19"));
+        QCOMPARE(program.inFront(), std::string(forms::kLife));
         for (const char* const name : {"Label7", "Label9", "Label11"}) {
-            QVERIFY2(!program.control<QLabel>("Form19", name).isVisible(), name);
+            QVERIFY2(!program.control<QLabel>(forms::kLife, name).isVisible(), name);
         }
     }
 
@@ -73,11 +73,11 @@ class KnownBearingJourneyTest : public QObject {
         program.enterNumber("K19013BR0N");
         program.openLife("500", "100", "50", "100");
         program.saveDialog.choice = SaveChoice{program.files.path() / "life.rtf", 1};
-        program.click("Form19", "Command4");
+        program.click(forms::kLife, "Command4");
         QCOMPARE(program.saveDialog.requests.back().name, std::string("K19013BR0N-load.rtf"));
         QVERIFY(program.files.read("life.rtf").find("K19013BR0N") != std::string::npos);
         QCOMPARE(program.state.lastSavedFile, (program.files.path() / "life.rtf").string());
-        program.click("Form19", "Command3");
+        program.click(forms::kLife, "Command3");
         QCOMPARE(program.printer.documents.size(), std::size_t{1});
         QVERIFY(program.printer.canvas.hasText("RESULTS OF LOAD-LIFE CALCULATION FOR : "));
     }
@@ -86,7 +86,7 @@ class KnownBearingJourneyTest : public QObject {
         Program program;
         program.enterNumber("K19013XP0");
         program.openLife("500", "", "", "");
-        program.click("Form19", "Command4");
+        program.click(forms::kLife, "Command4");
         QVERIFY(program.state.lastSavedFile.empty());
         QVERIFY(program.messages.shown.empty());
     }
@@ -95,13 +95,13 @@ class KnownBearingJourneyTest : public QObject {
         Program program;
         program.enterNumber("K19013XP0");
         program.openLife("500", "", "", "");
-        program.click("Form19", "Command1");
-        QCOMPARE(program.inFront(), std::string("Form14"));
+        program.click(forms::kLife, "Command1");
+        QCOMPARE(program.inFront(), std::string(forms::kLoads));
         QVERIFY(program.state.knownBearingLoadInput);
-        QCOMPARE(program.control<QLineEdit>("Form14", "Text1").text(), QString("500"));
-        program.click("Form14", "Command1");
-        program.screens.form("Form19").close();
-        QCOMPARE(program.inFront(), std::string("Form3"));
+        QCOMPARE(program.control<QLineEdit>(forms::kLoads, "Text1").text(), QString("500"));
+        program.click(forms::kLoads, "Command1");
+        program.screens.form(forms::kLife).close();
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
         QVERIFY(!program.state.knownBearingLoadInput);
     }
 
@@ -109,19 +109,19 @@ class KnownBearingJourneyTest : public QObject {
         Program program;
         program.enterNumber("K19013XP0");
         program.openLife("500", "", "", "");
-        QTest::keyClick(&program.screens.form("Form19"), Qt::Key_Escape);
-        QCOMPARE(program.inFront(), std::string("Form3"));
+        QTest::keyClick(&program.screens.form(forms::kLife), Qt::Key_Escape);
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
     }
 
     void tellsOfABadLoadAndStays() {
         Program program;
         program.enterNumber("K19013XP0");
-        program.click("Form3", "Command13");
-        program.control<QLineEdit>("Form14", "Text2").setText("abc");
-        program.click("Form14", "Command1");
+        program.click(forms::kMainMenu, "Command13");
+        program.control<QLineEdit>(forms::kLoads, "Text2").setText("abc");
+        program.click(forms::kLoads, "Command1");
         QCOMPARE(program.lastMessage().title, std::string("Please correct load"));
         QCOMPARE(program.lastMessage().prompt, std::string("Axial Load input error"));
-        QCOMPARE(program.inFront(), std::string("Form14"));
+        QCOMPARE(program.inFront(), std::string(forms::kLoads));
     }
 
     void tellsOfANegativeAxialLoadWithAdviceAndStays() {
@@ -131,29 +131,29 @@ class KnownBearingJourneyTest : public QObject {
         QCOMPARE(program.lastMessage().title, std::string("Run-time error '5'"));
         QVERIFY(program.lastMessage().prompt.find("Proceed to life calculation") != std::string::npos);
         QVERIFY(program.lastMessage().prompt.find("positive number") != std::string::npos);
-        QCOMPARE(program.inFront(), std::string("Form14"));
+        QCOMPARE(program.inFront(), std::string(forms::kLoads));
         // The screen still serves this bearing: the corrected load goes on to its life.
-        QVERIFY(!program.control<QAbstractButton>("Form14", "Command2").isVisible());
-        program.type("Form14", "Text2", "100");
-        program.click("Form14", "Command1");
-        QCOMPARE(program.inFront(), std::string("Form19"));
+        QVERIFY(!program.control<QAbstractButton>(forms::kLoads, "Command2").isVisible());
+        program.type(forms::kLoads, "Text2", "100");
+        program.click(forms::kLoads, "Command1");
+        QCOMPARE(program.inFront(), std::string(forms::kLife));
         QVERIFY(label(program, "Label8").startsWith("L10 LIFE = "));
     }
 
     void theMainMenuButtonKeepsTheLoadsOrStaysWhenOneIsWrong() {
         Program program;
         program.enterNumber("K19013XP0");
-        program.click("Form3", "Command13");
-        program.control<QLineEdit>("Form14", "Text1").setText("abc");
-        program.click("Form14", "Command3");
+        program.click(forms::kMainMenu, "Command13");
+        program.control<QLineEdit>(forms::kLoads, "Text1").setText("abc");
+        program.click(forms::kLoads, "Command3");
         QCOMPARE(program.lastMessage().prompt, std::string("Radial Load input error"));
-        QCOMPARE(program.inFront(), std::string("Form14"));
-        program.type("Form14", "Text1", "500");
-        program.click("Form14", "Command3");
-        QCOMPARE(program.inFront(), std::string("Form3"));
+        QCOMPARE(program.inFront(), std::string(forms::kLoads));
+        program.type(forms::kLoads, "Text1", "500");
+        program.click(forms::kLoads, "Command3");
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
         QVERIFY(!program.state.knownBearingLoadInput);
-        program.click("Form3", "Command14");
-        QCOMPARE(program.inFront(), std::string("Form19"));
+        program.click(forms::kMainMenu, "Command14");
+        QCOMPARE(program.inFront(), std::string(forms::kLife));
         QCOMPARE(label(program, "Label4"), QString("RADIAL = 500 pounds"));
     }
 
@@ -162,16 +162,16 @@ class KnownBearingJourneyTest : public QObject {
         program.state.style = {"RADIAL CONTACT", "C"};
         program.enterNumber("K19013XP0");
         program.openLife("", "100", "", "");
-        QCOMPARE(program.inFront(), std::string("Form19"));
+        QCOMPARE(program.inFront(), std::string(forms::kLife));
         QCOMPARE(label(program, "Label5"), QString("AXIAL  = 100 pounds"));
     }
 
     void aLoadScreenThatWasClosedServesTheSearchAgain() {
         Program program;
         program.enterNumber("K19013XP0");
-        program.click("Form3", "Command13");
-        program.screens.form("Form14").close();
-        QCOMPARE(program.inFront(), std::string("Form3"));
+        program.click(forms::kMainMenu, "Command13");
+        program.screens.form(forms::kLoads).close();
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
         QVERIFY(!program.state.knownBearingLoadInput);
     }
 
@@ -179,11 +179,11 @@ class KnownBearingJourneyTest : public QObject {
         Program program;
         program.enterNumber("K19013XP0");
         const auto colour = [&] {
-            return program.control<QLabel>("Form19", "Label11").palette().color(QPalette::WindowText);
+            return program.control<QLabel>(forms::kLife, "Label11").palette().color(QPalette::WindowText);
         };
         program.openLife("500", "", "", "100");
         QCOMPARE(colour(), QColor(0, 128, 0));
-        program.screens.showAlone("Form3");
+        program.screens.showAlone(forms::kMainMenu);
         program.openLife("500", "", "", "5000");
         QCOMPARE(colour(), QColor(255, 0, 0));
     }
@@ -191,7 +191,7 @@ class KnownBearingJourneyTest : public QObject {
     void theSideScreensCaptionsKeepTheirBlanks() {
         Program program;
         const auto caption = [&](const char* name) {
-            return program.control<QAbstractButton>("Form19", name).text();
+            return program.control<QAbstractButton>(forms::kLife, name).text();
         };
         QCOMPARE(caption("Command5"), QString("Ball Load             Plot"));
         QCOMPARE(caption("Command6"), QString("Lube Film          Check"));
@@ -201,18 +201,18 @@ class KnownBearingJourneyTest : public QObject {
     void takesOnlyARadialLoadForARadialBearing() {
         Program program;
         program.enterNumber("K19013CP0");
-        program.click("Form3", "Command13");
+        program.click(forms::kMainMenu, "Command13");
         for (const char* const name : {"Text2", "Text3"}) {
-            QVERIFY(!program.control<QLineEdit>("Form14", name).isVisible());
+            QVERIFY(!program.control<QLineEdit>(forms::kLoads, name).isVisible());
         }
-        QVERIFY(program.control<QLineEdit>("Form14", "Text4").isVisible());
+        QVERIFY(program.control<QLineEdit>(forms::kLoads, "Text4").isVisible());
     }
 
     void takesNoSpeedForABearingWithoutSeparator() {
         Program program;
         program.enterNumber("K19013XF0");
-        program.click("Form3", "Command13");
-        QVERIFY(!program.control<QLineEdit>("Form14", "Text4").isEnabled());
+        program.click(forms::kMainMenu, "Command13");
+        QVERIFY(!program.control<QLineEdit>(forms::kLoads, "Text4").isEnabled());
     }
 
     void showsTheSideScreenButtonsByTheirOptions() {
@@ -221,24 +221,24 @@ class KnownBearingJourneyTest : public QObject {
         program.state.options.pathStressOption = true;
         program.enterNumber("K19013XP0");
         program.openLife("500", "", "", "");
-        QVERIFY(program.control<QAbstractButton>("Form19", "Command5").isVisible());
-        QVERIFY(!program.control<QAbstractButton>("Form19", "Command6").isVisible());
-        QVERIFY(program.control<QAbstractButton>("Form19", "Command7").isVisible());
-        QVERIFY(!program.control<QAbstractButton>("Form19", "Command8").isVisible());
+        QVERIFY(program.control<QAbstractButton>(forms::kLife, "Command5").isVisible());
+        QVERIFY(!program.control<QAbstractButton>(forms::kLife, "Command6").isVisible());
+        QVERIFY(program.control<QAbstractButton>(forms::kLife, "Command7").isVisible());
+        QVERIFY(!program.control<QAbstractButton>(forms::kLife, "Command8").isVisible());
     }
 
     void keepsItsValuesOnTheWayBackFromASideScreen() {
         Program program;
-        program.blank("Form27");
+        program.blank(forms::kLubeFilm);
         program.state.options.lubeFilmOption = true;
         program.enterNumber("K19013XP0");
         program.openLife("500", "", "", "");
         const QString before = label(program, "Label8");
-        program.click("Form19", "Command6");
-        QCOMPARE(program.inFront(), std::string("Form27"));
+        program.click(forms::kLife, "Command6");
+        QCOMPARE(program.inFront(), std::string(forms::kLubeFilm));
         program.state.loads.radialLoad = 5000.0;
-        program.screens.form("Form27").close();
-        QCOMPARE(program.inFront(), std::string("Form19"));
+        program.screens.form(forms::kLubeFilm).close();
+        QCOMPARE(program.inFront(), std::string(forms::kLife));
         QCOMPARE(label(program, "Label8"), before);
     }
 };

@@ -53,16 +53,17 @@ class LightnessTest : public QObject {
 #endif
         Program program;
         ShowStartScreen(program.screens);
-        program.click("Form1", "Command1");
-        program.click("Form3", "Command8");
-        QTest::keyClicks(&program.control<QWidget>("Form9", "Text1"), "K19013XP0");
-        program.click("Form9", "Command1");
-        program.click("Form3", "Command9");
+        program.click(forms::kStart, "Command1");
+        program.click(forms::kMainMenu, "Command8");
+        QTest::keyClicks(&program.control<QWidget>(forms::kPartNumber, "Text1"), "K19013XP0");
+        program.click(forms::kPartNumber, "Command1");
+        program.click(forms::kMainMenu, "Command9");
         program.screens.current()->grab();
         program.saveDialog.choice = SaveChoice{program.files.path() / "sheet.bmp", 2};
-        program.click("Form17", "Command3");
-        for (const char* const form : {"Form2", "Form6", "Form12", "Form13", "Form14", "Form16"}) {
-            program.screens.show("Form3");
+        program.click(forms::kDataSheet, "Command3");
+        for (const FormName form :
+             {forms::kTextViewer, forms::kUnits, forms::kSizes, forms::kSort, forms::kLoads, forms::kStyle}) {
+            program.screens.show(forms::kMainMenu);
             program.screens.show(form);
             program.screens.current()->grab();
         }

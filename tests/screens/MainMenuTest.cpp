@@ -11,12 +11,14 @@ namespace {
 /// The main menu in front, every screen that it opens an empty window.
 struct Menu : Program {
     Menu() {
-        for (const char* const form : {"Form9", "Form17", "Form23", "Form18", "Form24", "Form14", "Form19",
-                                       "Form31", "Form16", "Form12", "Form15", "Form6", "Form11", "Form22"})
+        for (const FormName form :
+             {forms::kPartNumber, forms::kDataSheet, forms::kPreloadTorque, forms::kAxialPlay,
+              forms::kDeflection, forms::kLoads, forms::kLife, forms::kThermalFits, forms::kStyle,
+              forms::kSizes, forms::kResults, forms::kUnits, forms::kUserInfo, forms::kHelpIndex})
             blank(form);
-        screens.show("Form3");
+        screens.show(forms::kMainMenu);
     }
-    void trigger(const char* action) { control<QAction>("Form3", action).trigger(); }
+    void trigger(const char* action) { control<QAction>(forms::kMainMenu, action).trigger(); }
     void hold(const char* number, const char* style) {
         state.bearing.partNumber = number;
         state.bearing.styleLetter = style;
@@ -61,8 +63,8 @@ class MainMenuTest : public QObject {
         QFETCH(QString, caption);
         QFETCH(QString, tip);
         Menu menu;
-        QCOMPARE(menu.screens.form("Form3").windowTitle(), QString("Norlaplan MM"));
-        const auto& button = menu.control<QAbstractButton>("Form3", name.toUtf8().constData());
+        QCOMPARE(menu.screens.form(forms::kMainMenu).windowTitle(), QString("Norlaplan MM"));
+        const auto& button = menu.control<QAbstractButton>(forms::kMainMenu, name.toUtf8().constData());
         QCOMPARE(button.text(), caption);
         QCOMPARE(button.toolTip(), tip);
         QVERIFY(button.focusPolicy() & Qt::TabFocus);
@@ -76,10 +78,10 @@ class MainMenuTest : public QObject {
     void part_number_buttons_without_a_part_number_ask_for_it() {
         QFETCH(QString, name);
         Menu menu;
-        menu.click("Form3", name.toUtf8().constData());
+        menu.click(forms::kMainMenu, name.toUtf8().constData());
         QCOMPARE(menu.lastMessage(),
                  (Message{"Missing Part Number", "Please enter part number first", Icon::Information}));
-        QCOMPARE(menu.inFront(), std::string("Form3"));
+        QCOMPARE(menu.inFront(), std::string(forms::kMainMenu));
     }
 
     void part_number_buttons_open_their_screens_data() {
@@ -101,7 +103,7 @@ class MainMenuTest : public QObject {
         QFETCH(QString, form);
         Menu menu;
         menu.hold("K19013XP0", "X");
-        menu.click("Form3", name.toUtf8().constData());
+        menu.click(forms::kMainMenu, name.toUtf8().constData());
         QVERIFY(menu.messages.shown.empty());
         QCOMPARE(menu.inFront(), form.toStdString());
     }
@@ -109,128 +111,128 @@ class MainMenuTest : public QObject {
     void styles_that_a_calculation_does_not_serve_are_refused() {
         Menu menu;
         menu.hold("K19013AR0", "A");
-        menu.click("Form3", "Command10");
+        menu.click(forms::kMainMenu, "Command10");
         QCOMPARE(menu.lastMessage(), (Message{"Wrong Bearing style",
                                               "Only Duplexes , 'C' or 'X' styles allowed", Icon::Critical}));
-        menu.click("Form3", "Command11");
+        menu.click(forms::kMainMenu, "Command11");
         QCOMPARE(menu.lastMessage(),
                  (Message{"Wrong Bearing style", "Only radial and 4-point contact bearings allowed",
                           Icon::Critical}));
-        menu.click("Form3", "Command12");
+        menu.click(forms::kMainMenu, "Command12");
         QCOMPARE(menu.lastMessage(), (Message{"Try another Bearing type", "Bearing type A Not allowed"}));
-        QCOMPARE(menu.inFront(), std::string("Form3"));
+        QCOMPARE(menu.inFront(), std::string(forms::kMainMenu));
     }
 
     void life_without_loads_asks_for_them() {
         Menu menu;
         menu.hold("K19013XP0", "X");
-        menu.click("Form3", "Command14");
+        menu.click(forms::kMainMenu, "Command14");
         QCOMPARE(menu.lastMessage(), (Message{"Missing Load Data", "Please enter loads first"}));
         menu.state.loadsEntered = true;
-        menu.click("Form3", "Command14");
-        QCOMPARE(menu.inFront(), std::string("Form19"));
+        menu.click(forms::kMainMenu, "Command14");
+        QCOMPARE(menu.inFront(), std::string(forms::kLife));
     }
 
     void a_radial_contact_bearing_without_radial_load_loses_its_loads() {
         Menu menu;
         menu.hold("K19013CP0", "C");
         menu.state.loadsEntered = true;
-        menu.click("Form3", "Command14");
+        menu.click(forms::kMainMenu, "Command14");
         QCOMPARE(menu.lastMessage(), (Message{"Missing Load Data", "Please enter Radial load first"}));
-        menu.click("Form3", "Command14");
+        menu.click(forms::kMainMenu, "Command14");
         QCOMPARE(menu.lastMessage(), (Message{"Missing Load Data", "Please enter loads first"}));
     }
 
     void the_load_screen_knows_from_which_path_it_was_opened() {
         Menu menu;
         menu.hold("K19013XP0", "X");
-        menu.click("Form3", "Command13");
+        menu.click(forms::kMainMenu, "Command13");
         QVERIFY(menu.state.knownBearingLoadInput);
-        menu.screens.show("Form3");
+        menu.screens.show(forms::kMainMenu);
         menu.state.styleChosen = true;
         menu.state.sizesChosen = true;
-        menu.click("Form3", "Command6");
+        menu.click(forms::kMainMenu, "Command6");
         QVERIFY(!menu.state.knownBearingLoadInput);
-        QCOMPARE(menu.inFront(), std::string("Form14"));
+        QCOMPARE(menu.inFront(), std::string(forms::kLoads));
     }
 
     void the_search_path_leads_to_the_step_that_is_missing() {
         Menu menu;
         const Message noStyle{"STYLE OF BEARING UNKNOWN", "BEARING STYLE MUST BE CHOSEN BEFORE SIZES"};
         for (const char* const button : {"Command5", "Command6", "Command7"}) {
-            menu.screens.show("Form3");
+            menu.screens.show(forms::kMainMenu);
             menu.messages.shown.clear();
-            menu.click("Form3", button);
+            menu.click(forms::kMainMenu, button);
             QCOMPARE(menu.messages.shown, std::vector<Message>{noStyle});
-            QCOMPARE(menu.inFront(), std::string("Form16"));
+            QCOMPARE(menu.inFront(), std::string(forms::kStyle));
         }
         menu.state.styleChosen = true;
         for (const char* const button : {"Command6", "Command7"}) {
-            menu.screens.show("Form3");
-            menu.click("Form3", button);
+            menu.screens.show(forms::kMainMenu);
+            menu.click(forms::kMainMenu, button);
             QCOMPARE(menu.lastMessage(), (Message{"Missing Bearing Size", "Size of bearing must be known"}));
-            QCOMPARE(menu.inFront(), std::string("Form12"));
+            QCOMPARE(menu.inFront(), std::string(forms::kSizes));
         }
         menu.state.sizesChosen = true;
-        menu.screens.show("Form3");
-        menu.click("Form3", "Command7");
+        menu.screens.show(forms::kMainMenu);
+        menu.click(forms::kMainMenu, "Command7");
         QCOMPARE(menu.lastMessage(), (Message{"Missing Load Data", "Bearing Loads Must be known"}));
-        QCOMPARE(menu.inFront(), std::string("Form14"));
+        QCOMPARE(menu.inFront(), std::string(forms::kLoads));
         menu.state.loadsEntered = true;
-        menu.screens.show("Form3");
-        menu.click("Form3", "Command7");
-        QCOMPARE(menu.inFront(), std::string("Form15"));
+        menu.screens.show(forms::kMainMenu);
+        menu.click(forms::kMainMenu, "Command7");
+        QCOMPARE(menu.inFront(), std::string(forms::kResults));
     }
 
     void the_question_about_the_part_number_marks_the_path_and_starts_it() {
         Menu menu;
-        auto& known = menu.control<QLabel>("Form3", "Label1");
-        auto& search = menu.control<QLabel>("Form3", "Label2");
+        auto& known = menu.control<QLabel>(forms::kMainMenu, "Label1");
+        auto& search = menu.control<QLabel>(forms::kMainMenu, "Label2");
         menu.messages.answers = {Answer::Yes};
-        menu.click("Form3", "Command18");
+        menu.click(forms::kMainMenu, "Command18");
         QCOMPARE(menu.messages.asked.back(),
                  (Message{"Program Help", "Do you know the Norlaring MM™ Part Number"}));
-        QCOMPARE(menu.inFront(), std::string("Form9"));
+        QCOMPARE(menu.inFront(), std::string(forms::kPartNumber));
         QVERIFY(!known.isHidden());
         QVERIFY(search.isHidden());
 
-        menu.screens.show("Form3");
+        menu.screens.show(forms::kMainMenu);
         menu.messages.answers = {Answer::No};
-        menu.click("Form3", "Command18");
-        QCOMPARE(menu.inFront(), std::string("Form16"));
+        menu.click(forms::kMainMenu, "Command18");
+        QCOMPARE(menu.inFront(), std::string(forms::kStyle));
         QVERIFY(known.isHidden());
         QVERIFY(!search.isHidden());
 
-        menu.screens.show("Form3");
+        menu.screens.show(forms::kMainMenu);
         menu.messages.answers = {Answer::Cancel};
-        menu.click("Form3", "Command18");
-        QCOMPARE(menu.inFront(), std::string("Form3"));
+        menu.click(forms::kMainMenu, "Command18");
+        QCOMPARE(menu.inFront(), std::string(forms::kMainMenu));
         QVERIFY(!search.isHidden());
     }
 
     void optional_buttons_come_with_their_options() {
         Menu menu;
         for (const char* const name : {"Command16", "Command17", "Command19"})
-            QVERIFY(menu.control<QWidget>("Form3", name).isHidden());
-        QVERIFY(!menu.control<QAction>("Form3", "makeqlx").isVisible());
+            QVERIFY(menu.control<QWidget>(forms::kMainMenu, name).isHidden());
+        QVERIFY(!menu.control<QAction>(forms::kMainMenu, "makeqlx").isVisible());
         menu.state.options.faxCoverEnabled = true;
         menu.state.options.nedGroveOption = true;
         menu.state.options.tempFitsOption = true;
         menu.state.options.qlxOption = true;
-        menu.screens.show("Form3");
+        menu.screens.show(forms::kMainMenu);
         for (const char* const name : {"Command16", "Command17", "Command19"})
-            QVERIFY(menu.control<QWidget>("Form3", name).isVisible());
-        QVERIFY(menu.control<QAction>("Form3", "makeqlx").isVisible());
-        menu.click("Form3", "Command19");
+            QVERIFY(menu.control<QWidget>(forms::kMainMenu, name).isVisible());
+        QVERIFY(menu.control<QAction>(forms::kMainMenu, "makeqlx").isVisible());
+        menu.click(forms::kMainMenu, "Command19");
         QCOMPARE(menu.lastMessage(), (Message{"Missing bearing data", "Please select a bearing first"}));
     }
 
     void the_background_shows_the_units() {
         Menu menu;
-        const Form& form = menu.screens.form("Form3");
+        const Form& form = menu.screens.form(forms::kMainMenu);
         QCOMPARE(form.palette().color(QPalette::Window), QColor(128, 128, 255));
         menu.state.unitSystem = "METRIC";
-        menu.screens.show("Form3");
+        menu.screens.show(forms::kMainMenu);
         QCOMPARE(form.palette().color(QPalette::Window), QColor(192, 255, 192));
         QVERIFY(form.palette().color(QPalette::WindowText).lightness() < 60);
     }
@@ -256,7 +258,7 @@ class MainMenuTest : public QObject {
         QCOMPARE(menu.state.user.userName, std::string("Ada"));
         QCOMPARE(menu.state.unitSystem, std::string("METRIC"));
         QVERIFY(std::filesystem::exists(menu.files.path() / "DATA.RTF"));
-        QVERIFY(menu.control<QLabel>("Form3", "Label3").text().isEmpty());
+        QVERIFY(menu.control<QLabel>(forms::kMainMenu, "Label3").text().isEmpty());
     }
 
     void quit_asks_and_deletes_the_generated_sheet() {
@@ -264,12 +266,12 @@ class MainMenuTest : public QObject {
         menu.files.write("DATA.RTF", "x");
         menu.files.write("CONDENSED.DAT", "x");
         menu.messages.answers = {Answer::No, Answer::Yes};
-        menu.click("Form3", "Command15");
+        menu.click(forms::kMainMenu, "Command15");
         QCOMPARE(menu.messages.asked.back(),
                  (Message{"Warning", "Are you Sure you want to quit ?", Icon::Warning}));
-        QCOMPARE(menu.inFront(), std::string("Form3"));
+        QCOMPARE(menu.inFront(), std::string(forms::kMainMenu));
         QVERIFY(std::filesystem::exists(menu.files.path() / "DATA.RTF"));
-        menu.click("Form3", "Command15");
+        menu.click(forms::kMainMenu, "Command15");
         QCOMPARE(menu.inFront(), std::string());
         QVERIFY(!std::filesystem::exists(menu.files.path() / "DATA.RTF"));
         QVERIFY(!std::filesystem::exists(menu.files.path() / "CONDENSED.DAT"));
@@ -287,7 +289,7 @@ class MainMenuTest : public QObject {
     void closing_the_window_ends_the_program_without_deleting() {
         Menu menu;
         menu.files.write("DATA.RTF", "x");
-        menu.screens.form("Form3").close();
+        menu.screens.form(forms::kMainMenu).close();
         QCOMPARE(menu.inFront(), std::string());
         QVERIFY(std::filesystem::exists(menu.files.path() / "DATA.RTF"));
     }
@@ -302,16 +304,16 @@ class MainMenuTest : public QObject {
     void menu_items_open_their_screens() {
         Menu menu;
         menu.trigger("dimensions");
-        QCOMPARE(menu.inFront(), std::string("Form6"));
-        menu.screens.show("Form3");
+        QCOMPARE(menu.inFront(), std::string(forms::kUnits));
+        menu.screens.show(forms::kMainMenu);
         menu.trigger("userinfo");
-        QCOMPARE(menu.inFront(), std::string("Form11"));
-        menu.screens.show("Form3");
+        QCOMPARE(menu.inFront(), std::string(forms::kUserInfo));
+        menu.screens.show(forms::kMainMenu);
         menu.trigger("kmetrichelp");
-        QCOMPARE(menu.inFront(), std::string("Form22"));
-        menu.screens.show("Form3");
+        QCOMPARE(menu.inFront(), std::string(forms::kHelpIndex));
+        menu.screens.show(forms::kMainMenu);
         menu.trigger("Catalog");
-        QCOMPARE(menu.inFront(), std::string("Form3"));
+        QCOMPARE(menu.inFront(), std::string(forms::kMainMenu));
         QVERIFY(menu.messages.shown.empty());
     }
 
@@ -335,13 +337,13 @@ class MainMenuTest : public QObject {
         QFETCH(QString, close);
         Menu menu;
         if (name.startsWith("Command"))
-            menu.click("Form3", name.toUtf8().constData());
+            menu.click(forms::kMainMenu, name.toUtf8().constData());
         else
             menu.trigger(name.toUtf8().constData());
         QVERIFY(menu.messages.shown.empty());
-        QCOMPARE(menu.inFront(), std::string("Form2"));
-        QCOMPARE(menu.screens.form("Form2").windowTitle(), title);
-        QCOMPARE(menu.control<QAbstractButton>("Form2", "Command1").text(), close);
+        QCOMPARE(menu.inFront(), std::string(forms::kTextViewer));
+        QCOMPARE(menu.screens.form(forms::kTextViewer).windowTitle(), title);
+        QCOMPARE(menu.control<QAbstractButton>(forms::kTextViewer, "Command1").text(), close);
     }
 
     void a_text_that_is_missing_is_a_file_error_and_the_menu_stays() {
@@ -349,7 +351,7 @@ class MainMenuTest : public QObject {
         std::filesystem::remove(menu.files.path() / "help");
         menu.trigger("warranty");
         QCOMPARE(menu.lastMessage().title, std::string("Run-time error '53'"));
-        QCOMPARE(menu.inFront(), std::string("Form3"));
+        QCOMPARE(menu.inFront(), std::string(forms::kMainMenu));
     }
 };
 

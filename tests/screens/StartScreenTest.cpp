@@ -13,39 +13,40 @@ class StartScreenTest : public QObject {
     void the_start_screen_waits_four_seconds_and_then_opens_the_main_menu_by_itself() {
         Program program;
         ShowStartScreen(program.screens);
-        QCOMPARE(program.inFront(), std::string("Form1"));
-        auto& timer = program.control<QTimer>("Form1", "Timer1");
+        QCOMPARE(program.inFront(), std::string(forms::kStart));
+        auto& timer = program.control<QTimer>(forms::kStart, "Timer1");
         QVERIFY(timer.isActive());
         QCOMPARE(timer.interval(), 4000);
         timer.start(0);
-        QTRY_COMPARE(program.inFront(), std::string("Form3"));
+        QTRY_COMPARE(program.inFront(), std::string(forms::kMainMenu));
     }
 
     void start_opens_the_main_menu_and_stops_the_timer() {
         Program program;
         ShowStartScreen(program.screens);
-        program.click("Form1", "Command1");
-        QCOMPARE(program.inFront(), std::string("Form3"));
-        QVERIFY(!program.control<QTimer>("Form1", "Timer1").isActive());
-        QVERIFY(!program.screens.form("Form1").isVisible());
+        program.click(forms::kStart, "Command1");
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
+        QVERIFY(!program.control<QTimer>(forms::kStart, "Timer1").isActive());
+        QVERIFY(!program.screens.form(forms::kStart).isVisible());
     }
 
     void the_warranty_stops_the_timer_and_comes_back_to_the_start_screen() {
         Program program;
         ShowStartScreen(program.screens);
-        program.click("Form1", "Command2");
-        QCOMPARE(program.inFront(), std::string("Form2"));
-        QCOMPARE(program.screens.form("Form2").windowTitle(), QString("Warranty"));
-        QCOMPARE(program.control<QAbstractButton>("Form2", "Command1").text(), QString("Exit Warranty"));
-        QVERIFY(!program.control<QTimer>("Form1", "Timer1").isActive());
-        program.click("Form2", "Command1");
-        QCOMPARE(program.inFront(), std::string("Form1"));
+        program.click(forms::kStart, "Command2");
+        QCOMPARE(program.inFront(), std::string(forms::kTextViewer));
+        QCOMPARE(program.screens.form(forms::kTextViewer).windowTitle(), QString("Warranty"));
+        QCOMPARE(program.control<QAbstractButton>(forms::kTextViewer, "Command1").text(),
+                 QString("Exit Warranty"));
+        QVERIFY(!program.control<QTimer>(forms::kStart, "Timer1").isActive());
+        program.click(forms::kTextViewer, "Command1");
+        QCOMPARE(program.inFront(), std::string(forms::kStart));
     }
 
     void quit_ends_the_program() {
         Program program;
         ShowStartScreen(program.screens);
-        program.click("Form1", "Command3");
+        program.click(forms::kStart, "Command3");
         QCOMPARE(program.inFront(), std::string());
     }
 
@@ -60,7 +61,7 @@ class StartScreenTest : public QObject {
         Program program;
         program.files.write("SETTINGS.INI", "A\r\nB\r\nC\r\n");
         ShowStartScreen(program.screens);
-        QCOMPARE(program.inFront(), std::string("Form1"));
+        QCOMPARE(program.inFront(), std::string(forms::kStart));
         QCOMPARE(program.messages.shown.size(), std::size_t{1});
     }
 
@@ -68,45 +69,45 @@ class StartScreenTest : public QObject {
         Program program;
         program.files.write("Extras.txt", "Skip Intro\r\n");
         ShowStartScreen(program.screens);
-        QCOMPARE(program.inFront(), std::string("Form3"));
-        QVERIFY(!program.screens.form("Form1").isVisible());
-        QVERIFY(!program.control<QTimer>("Form1", "Timer1").isActive());
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
+        QVERIFY(!program.screens.form(forms::kStart).isVisible());
+        QVERIFY(!program.control<QTimer>(forms::kStart, "Timer1").isActive());
     }
 
     void skip_intro_with_a_trailing_blank_does_not() {
         Program program;
         program.files.write("Extras.txt", "SKIP INTRO \r\n");
         ShowStartScreen(program.screens);
-        QCOMPARE(program.inFront(), std::string("Form1"));
+        QCOMPARE(program.inFront(), std::string(forms::kStart));
     }
 
     void ian_moray_comes_up_on_the_part_number_screen() {
         Program program;
         program.files.write("Extras.txt", "IAN MORAY\r\n");
         ShowStartScreen(program.screens);
-        QCOMPARE(program.inFront(), std::string("Form9"));
-        program.click("Form9", "Command3");
-        QCOMPARE(program.inFront(), std::string("Form3"));
+        QCOMPARE(program.inFront(), std::string(forms::kPartNumber));
+        program.click(forms::kPartNumber, "Command3");
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
     }
 
     void ned_grove_changes_the_start_screen() {
         Program program;
         program.files.write("Extras.txt", "NED GROVE\r\n");
         ShowStartScreen(program.screens);
-        QCOMPARE(program.control<QLabel>("Form1", "Label3").text(),
+        QCOMPARE(program.control<QLabel>(forms::kStart, "Label3").text(),
                  QString("Norlaplan Tool version for Ned Q. Grove"));
-        QCOMPARE(program.control<QWidget>("Form1", "Image2").toolTip(),
+        QCOMPARE(program.control<QWidget>(forms::kStart, "Image2").toolTip(),
                  QString("Our latest logo - cute isn't it?"));
         for (const char* const image : {"Image3", "Image4", "Image5"})
-            QVERIFY(program.control<QWidget>("Form1", image).isVisible());
+            QVERIFY(program.control<QWidget>(forms::kStart, image).isVisible());
     }
 
     void without_that_option_its_pictures_are_hidden() {
         Program program;
         ShowStartScreen(program.screens);
-        QCOMPARE(program.control<QLabel>("Form1", "Label3").text(), QString("Bearing Design Program"));
+        QCOMPARE(program.control<QLabel>(forms::kStart, "Label3").text(), QString("Bearing Design Program"));
         for (const char* const image : {"Image3", "Image4", "Image5"})
-            QVERIFY(!program.control<QWidget>("Form1", image).isVisible());
+            QVERIFY(!program.control<QWidget>(forms::kStart, image).isVisible());
     }
 };
 

@@ -72,9 +72,9 @@ class StorageTest : public QObject {
             const Trouble trouble(program.files.path());
             program.enterNumber("K20013XP0");
             QCOMPARE(program.lastMessage(), told);
-            QCOMPARE(program.inFront(), std::string("Form3"));
+            QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
             // No sheet of another bearing shows under the new number.
-            program.click("Form3", "Command9");
+            program.click(forms::kMainMenu, "Command9");
             QCOMPARE(program.lastMessage().title, std::string("Missing Part Number"));
         }
         QCOMPARE(program.files.read("DATA.RTF"), document);
@@ -114,7 +114,7 @@ class StorageTest : public QObject {
         if (form == "Form19")
             program.openLife("500");
         else
-            program.click("Form3", "Command9");
+            program.click(forms::kMainMenu, "Command9");
         program.files.write("mine", "old");
         const auto files = filesOf(program);
         program.saveDialog.choice = SaveChoice{program.files.path() / "mine", filter};

@@ -16,14 +16,14 @@ namespace {
 struct Viewer : Program {
     explicit Viewer(const std::string& content = "{\\rtf1\\ansi Plain words}") {
         files.write("note.rtf", content);
-        screens.show("Form3");
+        screens.show(forms::kMainMenu);
         showText(screens, "\\note.rtf", "A note", "Exit Note");
     }
-    QWidget& text() { return control<QWidget>("Form2", "RichTextBox1"); }
-    QTextDocument& document() { return *control<QTextEdit>("Form2", "RichTextBox1").document(); }
+    QWidget& text() { return control<QWidget>(forms::kTextViewer, "RichTextBox1"); }
+    QTextDocument& document() { return *control<QTextEdit>(forms::kTextViewer, "RichTextBox1").document(); }
     /// The look of the first character of `words`.
     QTextCharFormat lookOf(const char* words) { return document().find(words).charFormat(); }
-    QWidget& button() { return control<QPushButton>("Form2", "Command1"); }
+    QWidget& button() { return control<QPushButton>(forms::kTextViewer, "Command1"); }
 };
 
 }  // namespace
@@ -34,12 +34,14 @@ class ViewerTest : public QObject {
   private slots:
     void it_shows_the_text_with_the_callers_title_and_button() {
         Viewer viewer;
-        QCOMPARE(viewer.inFront(), std::string("Form2"));
-        QCOMPARE(viewer.screens.form("Form2").windowTitle(), QString("A note"));
-        auto& button = viewer.control<QPushButton>("Form2", "Command1");
+        QCOMPARE(viewer.inFront(), std::string(forms::kTextViewer));
+        QCOMPARE(viewer.screens.form(forms::kTextViewer).windowTitle(), QString("A note"));
+        auto& button = viewer.control<QPushButton>(forms::kTextViewer, "Command1");
         QCOMPARE(button.text(), QString("Exit Note"));
         QCOMPARE(button.toolTip(), QString("Close File"));
-        QVERIFY(viewer.control<QTextEdit>("Form2", "RichTextBox1").toPlainText().contains("Plain words"));
+        QVERIFY(viewer.control<QTextEdit>(forms::kTextViewer, "RichTextBox1")
+                    .toPlainText()
+                    .contains("Plain words"));
     }
 
     void characters_have_their_looks() {
@@ -104,10 +106,10 @@ class ViewerTest : public QObject {
 
     void a_missing_file_is_told_and_no_viewer_opens() {
         Viewer viewer;
-        viewer.click("Form2", "Command1");
+        viewer.click(forms::kTextViewer, "Command1");
         viewer.screens.runAction("Warranty", [&] { showText(viewer.screens, "\\none.rtf", "None", "Exit"); });
         QCOMPARE(viewer.lastMessage().title, std::string("Run-time error '53'"));
-        QCOMPARE(viewer.inFront(), std::string("Form3"));
+        QCOMPARE(viewer.inFront(), std::string(forms::kMainMenu));
     }
 
     void the_paper_is_white_on_a_dark_desktop() {
@@ -131,13 +133,13 @@ class ViewerTest : public QObject {
     void every_way_out_hides_it_and_none_ends_the_program() {
         QFETCH(QString, way);
         Viewer viewer;
-        if (way == "click") viewer.click("Form2", "Command1");
+        if (way == "click") viewer.click(forms::kTextViewer, "Command1");
         if (way == "escape in text") QTest::keyClick(&viewer.text(), Qt::Key_Escape);
         if (way == "enter in text") QTest::keyClick(&viewer.text(), Qt::Key_Return);
         if (way == "escape in button") QTest::keyClick(&viewer.button(), Qt::Key_Escape);
-        if (way == "close") viewer.screens.form("Form2").close();
-        QCOMPARE(viewer.inFront(), std::string("Form3"));
-        QVERIFY(!viewer.screens.form("Form2").isVisible());
+        if (way == "close") viewer.screens.form(forms::kTextViewer).close();
+        QCOMPARE(viewer.inFront(), std::string(forms::kMainMenu));
+        QVERIFY(!viewer.screens.form(forms::kTextViewer).isVisible());
     }
 };
 

@@ -1,0 +1,128 @@
+#include <set>
+
+#include "screens/FormRegistry.h"
+#include "screens/Program.h"
+
+namespace norlaplan::testing {
+namespace {
+
+/// A form that counts how it comes to the front.
+class Counting : public Form {
+  public:
+    using Form::Form;
+    void opened() override { ++timesOpened; }
+    void cameBack() override { ++timesBack; }
+
+    int timesOpened = 0, timesBack = 0;
+};
+
+/// The program with the style, size and load screens replaced by counting ones.
+struct Pile : Program {
+    Pile() {
+        for (const FormName name : {forms::kStyle, forms::kSizes, forms::kLoads})
+            screens.add(name, [name](Screens& all) { return std::make_unique<Counting>(all, name, ""); });
+    }
+    /// Times opened and come back, as "1+0".
+    std::string counts(FormName name) {
+        const auto& form = screens.formAs<Counting>(name);
+        return std::to_string(form.timesOpened) + "+" + std::to_string(form.timesBack);
+    }
+};
+
+class FormRegistryTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void everyNameStandsOnce() {
+        std::set<std::string> names, plainNames;
+        for (const FormEntry& entry : formRegistry()) {
+            QVERIFY2(names.insert(entry.name).second, entry.name.text);
+            QVERIFY2(plainNames.insert(entry.plainName).second, entry.plainName);
+        }
+    }
+
+    void everyFormBearsItsName() {
+        Program program;
+        for (const FormEntry& entry : formRegistry()) {
+            if (entry.make == nullptr) continue;
+            QVERIFY(program.screens.knows(entry.name));
+            QCOMPARE(program.screens.form(entry.name).objectName(), QString(entry.name.text));
+        }
+    }
+
+    void whatIsNotBuiltIsSaidSoInOneSentenceAndNothingOpens() {
+        Program program;
+        program.screens.show(forms::kMainMenu);
+        for (const FormEntry& entry : formRegistry()) {
+            if (entry.make != nullptr) continue;
+            program.screens.show(entry.name);
+            const std::string what = entry.plainName;
+            QCOMPARE(program.lastMessage(),
+                     (Message{"Norlaplan MM", what + " is not part of this version of the program.",
+                              Icon::Information}));
+            QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
+        }
+    }
+
+    void aFormIsOpenedOnceAndComesBackWhenWhatLayOverItIsLeft() {
+        Pile pile;
+        pile.screens.show(forms::kStyle);
+        QCOMPARE(pile.counts(forms::kStyle), std::string("1+0"));
+        pile.screens.show(forms::kSizes);
+        QCOMPARE(pile.counts(forms::kStyle), std::string("1+0"));
+        pile.screens.form(forms::kSizes).close();
+        QCOMPARE(pile.counts(forms::kStyle), std::string("1+1"));
+        pile.screens.show(forms::kSizes);
+        QCOMPARE(pile.counts(forms::kSizes), std::string("2+0"));
+    }
+
+    void aFormShownFromAboveItselfComesBackAndTheOthersClose() {
+        Pile pile;
+        for (const FormName name : {forms::kStyle, forms::kSizes, forms::kLoads})
+            pile.screens.show(name);
+        pile.screens.show(forms::kStyle);
+        QCOMPARE(pile.counts(forms::kStyle), std::string("1+1"));
+        QCOMPARE(pile.counts(forms::kSizes), std::string("1+0"));
+        pile.screens.show(forms::kSizes);
+        QCOMPARE(pile.counts(forms::kSizes), std::string("2+0"));
+    }
+
+    void aFormInPlaceOfAnotherLeavesTheOneBeneathAlone() {
+        Pile pile;
+        pile.screens.show(forms::kStyle);
+        pile.screens.show(forms::kSizes);
+        pile.screens.showInstead(pile.screens.form(forms::kSizes), forms::kLoads);
+        QCOMPARE(pile.inFront(), std::string(forms::kLoads));
+        QCOMPARE(pile.counts(forms::kStyle), std::string("1+0"));
+        QCOMPARE(pile.counts(forms::kLoads), std::string("1+0"));
+        pile.screens.form(forms::kLoads).close();
+        QCOMPARE(pile.inFront(), std::string(forms::kStyle));
+        QCOMPARE(pile.counts(forms::kStyle), std::string("1+1"));
+    }
+
+    void aFormThatIsNotBuiltTakesNobodysPlace() {
+        Pile pile;
+        pile.screens.show(forms::kStyle);
+        pile.screens.showInstead(*pile.screens.current(), forms::kThermalFits);
+        QCOMPARE(pile.inFront(), std::string(forms::kStyle));
+        QCOMPARE(pile.counts(forms::kStyle), std::string("1+0"));
+    }
+
+    void alonePutsAFormInPlaceOfAllAndAnOpenOneComesBack() {
+        Pile pile;
+        pile.screens.show(forms::kStyle);
+        pile.screens.show(forms::kSizes);
+        pile.screens.showAlone(forms::kStyle);
+        QCOMPARE(pile.counts(forms::kStyle), std::string("1+1"));
+        pile.screens.showAlone(forms::kLoads);
+        QCOMPARE(pile.counts(forms::kLoads), std::string("1+0"));
+        pile.screens.form(forms::kLoads).close();
+        QCOMPARE(pile.inFront(), std::string());
+    }
+};
+
+}  // namespace
+}  // namespace norlaplan::testing
+
+QTEST_MAIN(norlaplan::testing::FormRegistryTest)
+#include "FormRegistryTest.moc"
