@@ -17,6 +17,7 @@ struct Arguments {
     LoadOptions loads;
     SearchOptions search;
     DeflectionOptions deflection;
+    FitOptions fits;
     std::string output;
 };
 
@@ -46,6 +47,8 @@ class Builder {
         addNumber(deflection);
         addDeflection(deflection);
 
+        addFits();
+
         CLI::App* const sheet =
             command(app_, "datasheet", "The data sheet as a file",
                     [](Session& s, Arguments& a) { return dataSheetCommand(s, a.number, a.output); });
@@ -66,6 +69,22 @@ class Builder {
             *chosen = [arguments, run](Session& session) { return run(session, *arguments); };
         });
         return command;
+    }
+
+    void addFits() {
+        CLI::App* const torque = command(app_, "torque", "Unmounted starting torque against preload",
+                                         [](Session& s, Arguments& a) { return torqueCommand(s, a.number); });
+        addNumber(torque);
+
+        CLI::App* const play = command(app_, "play", "Axial play and tilt against diametral clearance",
+                                       [](Session& s, Arguments& a) { return playCommand(s, a.number); });
+        addNumber(play);
+
+        CLI::App* const fits =
+            command(app_, "fits", "Shaft and housing sizes for a range of temperature",
+                    [](Session& s, Arguments& a) { return fitsCommand(s, a.number, a.fits); });
+        addNumber(fits);
+        addFitOptions(fits);
     }
 
     void addReports() {
@@ -122,6 +141,15 @@ class Builder {
         command->add_option("--max-radial", deflection.maxRadial, "End of the radial curve" + proposed);
         command->add_option("--max-axial", deflection.maxAxial, "End of the axial curve" + proposed);
         command->add_option("--max-moment", deflection.maxMoment, "End of the moment curve" + proposed);
+    }
+
+    void addFitOptions(CLI::App* command) {
+        FitOptions& fits = arguments_->fits;
+        const char* const expansion = "Thermal expansion per degree, or a material such as \"440C steel\"";
+        command->add_option("--high", fits.high, "Highest temperature, display units")->required();
+        command->add_option("--low", fits.low, "Lowest temperature, display units")->required();
+        command->add_option("--shaft", fits.shaft, expansion)->required();
+        command->add_option("--housing", fits.housing, expansion)->required();
     }
 
     void addOutput(CLI::App* command) {

@@ -23,11 +23,20 @@ struct DeflectionOptions {
     std::optional<double> maxRadial, maxAxial, maxMoment;
 };
 
+/// What the fits command takes: temperatures in display units, a coefficient in them or a material's name.
+struct FitOptions {
+    double high = 0.0, low = 0.0;
+    std::string shaft, housing;
+};
+
 /// Each command: its result, or `CommandError` and the run-time errors of its calculation.
 CommandResult decodeCommand(Session& session, const PartNumberOption& number);
 CommandResult lifeCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads);
 CommandResult deflectionCommand(Session& session, const PartNumberOption& number,
                                 const DeflectionOptions& options);
+CommandResult torqueCommand(Session& session, const PartNumberOption& number);
+CommandResult playCommand(Session& session, const PartNumberOption& number);
+CommandResult fitsCommand(Session& session, const PartNumberOption& number, const FitOptions& options);
 CommandResult dataSheetCommand(Session& session, const PartNumberOption& number,
                                const std::filesystem::path& output);
 CommandResult searchCommand(Session& session, const SearchOptions& options, const LoadOptions& loads);

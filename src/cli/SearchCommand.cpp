@@ -41,9 +41,7 @@ void takeSizes(Session& session, const SearchOptions& options) {
     texts.maxOd = plainText(options.maxOd);
     texts.minHeight = plainText(options.minHeight);
     texts.maxHeight = plainText(options.maxHeight);
-    if (const auto message = enterSizes(session.state())) {
-        throw CommandError(ErrorKind::Message, message->title, message->prompt);
-    }
+    refuse(enterSizes(session.state()));
 }
 
 void sort(SearchResults& results, const SearchOptions& options) {

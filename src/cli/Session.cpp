@@ -44,9 +44,7 @@ void Session::enter(const LoadOptions& loads) {
     texts.axial = radial ? "" : plainText(loads.axial);
     texts.moment = radial ? "" : plainText(loads.moment);
     if (takesSpeed(state_)) texts.speed = plainText(loads.speed);
-    if (const auto message = enterLoads(state_)) {
-        throw CommandError(ErrorKind::Message, message->title, message->prompt);
-    }
+    refuse(enterLoads(state_));
 }
 
 void Session::failWithLastMessage() {

@@ -5,6 +5,7 @@
 #include "numbers/Int16.h"
 #include "state/BearingSpec.h"
 #include "state/DeflectionResult.h"
+#include "state/FitsRecords.h"
 #include "state/LifeResult.h"
 #include "state/LoadCase.h"
 #include "state/SearchRecords.h"
@@ -59,6 +60,10 @@ struct ProgramState {
     LifeResult life;
     SolverState solver;
     DeflectionResult deflection;
+
+    TorqueCurve torque;
+    PlayCurve play;
+    ThermalFits thermalFits;
 
     std::string lastSavedFile;
 };

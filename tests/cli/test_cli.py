@@ -294,7 +294,8 @@ class Settings(unittest.TestCase):
 class Usage(unittest.TestCase):
     def test_help_and_version(self):
         self.assertEqual(run("--version").stdout, "NORLAPLAN-MM version 1.00\n")
-        for words in ((), ("decode",), ("life",), ("report",), ("report", "life"), ("search",), ("datasheet",)):
+        for words in ((), ("decode",), ("life",), ("report",), ("report", "life"), ("search",), ("datasheet",),
+                      ("torque",), ("play",), ("fits",)):
             done = run(*words, "--help")
             self.assertEqual(done.returncode, 0)
             self.assertIn("--help", done.stdout)

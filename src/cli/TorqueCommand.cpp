@@ -1,0 +1,57 @@
+#include <vector>
+
+#include "cli/CommandError.h"
+#include "cli/Commands.h"
+#include "cli/TextTable.h"
+#include "fits/DisplayUnits.h"
+#include "fits/TorqueAxes.h"
+#include "fits/TorqueCurve.h"
+#include "numbers/FormatNumber.h"
+#include "state/MenuConditions.h"
+
+namespace norlaplan::cli {
+namespace {
+
+void calculate(Session& session, const PartNumberOption& number) {
+    session.decode(number);
+    ProgramState& state = session.state();
+    refuse(preloadTorqueRefusal(state));
+    computeTorqueCurve(state.bearing, state.torque, session.messages());
+}
+
+Json axesJson(const TorqueAxes& axes) {
+    return {{"xMax", axes.xMax}, {"xStep", axes.xStep}, {"yMax", axes.yMax}, {"yStep", axes.yStep},
+            {"yExp", axes.yExp}, {"yMant", axes.yMant}, {"sx", axes.sx},     {"sy", axes.sy}};
+}
+
+std::string curveTable(const ProgramState& state) {
+    const UnitMode& units = state.units;
+    const bool metric = isMetric(units);
+    std::vector<std::vector<std::string>> table = {
+        {"Preload (" + units.lengthUnit + ")", "Torque (" + units.momentUnit + ")"}};
+    for (int i = 1; i <= TorqueCurve::kPoints; ++i) {
+        const TorquePoint& row = state.torque.row(i);
+        table.push_back({FormatNumber(row.preload * units.lengthFactor, metric ? "0.00000" : "0.0000"),
+                         FormatNumber(row.torque / units.momentFactor, metric ? "0.0000" : "0.000")});
+    }
+    return textTable(table, true);
+}
+
+}  // namespace
+
+CommandResult torqueCommand(Session& session, const PartNumberOption& number) {
+    calculate(session, number);
+    const ProgramState& state = session.state();
+    CommandResult result;
+    Json curve = Json::array();
+    for (int i = 1; i <= TorqueCurve::kPoints; ++i) {
+        const TorquePoint& row = state.torque.row(i);
+        curve.push_back({toJson(row.preload), toJson(row.torque)});
+    }
+    result.json["curve"] = curve;
+    result.json["axes"] = axesJson(computeTorqueAxes(state.torque, state.units));
+    result.text = state.bearing.partNumber + "\n\n" + curveTable(state);
+    return result;
+}
+
+}  // namespace norlaplan::cli
