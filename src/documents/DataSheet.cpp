@@ -60,11 +60,15 @@ void writeClosingLines(const SheetWriter& sheet) {
 
 }  // namespace
 
-std::string savedFooter(const std::string& text, ClockPort& clock) {
+std::string documentFooter(const std::string& line) {
     return R"({\footer \pard\plain \qc\widctlpar\tqc\tx4320\tqr\tx8640\adjustright\fs16\cgrid)"
            "\r\n{" +
-           std::string(kProgramVersion) + "  " + rtfText(text) + "        Saved  " + rtfText(clock.date()) +
-           " " + rtfText(clock.time()) + "\r\n\\par }}";
+           rtfText(line) + "\r\n\\par }}";
+}
+
+std::string savedFooter(const std::string& text, ClockPort& clock) {
+    return documentFooter(kProgramVersion + std::string("  ") + text + "        Saved  " + clock.date() +
+                          " " + clock.time());
 }
 
 SheetFiles makeDataSheet(const ProgramState& state, const ProgramFolder& folder, ClockPort& clock) {

@@ -12,7 +12,9 @@ namespace norlaplan {
 /// missing overlay drawing.
 SheetFiles makeDataSheet(const ProgramState& state, const ProgramFolder& folder, ClockPort& clock);
 
-/// The group of a document's footer: the program's name and version, a text, and when it was saved.
+/// The group of a document's footer with this line (UTF-8).
+std::string documentFooter(const std::string& line);
+/// The footer of a saved document: the program's name and version, a text, and when it was saved.
 std::string savedFooter(const std::string& text, ClockPort& clock);
 
 /// The program's name with its version, as documents and prints carry it.

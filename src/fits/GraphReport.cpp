@@ -1,0 +1,81 @@
+#include "fits/GraphReport.h"
+
+#include <string_view>
+#include <utility>
+
+#include "documents/DataSheet.h"
+
+namespace norlaplan {
+namespace {
+
+constexpr double kPrintedNotes = 11.0;
+constexpr double kMarginLeft = 0.24;
+constexpr double kMarginBottom = 0.29;
+constexpr double kDeep = 0.35;
+/// From the head of a document's page to the notes beneath its graph, twips.
+constexpr const char* kSpaceForGraph = "\\sb8450";
+
+/// A text as RTF, its quotation marks as the words that every reader knows.
+std::string quotedRtf(const std::string& utf8) {
+    std::string text = rtfText(utf8);
+    for (const auto& [code, word] :
+         {std::pair{"\\u8220?", "\\ldblquote "}, std::pair{"\\u8221?", "\\rdblquote "}}) {
+        const std::size_t at = text.find(code);
+        if (at != std::string::npos) text.replace(at, std::string_view(code).size(), word);
+    }
+    return text;
+}
+
+void printLine(Canvas& canvas, PageWriter& page, const NoteLine& line) {
+    double x = kPageLeft + (line.deep ? kDeep : 0.0);
+    TextLook look = timesLook(kPrintedNotes);
+    for (const NotePiece& piece : line.pieces) {
+        look.underline = piece.underline;
+        page.put(x, piece.text, look);
+        x += canvas.textWidth(piece.text, look);
+    }
+    page.endLine(kPrintedNotes);
+}
+
+}  // namespace
+
+void printGraphPage(const Graph& graph, const std::vector<NoteLine>& notes, ClockPort& clock,
+                    Canvas& canvas) {
+    TextLook maker = timesLook(9.0, true, rgb(0, 40, 110));
+    maker.typeface = Typeface::Arial;
+    maker.alignment = Alignment::Right;
+    canvas.text({kPageLeft, 10.38, kPageRight, 10.2}, "VARDEN", maker);
+    // The graph's places count from the corner of what a printer reaches.
+    drawGraph(moved(graph, kMarginLeft, kMarginBottom), canvas);
+    PageWriter page(canvas, 4.5);
+    TextLook title = timesLook(14.0, true);
+    title.underline = true;
+    page.line("Notes:", title);
+    page.skip(0.05);
+    for (const NoteLine& line : notes)
+        printLine(canvas, page, line);
+    drawPageFooter(canvas, clock);
+}
+
+void writeNotesBelowGraph(RtfDocument& document, const std::vector<NoteLine>& notes) {
+    for (const double y : {4.0, 3.95})
+        document.RTFLINE({0.25, y}, {7.75, y}, colours::kBlack, 9525.0);
+    document.append(std::string("\\pard") + kSpaceForGraph);
+    document.append("{\\fs28\\cf1\\ul\\b Notes:}\\par");
+    document.append("\\pard");
+    for (const NoteLine& line : notes) {
+        std::string text = line.deep ? "\\tab " : "";
+        for (const NotePiece& piece : line.pieces) {
+            const std::string words = quotedRtf(piece.text);
+            text += piece.underline ? "{\\ul " + words + "}" : words;
+        }
+        document.append("{\\fs24\\cf1 " + text + "}\\par");
+    }
+}
+
+std::string graphFooter(ClockPort& clock) {
+    return documentFooter(kProgramVersion + std::string("        Printed  ") + clock.date() + " " +
+                          clock.time());
+}
+
+}  // namespace norlaplan

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+#include "fits/PlayGraph.h"
+#include "state/Ports.h"
+
+namespace norlaplan {
+
+/// Both graphs of `state.play` as an RTF document of two pages, the axial play with its notes first.
+std::string playRtf(const ProgramState& state, ClockPort& clock);
+
+/// One of the two as a printed page.
+void printPlay(const ProgramState& state, PlayGraph which, ClockPort& clock, Canvas& canvas);
+
+}  // namespace norlaplan
