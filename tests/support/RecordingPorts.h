@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <optional>
 #include <string>
@@ -18,11 +19,13 @@ class RecordingMessages : public MessagePort {
   public:
     std::vector<Message> shown;
     std::vector<Message> asked;
-    std::vector<Answer> answers;  ///< taken from the front; No once they are used up
+    std::vector<Answer> answers;                   ///< taken from the front; No once they are used up
+    std::function<Answer(const Message&)> decide;  ///< answers in their place, when it is there
 
     void show(const Message& message) override { shown.push_back(message); }
     Answer ask(const Message& question, Buttons) override {
         asked.push_back(question);
+        if (decide) return decide(question);
         if (answers.empty()) return Answer::No;
         const Answer answer = answers.front();
         answers.erase(answers.begin());

@@ -1,0 +1,236 @@
+#pragma once
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include "screens/Afresh.h"
+#include "screens/Program.h"
+#include "state/StyleTable.h"
+
+namespace norlaplan::testing {
+
+/// Compares what the form in front shows, and what was printed or saved from it, with the same decoded,
+/// solved and searched afresh. It follows the sizes that were taken on the size screen by itself.
+class WalkCheck {
+  public:
+    WalkCheck(Program& program, Afresh& afresh) : program_(program), afresh_(afresh) {}
+
+    /// Before a step: what the step may print or save starts empty.
+    void before() {
+        wasInFront_ = program_.inFront();
+        program_.printer.documents.clear();
+        program_.printer.canvas = {};
+        std::error_code ignored;
+        std::filesystem::remove(program_.files.path() / "saved.rtf", ignored);
+        program_.messages.shown.clear();
+        program_.messages.asked.clear();
+    }
+
+    /// After it: what is wrong, or an empty text.
+    std::string after() {
+        wrong_.clear();
+        const std::string form = program_.inFront();
+        if (wasInFront_ == "Form12" && form == "Form14") takeSizes();
+        expectTrue("the entry screen leads to a search", wasInFront_ != "Form9" || form != "Form15");
+        checkLoads();
+        if (form == "Form3") checkMenu();
+        if (form == "Form14") checkLoadScreen();
+        if (form == "Form15") checkResults();
+        if (form == "Form17") checkSheet();
+        if (form == "Form19") checkLife();
+        checkDocuments();
+        return wrong_;
+    }
+
+  private:
+    ProgramState& state() const { return program_.state; }
+    const std::string& units() const { return state().unitSystem; }
+
+    void expect(const std::string& what, const std::string& shown, const std::string& fresh) {
+        if (shown != fresh && wrong_.empty())
+            wrong_ = what + ": shown \"" + shown + "\", afresh \"" + fresh + "\"";
+    }
+    void expectTrue(const std::string& what, bool holds) {
+        if (!holds && wrong_.empty()) wrong_ = what;
+    }
+    std::string label(const std::string& form, const char* name) {
+        const auto& found = program_.control<QLabel>(form, name);
+        return found.isVisible() ? found.text().toStdString() : "";
+    }
+
+    const Afresh::Bearing& fresh(const std::string& number) {
+        return afresh_.bearing(number, state().bearing.zSeparatorChoice, units());
+    }
+    const FreshLife& freshLife(const std::string& number) {
+        return afresh_.life(number, state().bearing.zSeparatorChoice, units(), state().loads);
+    }
+
+    /// What shows as a load is what is calculated with.
+    void checkLoads() {
+        const LoadCase& loads = state().loads;
+        const UnitMode& mode = state().units;
+        const auto same = [&](const char* what, Single pounds, Single shown, double factor) {
+            expect(what, plainText(pounds), plainText(Single(shown * factor)));
+        };
+        same("radial load", loads.radialLoad, loads.radialLoadDisplay, mode.forceFactor);
+        same("axial load", loads.axialLoad, loads.axialLoadDisplay, mode.forceFactor);
+        same("moment", loads.momentLoad, loads.momentLoadDisplay, mode.momentFactor);
+    }
+
+    void checkMenu() {
+        const std::string number = label("Form3", "Label3");
+        expect("bearing in hand", number, state().bearing.partNumber);
+        if (!number.empty())
+            expectTrue("the menu shows " + number + ", which doesn't decode", fresh(number).decoded);
+    }
+
+    void checkLoadScreen() {
+        const std::string caption = program_.screens.form("Form14").windowTitle().toStdString();
+        const std::string& number = state().bearing.partNumber;
+        if (state().knownBearingLoadInput) {
+            const StyleRow* const style = styleByLetter(fresh(number).state.bearing.styleLetter);
+            expectTrue("loads for " + number + " without a style", style != nullptr);
+            if (style == nullptr) return;
+            expect("caption", caption,
+                   std::string("BEARING LOAD INPUT FOR ") + style->caption + " " + number);
+            expectTrue("axial load of a radial bearing",
+                       (std::string(style->styleLetter) == "C") !=
+                           program_.control<QLineEdit>("Form14", "Text2").isVisible());
+        } else {
+            expect("caption", caption.substr(0, 23 + state().style.searchStyleCaption.size()),
+                   "BEARING LOAD INPUT FOR " + state().style.searchStyleCaption);
+        }
+    }
+
+    void takeSizes() {
+        const auto field = [&](const char* name) {
+            return Single(*wholeNumberText(program_.control<QLineEdit>("Form12", name).text().toStdString()));
+        };
+        const double factor = state().units.lengthFactor;
+        sizes_.minBore = field("Text1") / factor;
+        sizes_.maxOd = field("Text2") / factor;
+        sizes_.minHeight = field("Text3") / factor;
+        sizes_.maxHeight = field("Text4") / factor;
+    }
+
+    void checkResults() {
+        const SearchCriteria& shown = state().criteria;
+        const double factor = state().units.lengthFactor;
+        const auto near = [&](Single display, Single inches) {
+            return std::fabs(display / factor - inches) <= 0.0015 + inches * 1e-6;
+        };
+        expectTrue("sizes shown are not those that were taken",
+                   near(shown.minBoreDisplay, sizes_.minBore) && near(shown.maxOdDisplay, sizes_.maxOd) &&
+                       near(shown.minHeightDisplay, sizes_.minHeight) &&
+                       near(shown.maxHeightDisplay, sizes_.maxHeight));
+        const std::string unit = " " + state().units.lengthUnit;
+        expect("minimum bore", label("Form15", "Label1"),
+               "MINIMUM BORE   = " + plainText(shown.minBoreDisplay) + unit);
+        expect("radial load", label("Form15", "Label5"),
+               "RADIAL = " + plainText(state().loads.radialLoadDisplay) + " " + state().units.loadUnit);
+        sizes_.maxHeightDisplay = shown.maxHeightDisplay;
+        auto rows = state().search.rows;
+        auto expected = afresh_.search(state().style, sizes_, units(), state().loads);
+        expect("rows", std::to_string(rows.size()), std::to_string(expected.size()));
+        if (!wrong_.empty()) return;
+        sortByText(rows);
+        sortByText(expected);
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            expect("row " + std::to_string(i), textOf(rows[i]), textOf(expected[i]));
+        checkChosenRow();
+    }
+
+    static std::string textOf(const SearchHit& hit) {
+        return hit.name + "|" + hit.speedLimit + "|" + hit.l10Revolutions + "|" + hit.l10Hours + "|" +
+               hit.boreText + "|" + hit.odText + "|" + hit.heightText + "|" + trimmed(hit.stock);
+    }
+    static void sortByText(std::vector<SearchHit>& rows) {
+        std::sort(rows.begin(), rows.end(),
+                  [](const SearchHit& a, const SearchHit& b) { return textOf(a) < textOf(b); });
+    }
+
+    void checkChosenRow() {
+        const int chosen = program_.control<QComboBox>("Form15", "Combo1").currentIndex();
+        if (chosen < 0 || state().search.rows.empty()) return;
+        const SearchHit& hit = state().search.rows.at(static_cast<std::size_t>(chosen));
+        const std::string unit = " " + state().units.lengthUnit;
+        expect("chosen bearing", program_.control<QGroupBox>("Form15", "Frame5").title().toStdString(),
+               hit.name);
+        expect("chosen bore", label("Form15", "Label11"), "Bore = " + hit.boreText + unit);
+        expect("chosen height", label("Form15", "Label13"), "Height = " + hit.heightText + unit);
+    }
+
+    void checkSheet() {
+        const std::string& number = state().bearing.partNumber;
+        expectTrue("the sheet of " + number + ", which doesn't decode", fresh(number).decoded);
+        const std::string records = program_.files.read("CONDENSED.DAT");
+        expectTrue("the sheet is not that of " + number, records == fresh(number).sheet.records);
+    }
+
+    void checkLife() {
+        const std::string title = program_.screens.form("Form19").windowTitle().toStdString();
+        const std::string head = "LOAD-LIFE CALCULATION FOR ";
+        const std::string number = title.substr(std::min(title.size(), head.size()));
+        expect("number of the life", number, state().bearing.partNumber);
+        const FreshLife& life = freshLife(number);
+        expectTrue("a life of " + number + ", which has none", life.solved);
+        if (!wrong_.empty()) return;
+        const std::string what = number + " ";
+        expect(what + "bore", label("Form19", "Label1"), life.bore);
+        expect(what + "O.D.", label("Form19", "Label2"), life.outsideDiameter);
+        expect(what + "height", label("Form19", "Label3"), life.height);
+        expect(what + "radial load", label("Form19", "Label4"), life.radial);
+        expect(what + "axial load", label("Form19", "Label5"), life.axial);
+        expect(what + "moment", label("Form19", "Label6"), life.moment);
+        expect(what + "speed", label("Form19", "Label7"), life.speed);
+        expect(what + "life", label("Form19", "Label8"), life.life);
+        expect(what + "hours", label("Form19", "Label9"), life.hours);
+        expect(what + "safety", label("Form19", "Label10"), life.safety);
+        expect(what + "torque", label("Form19", "Label13"), life.torque);
+        expect(what + "verdict", label("Form19", "Label11"), life.verdict);
+    }
+
+    void checkDocuments() {
+        const std::string saved = program_.files.read("saved.rtf");
+        if (!saved.empty()) checkText("saved", saved);
+        if (program_.printer.documents.empty()) return;
+        std::string printed;
+        for (const RecordingCanvas::Text& text : program_.printer.canvas.texts)
+            printed += text.text + "\n";
+        checkText("printed", printed);
+    }
+
+    void checkText(const std::string& how, const std::string& text) {
+        const auto has = [&](const std::string& wanted) {
+            expectTrue(how + " by " + wasInFront_ + " lacks " + wanted,
+                       text.find(wanted) != std::string::npos);
+        };
+        const std::string& number = state().bearing.partNumber;
+        if (wasInFront_ == "Form19") {
+            const FreshLife& life = freshLife(number);
+            expectTrue(how + " life of " + number + ", which has none", life.solved);
+            if (!life.solved) return;
+            for (const std::string& part : {number, life.l10, life.staticSafety, life.verdict})
+                has(part);
+        } else if (wasInFront_ == "Form17") {
+            expectTrue(how + " sheet of " + number + ", which doesn't decode", fresh(number).decoded);
+            has(number);
+        } else if (wasInFront_ == "Form15") {
+            has(state().style.searchStyleCaption);
+            for (const SearchHit& hit : state().search.rows)
+                has(hit.name.substr(0, 6));
+        }
+    }
+
+    Program& program_;
+    Afresh& afresh_;
+    SearchCriteria sizes_;
+    std::string wasInFront_, wrong_;
+};
+
+}  // namespace norlaplan::testing
