@@ -88,6 +88,7 @@ void judgeSpeed(ProgramState& state) {
 
 bool computeLoadLife(ProgramState& state, MessagePort& messages) {
     LifeResult& life = state.life;
+    life = {};
     pickClearance(state.bearing);
     state.solver.SolveAborted = false;
     const std::optional<SolveResult> result = solveWithAdvice(state.bearing.styleLetter == "C", state.loads,
@@ -107,7 +108,18 @@ bool computeLoadLife(ProgramState& state, MessagePort& messages) {
     life.torqueDisplay = divide(life.startingTorque, state.units.momentFactor);
     life.torqueLabel = "Estimated Starting Torque = ";
     if (speed != 0.0) judgeSpeed(state);
+    life.partNumber = state.bearing.partNumber;
+    life.zSeparatorChoice = state.bearing.zSeparatorChoice;
+    life.unitSystem = state.units.system;
+    life.loads = state.loads;
     return true;
+}
+
+bool hasLife(const ProgramState& state) {
+    const LifeResult& life = state.life;
+    return !life.partNumber.empty() && life.partNumber == state.bearing.partNumber &&
+           life.zSeparatorChoice == state.bearing.zSeparatorChoice && life.unitSystem == state.units.system &&
+           life.loads == state.loads;
 }
 
 std::string lifeLine(const ProgramState& state) {

@@ -16,6 +16,9 @@ namespace norlaplan {
 /// for a life of 0 with a speed.
 bool computeLoadLife(ProgramState& state, MessagePort& messages);
 
+/// Whether `state.life` is the result of the bearing and the loads in hand, in the units in force.
+bool hasLife(const ProgramState& state);
+
 /// The lines of results as the screen shows them.
 std::string lifeLine(const ProgramState& state);
 /// Empty with no speed.

@@ -61,6 +61,7 @@ void setFitTexts(BearingSpec& bearing, const UnitMode& units, const ProgramFolde
 
 void decode(ProgramState& state, std::string& number, DecodeServices& services) {
     BearingSpec& bearing = state.bearing;
+    state.decoded.takeOff();
     checkPartNumber(number, bearing, services.messages);
     bearing.partNumber = number;
     readTables(bearing, services.folder);
@@ -72,6 +73,7 @@ void decode(ProgramState& state, std::string& number, DecodeServices& services) 
     setFitTexts(bearing, state.units, services.folder);
     deriveBearingData(state, services.folder, services.messages);
     services.sheets.store(makeDataSheet(state, services.folder, services.clock));
+    state.decoded.set(bearing, state.units.system);
 }
 
 /// Tells why a run has ended. Without its number the mix of two bearings that is left is never read.

@@ -33,9 +33,9 @@ struct DecodeResult {
 
 /// Turns a part number of 9 or 10 characters into the current bearing: checks it position by position, looks
 /// it up in the catalogue, derives all further data and writes the data sheet. The number is repaired in
-/// place (upper case, letter O for 0, a dropped fit letter) and becomes `partNumber`. Every refusal and
-/// failure is shown through the services; it leaves a mix of old and new values behind, which nothing reads
-/// since `partNumber` is empty.
+/// place (upper case, letter O for 0, a dropped fit letter) and becomes `partNumber`; at a good end the state
+/// knows that it holds the decoded bearing. Every refusal and failure is shown through the services; it
+/// leaves a mix of old and new values behind, which nothing reads since `partNumber` is empty.
 DecodeResult DecodePartNumber(ProgramState& state, std::string& number, DecodeServices& services);
 
 }  // namespace norlaplan

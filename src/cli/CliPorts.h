@@ -11,20 +11,14 @@ namespace norlaplan::cli {
 class CollectedMessages : public MessagePort {
   public:
     void show(const Message& message) override { messages_.push_back(message); }
-    Answer ask(const Message&, Buttons) override {
-        refused_ = true;
-        return Answer::No;
-    }
+    Answer ask(const Message&, Buttons) override { return Answer::No; }
 
     const std::vector<Message>& messages() const { return messages_; }
-    /// Whether a question was asked, and so answered No.
-    bool refused() const { return refused_; }
     /// Takes the last message out: the one that ended the action.
     Message takeLast();
 
   private:
     std::vector<Message> messages_;
-    bool refused_ = false;
 };
 
 /// Date and time of this machine, in the user's locale.

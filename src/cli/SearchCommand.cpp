@@ -62,10 +62,6 @@ void search(Session& session, const SearchOptions& options, const LoadOptions& l
     Uninterrupted watch;
     const SearchEnd end = RunBearingSearch(session.state(), session.folder(), session.messages(), watch);
     if (end == SearchEnd::NoneFound) session.failWithLastMessage();
-    // A row that was given up is listed with life 0; that must not pass in silence.
-    if (session.messages().refused()) {
-        session.messages().show({NotConverging::title(), NotConverging().what()});
-    }
     sort(session.state().search, options);
 }
 

@@ -119,12 +119,6 @@ std::string shortest(Real value) {
 
 }  // namespace
 
-std::string upperCase(std::string_view text) {
-    std::string upper(text);
-    std::transform(upper.begin(), upper.end(), upper.begin(), asciiUpper);
-    return upper;
-}
-
 std::string lowerCase(std::string_view text) {
     std::string lower(text);
     std::transform(lower.begin(), lower.end(), lower.begin(), asciiLower);

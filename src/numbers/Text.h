@@ -8,8 +8,10 @@
 
 namespace norlaplan {
 
-/// ASCII upper case; other characters stay. Never follows the locale.
+/// Upper case of a UTF-8 text: Latin, Greek, Cyrillic and Armenian letters that have one capital letter. What
+/// is no such letter stays, bytes that are no UTF-8 as well. Never follows the locale.
 std::string upperCase(std::string_view text);
+/// ASCII lower case; other characters stay.
 std::string lowerCase(std::string_view text);
 /// Without the blanks at both ends.
 std::string trimmed(std::string_view text);

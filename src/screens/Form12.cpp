@@ -55,7 +55,7 @@ void Form12::opened() {
 }
 
 void Form12::refresh() {
-    const QString unit = state().unitSystem == "METRIC" ? " (mm)" : " (in)";
+    const QString unit = state().units.system == "METRIC" ? " (mm)" : " (in)";
     const std::array<const char*, 4> captions = {"MINIMUM BORE", "MAXIMUM OUTER DIAMETER", "MAX. HEIGHT",
                                                  "MIN. HEIGHT"};
     const std::array<NumberField*, 4> fields = {minBore_, maxOd_, maxHeight_, minHeight_};

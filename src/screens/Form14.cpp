@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "screens/Decoding.h"
 #include "screens/FormBuilder.h"
 #include "screens/NumberField.h"
 #include "screens/Picture.h"
@@ -65,7 +66,7 @@ void Form14::opened() {
 
 void Form14::refresh() {
     const ProgramState& now = state();
-    const bool metric = now.unitSystem == "METRIC";
+    const bool metric = now.units.system == "METRIC";
     radialLabel_->setText(metric ? "RADIAL (N)" : "RADIAL (lbs)");
     axialLabel_->setText(metric ? "AXIAL (N)" : "AXIAL (lbs)");
     momentLabel_->setText(metric ? "MOMENT (N-M)" : "MOMENT (in-lbs)");
@@ -82,10 +83,13 @@ void Form14::refresh() {
                                   static_cast<QWidget*>(momentLabel_), static_cast<QWidget*>(moment_)}) {
         widget->setVisible(!radialOnly);
     }
-    setWindowTitle(QString::fromStdString("BEARING LOAD INPUT FOR " + now.style.searchStyleCaption + " " +
-                                          now.bearing.partNumber));
-    const StyleRow* style = styleByCaption(now.style.searchStyleCaption);
-    if (style == nullptr || now.knownBearingLoadInput) style = styleByLetter(now.bearing.styleLetter);
+    // A style that is searched for and the number of a bearing in hand never stand beside each other.
+    const bool known = now.knownBearingLoadInput;
+    const StyleRow* const style =
+        known ? styleByLetter(now.bearing.styleLetter) : styleByCaption(now.style.searchStyleCaption);
+    setWindowTitle(QString::fromStdString("BEARING LOAD INPUT FOR " +
+                                          std::string(style == nullptr ? "" : style->caption) + " " +
+                                          (known ? now.bearing.partNumber : "")));
     if (style != nullptr) picture_->showFile(services().folder, stylePicture(*style, 'L'));
 }
 
@@ -99,6 +103,7 @@ bool Form14::enter() {
 void Form14::proceed() {
     if (!enter()) return;
     const bool known = state().knownBearingLoadInput;
+    if (known && !bearingInHand(screens())) return;
     screens().showInstead(*this, known ? forms::kLife : forms::kResults);
 }
 

@@ -232,7 +232,7 @@ void Form15::fillList(bool fresh) {
 }
 
 void Form15::choose(int index) {
-    const std::optional<ChosenBearing> chosen = chooseHit(state(), index + 1);
+    const std::optional<ChosenBearing> chosen = chosenHit(state(), index + 1);
     if (!chosen) return;
     table_->setCurrentIndex(rows_->index(index, kNameColumn));
     chosenGroup_->setTitle(text(chosen->caption));
@@ -245,9 +245,7 @@ void Form15::choose(int index) {
 }
 
 DecodeEnd Form15::decodeChosen() {
-    // A decode that has failed took the number away; the row still stands as chosen.
-    chooseHit(state(), list_->currentIndex() + 1);
-    return decodeCurrentBearing(screens());
+    return decodeBearing(screens(), chosenHit(state(), list_->currentIndex() + 1)->partNumber);
 }
 
 void Form15::goToMainMenu() {

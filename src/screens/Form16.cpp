@@ -78,7 +78,6 @@ void Form16::opened() {
 void Form16::chooseStyle(std::size_t row) {
     const StyleRow& style = kStyles[row];
     state().style = {style.caption, style.tableLetter};
-    state().bearing.styleLetter = style.styleLetter;
     refresh();
 }
 

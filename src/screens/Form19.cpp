@@ -12,6 +12,7 @@
 #include "numbers/FormatNumber.h"
 #include "numbers/Text.h"
 #include "screens/BusyPointer.h"
+#include "screens/Decoding.h"
 #include "screens/FormBuilder.h"
 #include "screens/Picture.h"
 #include "screens/SaveReport.h"
@@ -184,6 +185,10 @@ void Form19::opened() {
     }
 }
 
+void Form19::cameBack() {
+    if (!hasLife(state())) opened();
+}
+
 void Form19::calculate() {
     const BusyPointer busy;
     if (computeLoadLife(state(), services().messages)) {
@@ -191,6 +196,12 @@ void Form19::calculate() {
     } else if (state().solver.SolveAborted) {
         leaveUnsolved();
     }
+}
+
+bool Form19::lifeInHand() {
+    if (!bearingInHand(screens())) return false;
+    if (!hasLife(state())) opened();
+    return hasLife(state());
 }
 
 void Form19::leaveUnsolved() {
@@ -285,12 +296,14 @@ void Form19::keyPressEvent(QKeyEvent* event) {
 }
 
 void Form19::print() {
+    if (!lifeInHand()) return;
     const Services& program = services();
     program.printer.print("Load-life calculation for " + state().bearing.partNumber,
                           [&](Canvas& canvas) { printLoadLife(state(), program.clock, canvas); });
 }
 
 void Form19::save() {
+    if (!lifeInHand()) return;
     saveReport(services(), "Save Results As", state().bearing.partNumber + "-load.rtf",
                [this] { return loadLifeRtf(state(), services().clock); });
 }

@@ -17,6 +17,7 @@ class Form19 : public Form {
     explicit Form19(Screens& screens);
 
     void opened() override;
+    void cameBack() override;
     void closed() override;
 
   protected:
@@ -38,6 +39,8 @@ class Form19 : public Form {
     void showResults();
     void clearResults();
     void calculate();
+    /// Whether the results are those of the bearing and loads in hand, solved again where they aren't.
+    bool lifeInHand();
     /// The solve was given up or unstable: the load screen comes back with its corrected loads.
     void leaveUnsolved();
 

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <filesystem>
 
+#include "screens/Decoding.h"
 #include "screens/Form2.h"
 #include "screens/Screens.h"
 #include "screens/Theme.h"
@@ -54,34 +55,39 @@ void Form3::openModelNumber() {
     screens().show(forms::kPartNumber);
 }
 
+bool Form3::bearingReady() {
+    return !refused(bearingRefusal(state())) && bearingInHand(screens());
+}
+
 void Form3::openDataSheet() {
-    openFor(bearingRefusal(state()), forms::kDataSheet);
+    if (bearingReady()) screens().show(forms::kDataSheet);
 }
 
 void Form3::openPreloadTorque() {
-    openFor(preloadTorqueRefusal(state()), forms::kPreloadTorque);
+    if (bearingReady()) openFor(preloadTorqueRefusal(state()), forms::kPreloadTorque);
 }
 
 void Form3::openAxialPlay() {
-    openFor(axialPlayRefusal(state()), forms::kAxialPlay);
+    if (bearingReady()) openFor(axialPlayRefusal(state()), forms::kAxialPlay);
 }
 
 void Form3::openDeflection() {
-    openFor(loadableBearingRefusal(state()), forms::kDeflection);
+    if (bearingReady()) openFor(loadableBearingRefusal(state()), forms::kDeflection);
 }
 
 void Form3::openKnownLoads() {
-    if (refused(loadableBearingRefusal(state()))) return;
+    if (!bearingReady() || refused(loadableBearingRefusal(state()))) return;
     state().knownBearingLoadInput = true;
     screens().show(forms::kLoads);
 }
 
 void Form3::openLife() {
-    openFor(lifeRefusal(state()), forms::kLife);
+    if (bearingReady()) openFor(lifeRefusal(state()), forms::kLife);
 }
 
 void Form3::openThermalFits() {
-    openFor(thermalFitsRefusal(state()), forms::kThermalFits);
+    if (!refused(thermalFitsRefusal(state())) && bearingInHand(screens()))
+        screens().show(forms::kThermalFits);
 }
 
 void Form3::openStyle() {

@@ -61,6 +61,8 @@ class Form3 : public Form {
 
     /// Shows the message, if there is one, and says whether there was.
     bool refused(const std::optional<Message>& refusal);
+    /// Whether there is a bearing in hand, decoded; otherwise the user has been told.
+    bool bearingReady();
     /// Opens a form unless the bearing in hand is refused.
     void openFor(const std::optional<Message>& refusal, FormName form);
     bool needsStyle();

@@ -41,7 +41,7 @@ Form6::Form6(Screens& screens) : Form(screens, forms::kUnits, "Measurement") {
 }
 
 void Form6::opened() {
-    const bool metric = state().unitSystem == "METRIC";
+    const bool metric = state().units.system == "METRIC";
     metric_->setChecked(metric);
     us_->setChecked(!metric);
 }
@@ -49,7 +49,8 @@ void Form6::opened() {
 void Form6::accept() {
     changeUnits(state(), metric_->isChecked() ? "METRIC" : "US");
     // All texts of the bearing and its data sheet are built anew in the new units.
-    if (!state().bearing.partNumber.empty()) decodeCurrentBearing(screens());
+    const std::string& number = state().bearing.partNumber;
+    if (!number.empty()) decodeBearing(screens(), number);
     SaveSettings(state(), services().folder);
     screens().hide(*this);
 }

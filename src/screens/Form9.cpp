@@ -85,7 +85,7 @@ QGroupBox* Form9::makeSeparators(const char* name, const std::vector<std::array<
     for (const auto& [control, caption, letter] : options) {
         QRadioButton* const option = build::option(control, caption);
         on(option, &QRadioButton::clicked, "Z separator",
-           [this, choice = letter] { state().bearing.zSeparatorChoice = choice; });
+           [this, choice = letter] { state().zSeparatorEntered = choice; });
         row->addWidget(option);
     }
     frame->hide();
@@ -103,21 +103,21 @@ void Form9::startAgain() {
 }
 
 void Form9::followEntry() {
-    BearingSpec& bearing = state().bearing;
-    bearing.partNumber = upperCase(entry_->text().toStdString());
-    const std::string& number = bearing.partNumber;
+    // What is typed is no bearing yet: the one in hand stays until this number is decoded.
+    const std::string number = upperCase(entry_->text().toStdString());
     const bool special = number.size() > kSeparatorPlace && number[kSeparatorPlace] == 'Z';
     const bool other = special && (number[kStylePlace] == 'C' || number[kStylePlace] == 'X');
-    if (!special) bearing.zSeparatorChoice.clear();
+    if (!special) state().zSeparatorEntered.clear();
     angularSeparators_->setVisible(special && !other);
     otherSeparators_->setVisible(special && other);
 }
 
 void Form9::decode() {
-    state().bearing.partNumber = upperCase(entry_->text().toStdString());
+    state().bearing.zSeparatorChoice = state().zSeparatorEntered;
     screens().show(forms::kMainMenu);
     // The menu was in front during the decode; now it shows the number.
-    if (decodeCurrentBearing(screens()) != DecodeEnd::BackToEntry) screens().show(forms::kMainMenu);
+    if (decodeBearing(screens(), entry_->text().toStdString()) != DecodeEnd::BackToEntry)
+        screens().show(forms::kMainMenu);
 }
 
 }  // namespace norlaplan

@@ -8,16 +8,19 @@ bool hasSpacers(const std::string& searchStyleCaption) {
     return searchStyleCaption.ends_with("SPACERS");
 }
 
-std::optional<ChosenBearing> chooseHit(ProgramState& state, int entry) {
+std::optional<ChosenBearing> chosenHit(const ProgramState& state, int entry) {
     if (entry < 1 || static_cast<std::size_t>(entry) > state.search.rows.size()) return std::nullopt;
     const SearchHit& hit = state.search.rows[static_cast<std::size_t>(entry) - 1];
     const std::string unit = " " + state.units.lengthUnit;
-    ChosenBearing chosen{hit.name, "Bore = " + hit.boreText + unit, "O.D. = " + hit.odText + unit,
-                         "Height = " + hit.heightText + unit, ""};
-    state.bearing.partNumber = trimmed(hit.name);
+    ChosenBearing chosen{trimmed(hit.name),
+                         hit.name,
+                         "Bore = " + hit.boreText + unit,
+                         "O.D. = " + hit.odText + unit,
+                         "Height = " + hit.heightText + unit,
+                         ""};
     if (hasSpacers(state.style.searchStyleCaption)) {
-        state.bearing.partNumber = hit.name.substr(0, 9) + "A";
-        chosen.spacerHint = "   Data Sheet Available for                " + state.bearing.partNumber +
+        chosen.partNumber = hit.name.substr(0, 9) + "A";
+        chosen.spacerHint = "   Data Sheet Available for                " + chosen.partNumber +
                             "                      without Spacers Only!";
     }
     return chosen;

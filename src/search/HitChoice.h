@@ -7,8 +7,10 @@
 
 namespace norlaplan {
 
-/// What the screen shows of a chosen row.
+/// A chosen row: its part number, and what the screen shows of it. It isn't the bearing in hand before it is
+/// decoded.
 struct ChosenBearing {
+    std::string partNumber;
     std::string caption, boreLine, odLine, heightLine;
     std::string spacerHint;  ///< empty for a style without spacers
 };
@@ -16,8 +18,8 @@ struct ChosenBearing {
 /// Whether the caption is one of the two styles with spacers.
 bool hasSpacers(const std::string& searchStyleCaption);
 
-/// Makes row `entry` (counted from 1) the part number in hand: its name, or for a set with spacers, which has
-/// no number of its own, that of the set without them. Nothing happens for entry 0 or one beyond the list.
-std::optional<ChosenBearing> chooseHit(ProgramState& state, int entry);
+/// Row `entry` (counted from 1). Its part number is its name, or for a set with spacers, which has no number
+/// of its own, that of the set without them. Nothing for entry 0 or one beyond the list.
+std::optional<ChosenBearing> chosenHit(const ProgramState& state, int entry);
 
 }  // namespace norlaplan

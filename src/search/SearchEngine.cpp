@@ -3,6 +3,8 @@
 #include <array>
 #include <cmath>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "capacity/SolveAdvice.h"
 #include "capacity/SpeedLimits.h"
@@ -41,19 +43,31 @@ struct SectionRow {
     Single bore, outsideDiameter;
 };
 
+/// What a search works on: the style, sizes, loads and units of the program, and a bearing, a solver and a
+/// life of its own. The bearing in hand and its results stay what they are, however the search ends.
+ProgramState workingState(const ProgramState& state) {
+    ProgramState work;
+    work.unitSystem = state.unitSystem;
+    work.units = state.units;
+    work.style = state.style;
+    work.criteria = state.criteria;
+    work.loads = state.loads;
+    work.life.l10Hours = state.search.lastHours;
+    return work;
+}
+
 /// One search: what stays the same from row to row, and the row in hand.
 class Search {
   public:
-    Search(ProgramState& state, const ProgramFolder& folder, MessagePort& messages, SearchWatch& watch)
-        : state_(state),
+    Search(const ProgramState& state, const ProgramFolder& folder, MessagePort& messages, SearchWatch& watch)
+        : state_(workingState(state)),
           folder_(folder),
           watch_(watch),
           messages_(messages, watch_),
           clearances_(folder, watch_),
           letter_(state.style.searchStyleLetter),
           caption_(state.style.searchStyleCaption),
-          entered_(state.loads),
-          texts_(state.entries) {}
+          entered_(state.loads) {}
 
     /// False when the watch has stopped it.
     bool run() {
@@ -64,6 +78,10 @@ class Search {
         }
         return true;
     }
+
+    std::vector<SearchHit> takeRows() { return std::move(rows_); }
+    Single lastHours() const { return state_.life.l10Hours; }
+    int givenUp() const { return givenUp_; }
 
   private:
     void readSpeedNumbers() {
@@ -120,15 +138,14 @@ class Search {
         bearing.outsideDiameter = row.outsideDiameter;
         bearing.pitchDiameter = Single(row.outsideDiameter + row.bore) / 2.0;
         bearing.ballCount = row.ballCount;
-        if (state_.search.rows.size() >= static_cast<std::size_t>(kMostHits)) raise(fault::kSubscript);
+        if (rows_.size() >= static_cast<std::size_t>(kMostHits)) raise(fault::kSubscript);
 
         SearchHit hit;
         describe(row, hit);
         const Single spacing = letter_ == "A" ? prepareSet(row, hit) : prepareSingle(row, hit);
         solve(hit.name, spacing);
         rate(row, hit);
-        state_.search.rows.push_back(hit);
-        state_.search.hitCount = static_cast<int>(state_.search.rows.size()) + 1;
+        rows_.push_back(hit);
     }
 
     void describe(const SectionRow& row, SearchHit& hit) const {
@@ -202,6 +219,8 @@ class Search {
                                        state_.loads.axialLoad,
                                        state_.loads.momentLoad};
         state_.solver.SolveAborted = false;
+        const int refusals = messages_.refusals();
+        bool ended = false;
         state_.life.l10Revolutions = 0.0;
         try {
             const auto result =
@@ -210,12 +229,12 @@ class Search {
                     return SolveCoupledRows(state_, arguments, messages_);
                 });
             if (result) state_.life.l10Revolutions = result->lifeRevolutions;
-        } catch (const NotConverging& error) {
-            messages_.show({NotConverging::title(), error.what()});
+        } catch (const NotConverging&) {
+            ended = true;
             state_.solver.SolveAborted = true;
         }
+        if (ended || messages_.refusals() > refusals) ++givenUp_;
         state_.loads = entered_;
-        state_.entries = texts_;
     }
 
     void rate(const SectionRow& row, SearchHit& hit) {
@@ -242,16 +261,17 @@ class Search {
         return numbers[static_cast<std::size_t>(column) - 1];
     }
 
-    ProgramState& state_;
+    ProgramState state_;
     const ProgramFolder& folder_;
     StopLatch watch_;
     SearchMessages messages_;
     ClearanceTable clearances_;
     const std::string letter_, caption_;
     const LoadCase entered_;
-    const EntryTexts texts_;
     SpeedLine speeds_;
     Single rowHeight_;
+    std::vector<SearchHit> rows_;
+    int givenUp_ = 0;
 };
 
 void forgetRows(SearchResults& results) {
@@ -260,20 +280,22 @@ void forgetRows(SearchResults& results) {
     results.sorted = false;
 }
 
+Message givenUpMessage(int rows) {
+    const std::string which = rows == 1 ? "1 bearing was" : std::to_string(rows) + " bearings were";
+    return {NotConverging::title(), which + " given up and stand in the list with the life 0."};
+}
+
 }  // namespace
 
 SearchEnd RunBearingSearch(ProgramState& state, const ProgramFolder& folder, MessagePort& messages,
                            SearchWatch& watch) {
     forgetRows(state.search);
-    try {
-        if (!Search(state, folder, messages, watch).run()) {
-            forgetRows(state.search);
-            return SearchEnd::Stopped;
-        }
-    } catch (...) {
-        forgetRows(state.search);
-        throw;
-    }
+    Search search(state, folder, messages, watch);
+    if (!search.run()) return SearchEnd::Stopped;
+    state.search.rows = search.takeRows();
+    state.search.hitCount = static_cast<int>(state.search.rows.size()) + 1;
+    state.search.lastHours = search.lastHours();
+    if (search.givenUp() > 0) messages.show(givenUpMessage(search.givenUp()));
     if (!state.search.rows.empty()) return SearchEnd::Found;
     messages.show({"SEARCH PARAMETERS OUTSIDE OF SIZE RANGE",
                    "SORRY, NO BEARINGS WERE FOUND WHICH MET THE SIZE REQUIREMENTS"});

@@ -21,9 +21,9 @@ constexpr int kMostHits = 300;
 enum class SearchEnd { Found, NoneFound, Stopped };
 
 /// Walks the three section tables of the chosen style, keeps what fits the envelope, runs each through the
-/// solver and fills the results. The state's bearing serves as working values on the way and is none
-/// afterwards: a chosen row is decoded again. Messages of the solver are shown once a search, its question is
-/// asked once.
+/// solver and fills the results. The state's bearing, loads and results of a solve stay as they are: a chosen
+/// row is decoded when it becomes the bearing in hand. Messages of the solver are shown once a search, its
+/// question is asked once; rows that are given up are listed with the life 0, and a message tells how many.
 ///
 /// With no row found the program's message is shown, the sizes count as not chosen, and `noResultFlag` is
 /// set. A stopped search and one that ends in a run-time error leave no rows. Errors: those of the tables

@@ -24,17 +24,26 @@ class SearchMessages : public MessagePort {
 
     Answer ask(const Message& question, Buttons buttons) override {
         for (const auto& [asked, answer] : answers_) {
-            if (asked == question) return watch_.goOn() ? answer : Answer::No;
+            if (asked == question) return counted(watch_.goOn() ? answer : Answer::No);
         }
         answers_.emplace_back(question, messages_.ask(question, buttons));
-        return answers_.back().second;
+        return counted(answers_.back().second);
     }
 
+    /// How often the answer was No.
+    int refusals() const { return refusals_; }
+
   private:
+    Answer counted(Answer answer) {
+        if (answer == Answer::No) ++refusals_;
+        return answer;
+    }
+
     MessagePort& messages_;
     StopLatch& watch_;
     std::vector<Message> shown_;
     std::vector<std::pair<Message, Answer>> answers_;
+    int refusals_ = 0;
 };
 
 }  // namespace norlaplan

@@ -8,8 +8,8 @@
 namespace norlaplan {
 
 /// The current bearing. `DecodePartNumber` fills it; lengths are inches, loads pounds, moments pound-inches,
-/// masses pounds, speeds rpm once a decode has ended. The search uses its size and ball fields as working
-/// values. An empty `partNumber` means that no bearing is selected.
+/// masses pounds, speeds rpm once a decode has ended. `ProgramState::decoded` tells whether it holds the
+/// bearing of its `partNumber`; an empty one means that no bearing is selected.
 struct BearingSpec {
     // The number and its codes, each with its text.
     std::string partNumber;
@@ -24,7 +24,7 @@ struct BearingSpec {
     std::string fitRangeText;
     std::string precisionCode, precisionText;
     std::string separatorCode, separatorText, separatorOverlay;
-    std::string zSeparatorChoice;  ///< second letter of a "Z" separator, as chosen on the entry screen
+    std::string zSeparatorChoice;  ///< second letter of a "Z" separator, as it was decoded with
     std::string limitedFlag;
     std::string availabilityText;
     Int16 stockCode;  ///< 1 stock, 2 limited, 0 ask the maker

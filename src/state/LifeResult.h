@@ -4,11 +4,16 @@
 
 #include "numbers/Int16.h"
 #include "numbers/Single.h"
+#include "state/LoadCase.h"
 
 namespace norlaplan {
 
 /// What one load case does to the current bearing, as the load-life screen shows, prints and saves it.
 struct LifeResult {
+    // What it was solved for; no number: there is no result.
+    std::string partNumber, zSeparatorChoice, unitSystem;
+    LoadCase loads;
+
     Single torqueCoefficient;   ///< 0.002, 0.004 or 0.006; the solver reads it
     Single startingTorque;      ///< pound-inches
     Single l10Revolutions;      ///< cut to a whole number once shown

@@ -10,6 +10,8 @@ struct LoadCase {
     Single radialLoadDisplay, axialLoadDisplay, momentLoadDisplay;
     Single speed;  ///< rpm
     Single radialLoad, axialLoad, momentLoad;
+
+    bool operator==(const LoadCase&) const = default;
 };
 
 }  // namespace norlaplan

@@ -28,6 +28,12 @@ constexpr std::array<LoadField, 4> kFields = {{
     {&EntryTexts::speed, &LoadCase::speed, kSpeedTitle, "Speed input error"},
 }};
 
+/// Each path leaves its style behind; the other one must not take it for its own.
+bool isKnownPath(const ProgramState& state) {
+    return state.knownBearingLoadInput ? !state.bearing.styleLetter.empty()
+                                       : state.style.searchStyleCaption.empty();
+}
+
 bool fitsSingle(double value) {
     return std::isfinite(static_cast<float>(value));
 }
@@ -35,16 +41,13 @@ bool fitsSingle(double value) {
 }  // namespace
 
 bool isRadialContact(const ProgramState& state) {
-    const std::string& letter = state.bearing.styleLetter;
-    const std::string& caption = state.style.searchStyleCaption;
-    // Each path leaves its style behind; the other one must not take it for its own.
-    const bool known = state.knownBearingLoadInput ? !letter.empty() : caption.empty();
-    return known ? letter == "C" : caption == kRadialStyle;
+    return isKnownPath(state) ? state.bearing.styleLetter == "C"
+                              : state.style.searchStyleCaption == kRadialStyle;
 }
 
 bool takesSpeed(const ProgramState& state) {
     const std::string& number = state.bearing.partNumber;
-    return number.size() < 8 || number[7] != 'F';
+    return !isKnownPath(state) || number.size() < 8 || number[7] != 'F';
 }
 
 void prepareLoadEntry(ProgramState& state) {
@@ -57,44 +60,54 @@ void prepareLoadEntry(ProgramState& state) {
         state.loads.momentLoadDisplay = 0.0;
         state.entries.axial.clear();
         state.entries.moment.clear();
+        convertLoads(state);
+        if (!hasLoad(state.loads)) state.loadsEntered = false;
     }
 }
 
 std::optional<Message> enterLoads(ProgramState& state) {
     std::optional<Message> wrong;
+    LoadCase loads = state.loads;
+    state.loadsEntered = false;
     for (const LoadField& field : kFields) {
         std::string& text = state.entries.*field.text;
         if (text.empty()) text = "0";
         const std::optional<double> value = wholeNumberText(text);
         if (value && fitsSingle(*value)) {
-            state.loads.*field.load = *value;
+            loads.*field.load = *value;
         } else {
             // The later fields are told of first, so the last one met wins.
             wrong = Message{field.title, field.prompt};
         }
     }
-    state.loads.speed = std::fabs(state.loads.speed);
+    loads.speed = std::fabs(loads.speed);
     // What is shown and what is calculated with never differ, and a refused entry is none.
-    convertLoads(state);
-    state.loadsEntered = false;
+    convertLoads(loads, state.units);
+    state.loads = loads;
     if (wrong) return wrong;
-    const LoadCase& loads = state.loads;
     const bool radialSearch = !state.knownBearingLoadInput && state.style.searchStyleCaption == kRadialStyle;
     if (radialSearch && loads.radialLoadDisplay == 0.0) {
         return Message{"Missing Load", "You must enter a Radial Load"};
     }
-    if (loads.radialLoadDisplay == 0.0 && loads.axialLoadDisplay == 0.0 && loads.momentLoadDisplay == 0.0) {
+    if (!hasLoad(loads)) {
         return Message{"Missing Loads", "At least one load must be entered!"};
     }
     state.loadsEntered = true;
     return std::nullopt;
 }
 
+void convertLoads(LoadCase& loads, const UnitMode& units) {
+    loads.radialLoad = units.forceFactor * loads.radialLoadDisplay;
+    loads.axialLoad = units.forceFactor * loads.axialLoadDisplay;
+    loads.momentLoad = units.momentFactor * loads.momentLoadDisplay;
+}
+
 void convertLoads(ProgramState& state) {
-    LoadCase& loads = state.loads;
-    loads.radialLoad = state.units.forceFactor * loads.radialLoadDisplay;
-    loads.axialLoad = state.units.forceFactor * loads.axialLoadDisplay;
-    loads.momentLoad = state.units.momentFactor * loads.momentLoadDisplay;
+    convertLoads(state.loads, state.units);
+}
+
+bool hasLoad(const LoadCase& loads) {
+    return loads.radialLoadDisplay != 0.0 || loads.axialLoadDisplay != 0.0 || loads.momentLoadDisplay != 0.0;
 }
 
 }  // namespace norlaplan

@@ -12,10 +12,11 @@ namespace norlaplan {
 bool isRadialContact(const ProgramState& state);
 
 /// Prepares the load screen's values for the bearing or style in hand: no speed for a bearing without
-/// separator (eighth character "F"), no axial load and no moment for a radial contact bearing.
+/// separator (eighth character "F"), no axial load and no moment for a radial contact bearing. Loads of which
+/// nothing is left then don't count as entered.
 void prepareLoadEntry(ProgramState& state);
 
-/// Whether the bearing in hand takes a speed.
+/// Whether the path in hand takes a speed: a search does, a known bearing unless it has no separator.
 bool takesSpeed(const ProgramState& state);
 
 /// Reads the load texts into the load case: empty ones become "0", the speed is taken as its absolute value,
@@ -24,7 +25,11 @@ bool takesSpeed(const ProgramState& state);
 /// entered.
 std::optional<Message> enterLoads(ProgramState& state);
 
-/// Pounds and pound-inches of the loads as displayed.
+/// Pounds and pound-inches of the loads as displayed in these units.
+void convertLoads(LoadCase& loads, const UnitMode& units);
 void convertLoads(ProgramState& state);
+
+/// Whether any of the three loads is not 0.
+bool hasLoad(const LoadCase& loads);
 
 }  // namespace norlaplan

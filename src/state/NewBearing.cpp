@@ -14,6 +14,8 @@ void clearBearingAndLoads(ProgramState& state) {
           &BearingSpec::raceRadius, &BearingSpec::stdClearanceLow, &BearingSpec::stdClearanceHigh})
         bearing.*size = 0.0;
     bearing.ballCount = 0;
+    state.decoded.takeOff();
+    state.life = {};
 
     state.loads = {};
     state.loadsEntered = false;

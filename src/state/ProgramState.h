@@ -4,6 +4,7 @@
 
 #include "numbers/Int16.h"
 #include "state/BearingSpec.h"
+#include "state/DecodedMark.h"
 #include "state/DeflectionResult.h"
 #include "state/FitsRecords.h"
 #include "state/LifeResult.h"
@@ -44,6 +45,8 @@ struct ProgramState {
     UnitMode units = initialUnits();
 
     BearingSpec bearing;
+    DecodedMark decoded;
+    std::string zSeparatorEntered;  ///< as last clicked on the entry screen, for the number that stands there
 
     BearingStyle style;
     SearchCriteria criteria;

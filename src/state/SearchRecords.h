@@ -30,7 +30,8 @@ struct SearchHit {
 /// The rows of the last search and how they stand.
 struct SearchResults {
     std::vector<SearchHit> rows;
-    Int16 hitCount;  ///< the next free row number: 1 when there is no row
+    Int16 hitCount;    ///< the next free row number: 1 when there is no row
+    Single lastHours;  ///< of the last row that had a speed: the rows of a search without one list them
     bool noResultFlag = false;
     bool listOnlyFlag = false;  ///< the list is to be rebuilt from the rows, nothing computed
     bool sorted = false;

@@ -6,7 +6,6 @@
 #include "numbers/FormatNumber.h"
 #include "numbers/Text.h"
 #include "state/LoadEntry.h"
-#include "state/SizeEntry.h"
 
 namespace norlaplan {
 namespace {
@@ -25,48 +24,72 @@ void convertField(std::string& text, Single& stored, Conversion convert, double 
     stored = leadingNumber(text);
 }
 
-void convertSizeFields(ProgramState& state, Conversion convert) {
-    EntryTexts& texts = state.entries;
-    SearchCriteria& sizes = state.criteria;
+/// What a change of units touches. It is worked out aside and taken whole.
+struct Converted {
+    UnitMode units;
+    EntryTexts texts;
+    SearchCriteria sizes;
+    LoadCase loads;
+};
+
+void convertSizeFields(Converted& now, Conversion convert) {
     const auto go = [&](std::string& text, Single& size) {
-        convertField(text, size, convert, state.units.lengthFactor, "0.000");
+        convertField(text, size, convert, now.units.lengthFactor, "0.000");
     };
-    go(texts.minBore, sizes.minBoreDisplay);
-    go(texts.maxOd, sizes.maxOdDisplay);
-    go(texts.minHeight, sizes.minHeightDisplay);
-    go(texts.maxHeight, sizes.maxHeightDisplay);
+    go(now.texts.minBore, now.sizes.minBoreDisplay);
+    go(now.texts.maxOd, now.sizes.maxOdDisplay);
+    go(now.texts.minHeight, now.sizes.minHeightDisplay);
+    go(now.texts.maxHeight, now.sizes.maxHeightDisplay);
 }
 
-void convertLoadFields(ProgramState& state, Conversion convert) {
-    const UnitMode& units = state.units;
-    EntryTexts& texts = state.entries;
-    LoadCase& loads = state.loads;
+void convertLoadFields(Converted& now, Conversion convert) {
     const auto go = [&](std::string& text, Single& load, double factor) {
         convertField(text, load, convert, factor, "0");
     };
-    go(texts.radial, loads.radialLoadDisplay, units.forceFactor);
-    go(texts.axial, loads.axialLoadDisplay, units.forceFactor);
-    go(texts.moment, loads.momentLoadDisplay, units.momentFactor);
+    go(now.texts.radial, now.loads.radialLoadDisplay, now.units.forceFactor);
+    go(now.texts.axial, now.loads.axialLoadDisplay, now.units.forceFactor);
+    go(now.texts.moment, now.loads.momentLoadDisplay, now.units.momentFactor);
 }
 
 double times(double value, double factor) {
     return value * factor;
 }
 
+/// Whether a size that was typed but never taken now stands as the entered one.
+bool sizesTyped(const EntryTexts& texts, const SearchCriteria& sizes) {
+    const auto other = [](const std::string& text, Single size) {
+        const std::optional<double> typed = wholeNumberText(text);
+        return typed && Single(*typed) != size;
+    };
+    return other(texts.minBore, sizes.minBoreDisplay) || other(texts.maxOd, sizes.maxOdDisplay) ||
+           other(texts.minHeight, sizes.minHeightDisplay) || other(texts.maxHeight, sizes.maxHeightDisplay);
+}
+
 }  // namespace
 
 void changeUnits(ProgramState& state, const std::string& system) {
-    if (system == state.unitSystem) return;
-    state.unitSystem = system;
+    if (system == state.units.system) {
+        // Whatever the settings file held, these are the units from now on.
+        state.unitSystem = system;
+        return;
+    }
+    Converted now{state.units, state.entries, state.criteria, state.loads};
     // The metric factors serve both ways: they still stand on the way to US units and already on the way
     // back.
-    if (system == "METRIC") ApplyUnitSystem(system, state.units);
     const bool toMetric = system == "METRIC";
-    convertSizeFields(state, toMetric ? times : divide);
-    convertLoadFields(state, toMetric ? divide : times);
-    ApplyUnitSystem(system, state.units);
-    convertSizes(state);
-    convertLoads(state);
+    if (toMetric) ApplyUnitSystem(system, now.units);
+    convertSizeFields(now, toMetric ? times : divide);
+    convertLoadFields(now, toMetric ? divide : times);
+    ApplyUnitSystem(system, now.units);
+    convertLoads(now.loads, now.units);
+
+    if (sizesTyped(state.entries, state.criteria)) state.sizesChosen = false;
+    state.unitSystem = system;
+    state.units = now.units;
+    state.entries = now.texts;
+    state.criteria = now.sizes;
+    state.loads = now.loads;
+    if (!hasLoad(state.loads)) state.loadsEntered = false;
 }
 
 }  // namespace norlaplan

@@ -5,6 +5,7 @@ namespace {
 
 UnitMode usUnits() {
     UnitMode units;
+    units.system = "US";
     units.lengthUnit = "inches";
     units.loadUnitWord = "pounds";
     units.loadUnit = "lbs";
@@ -27,6 +28,7 @@ UnitMode usUnits() {
 
 UnitMode metricUnits() {
     UnitMode units;
+    units.system = "METRIC";
     units.lengthUnit = "mm";
     units.loadUnitWord = "N";
     units.loadUnit = "N";

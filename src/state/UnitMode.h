@@ -11,6 +11,7 @@ namespace norlaplan {
 /// load = pounds / `forceFactor`; shown moment = pound-inches / `momentFactor`; shown mass = pounds x
 /// `massFactor`.
 struct UnitMode {
+    std::string system;  ///< "US" or "METRIC": the units in force
     std::string lengthUnit, loadUnitWord, loadUnit, momentUnitWord, momentUnit, tempUnit;
     std::string lengthPicture, loadPicture, runoutPicture, tolerancePicture, filletPicture, clearancePicture,
         crossSectionPicture;

@@ -52,7 +52,7 @@ TEST(PlainText, ReadsBackToTheSameBits) {
 }
 
 TEST(UpperCase, ChangesLettersOfTheAlphabetAlone) {
-    EXPECT_EQ(upperCase("k19o13xp0\xC3\xA4"), "K19O13XP0\xC3\xA4");
+    EXPECT_EQ(upperCase("k19o13xp0"), "K19O13XP0");
     EXPECT_EQ(lowerCase("AbC-8"), "abc-8");
     EXPECT_EQ(trimmed("  a b\t"), "a b");
 }
@@ -119,6 +119,25 @@ TEST(ShortestText, IsTheShortestOfItsOwnWidth) {
     EXPECT_EQ(shortestText(static_cast<double>(0.1F)), "0.10000000149011612");
     EXPECT_EQ(shortestText(Single(1e30)), "1e+30");
     EXPECT_EQ(shortestText(-2.5e-300), "-2.5e-300");
+}
+
+TEST(UpperCase, TakesLettersBeyondAsciiLikeTheOthers) {
+    EXPECT_EQ(upperCase("k190äéøß÷13"), "K190ÄÉØß÷13") << "the sharp s has no capital of one letter";
+    EXPECT_EQ(upperCase("ÿ ā ķ ĺ ň ŋ ž ẁ ỹ"), "Ÿ Ā Ķ Ĺ Ň Ŋ Ž Ẁ Ỹ");
+    EXPECT_EQ(upperCase("άέήίόύώ αβγ ς ρσω ϋ"), "ΆΈΉΊΌΎΏ ΑΒΓ Σ ΡΣΩ Ϋ");
+    EXPECT_EQ(upperCase("жя ѐџ ѡҁ ґ ӂ ӏ ә"), "ЖЯ ЀЏ ѠҀ Ґ Ӂ Ӏ Ә");
+    EXPECT_EQ(upperCase("աֆ"), "ԱՖ");
+}
+
+TEST(UpperCase, LeavesWhatIsUpperCaseOrNoLetter) {
+    for (const char* const text : {"ÄÉØŸĀŽ", "ΑΣΩ", "ЖЯ", "×™€漢字 😀", "µ ı ĸ ŉ"})
+        EXPECT_EQ(upperCase(text), text);
+}
+
+TEST(UpperCase, LeavesBytesThatAreNoUtf8) {
+    for (const char* const text : {"\xE4", "K\xC3", "\xC3\x28", "\xFF\xFE", "\xE1\xBA", "\x80"})
+        EXPECT_EQ(upperCase(text), text);
+    EXPECT_EQ(upperCase("\xC3k\xE4z"), "\xC3K\xE4Z");
 }
 
 }  // namespace

@@ -13,25 +13,25 @@ class OneBearingTest : public QObject {
 
   private:
     static std::string inHand(Program& program) {
-        return program.control<QLabel>("Form3", "Label3").text().toStdString();
+        return program.control<QLabel>(forms::kMainMenu, "Label3").text().toStdString();
     }
     static void chooseStyle(Program& program, const char* picture) {
-        program.screens.showAlone("Form3");
-        program.click("Form3", "Command4");
-        program.click("Form16", picture);
-        program.click("Form16", "Command1");
+        program.screens.showAlone(forms::kMainMenu);
+        program.click(forms::kMainMenu, "Command4");
+        program.click(forms::kStyle, picture);
+        program.click(forms::kStyle, "Command1");
     }
     static void enterSizes(Program& program, const char* bore, const char* od, const char* low,
                            const char* high) {
-        program.type("Form12", "Text1", bore);
-        program.type("Form12", "Text2", od);
-        program.type("Form12", "Text3", low);
-        program.type("Form12", "Text4", high);
-        program.click("Form12", "Command2");
+        program.type(forms::kSizes, "Text1", bore);
+        program.type(forms::kSizes, "Text2", od);
+        program.type(forms::kSizes, "Text3", low);
+        program.type(forms::kSizes, "Text4", high);
+        program.click(forms::kSizes, "Command2");
     }
     static void enterLoads(Program& program, const char* radial) {
-        program.type("Form14", "Text1", radial);
-        program.click("Form14", "Command1");
+        program.type(forms::kLoads, "Text1", radial);
+        program.click(forms::kLoads, "Command1");
     }
     /// A search that finds bearings, with its loads taken.
     static void search(Program& program, const char* picture = "Image2") {
@@ -41,20 +41,20 @@ class OneBearingTest : public QObject {
     }
     /// The life that the screen shows of the bearing in hand under the loads in hand.
     static std::string shownLife(Program& program) {
-        program.screens.showAlone("Form3");
-        program.click("Form3", "Command14");
-        return program.control<QLabel>("Form19", "Label8").text().toStdString();
+        program.screens.showAlone(forms::kMainMenu);
+        program.click(forms::kMainMenu, "Command14");
+        return program.control<QLabel>(forms::kLife, "Label8").text().toStdString();
     }
     /// The same of a program that has done nothing before.
     static std::string freshLife(const char* number, const char* radial) {
         Program program;
         program.enterNumber(number);
         program.openLife(radial);
-        return program.control<QLabel>("Form19", "Label8").text().toStdString();
+        return program.control<QLabel>(forms::kLife, "Label8").text().toStdString();
     }
     /// The life of K19013XP0 in hand is still that of K19013XP0.
     static void compareLife(Program& program) {
-        program.screens.showAlone("Form3");
+        program.screens.showAlone(forms::kMainMenu);
         QCOMPARE(inHand(program), std::string("K19013XP0"));
         QCOMPARE(shownLife(program), freshLife("K19013XP0", "1200"));
     }
@@ -64,10 +64,10 @@ class OneBearingTest : public QObject {
         Program program;
         search(program);
         program.enterNumber("K19013XP0");
-        program.click("Form3", "Command7");
-        program.control<QComboBox>("Form15", "Combo1").setCurrentIndex(2);
-        program.click("Form15", "Command2");
-        QCOMPARE(program.inFront(), std::string("Form14"));
+        program.click(forms::kMainMenu, "Command7");
+        program.control<QComboBox>(forms::kResults, "Combo1").setCurrentIndex(2);
+        program.click(forms::kResults, "Command2");
+        QCOMPARE(program.inFront(), std::string(forms::kLoads));
         compareLife(program);
     }
 
@@ -75,9 +75,9 @@ class OneBearingTest : public QObject {
         Program program;
         search(program);
         program.enterNumber("K19013XP0");
-        program.click("Form3", "Command7");
-        program.control<QComboBox>("Form15", "Combo1").setCurrentIndex(2);
-        program.screens.form("Form15").close();
+        program.click(forms::kMainMenu, "Command7");
+        program.control<QComboBox>(forms::kResults, "Combo1").setCurrentIndex(2);
+        program.screens.form(forms::kResults).close();
         compareLife(program);
     }
 
@@ -87,14 +87,14 @@ class OneBearingTest : public QObject {
         chooseStyle(program, "Image3");
         enterSizes(program, "0", "4", "0", "1.2");
         program.messages.decide = [&](const Message&) {
-            program.screens.form("Form15").findChild<QProgressDialog*>("SearchProgress")->cancel();
+            program.screens.form(forms::kResults).findChild<QProgressDialog*>("SearchProgress")->cancel();
             return Answer::Yes;
         };
         enterLoads(program, "1200");
-        QCOMPARE(program.inFront(), std::string("Form14"));
+        QCOMPARE(program.inFront(), std::string(forms::kLoads));
         program.enterNumber("K19013XP0");
-        program.click("Form3", "Command7");
-        QCOMPARE(program.inFront(), std::string("Form14"));
+        program.click(forms::kMainMenu, "Command7");
+        QCOMPARE(program.inFront(), std::string(forms::kLoads));
         compareLife(program);
     }
 
@@ -107,7 +107,7 @@ class OneBearingTest : public QObject {
         search(program);
         program.enterNumber("K19013XP0");
         fs::remove(tables / "20-X.csv");
-        program.click("Form3", "Command7");
+        program.click(forms::kMainMenu, "Command7");
         QCOMPARE(program.lastMessage().title, std::string("Run-time error '53'"));
         compareLife(program);
     }
@@ -116,9 +116,9 @@ class OneBearingTest : public QObject {
         Program program;
         search(program);
         program.enterNumber("K19013XP0");
-        program.click("Form3", "Command7");
-        QCOMPARE(program.inFront(), std::string("Form15"));
-        program.screens.form("Form15").close();
+        program.click(forms::kMainMenu, "Command7");
+        QCOMPARE(program.inFront(), std::string(forms::kResults));
+        program.screens.form(forms::kResults).close();
         compareLife(program);
     }
 
@@ -126,10 +126,10 @@ class OneBearingTest : public QObject {
         Program program;
         program.enterNumber("K19013XP0");
         program.openLife("1200");
-        program.screens.showAlone("Form3");
-        program.click("Form3", "Command8");
-        program.type("Form9", "Text1", "K10013C");
-        program.click("Form9", "Command3");
+        program.screens.showAlone(forms::kMainMenu);
+        program.click(forms::kMainMenu, "Command8");
+        program.type(forms::kPartNumber, "Text1", "K10013C");
+        program.click(forms::kPartNumber, "Command3");
         compareLife(program);
     }
 
@@ -137,14 +137,14 @@ class OneBearingTest : public QObject {
         Program program;
         program.enterNumber("K19013XP0");
         program.openLife("1200");
-        program.screens.showAlone("Form3");
-        program.click("Form3", "Command8");
-        program.type("Form9", "Text1", "K19013XZ0");
-        program.click("Form9", "Option5");
-        program.click("Form9", "Command3");
+        program.screens.showAlone(forms::kMainMenu);
+        program.click(forms::kMainMenu, "Command8");
+        program.type(forms::kPartNumber, "Text1", "K19013XZ0");
+        program.click(forms::kPartNumber, "Option5");
+        program.click(forms::kPartNumber, "Command3");
         // A change of units decodes the bearing again.
-        program.screens.show("Form6");
-        program.click("Form6", "Command1");
+        program.screens.show(forms::kUnits);
+        program.click(forms::kUnits, "Command1");
         compareLife(program);
     }
 
@@ -152,10 +152,10 @@ class OneBearingTest : public QObject {
         Program program;
         program.enterNumber("K19013XP0");
         program.openLife("1200");
-        program.screens.showAlone("Form3");
-        program.click("Form3", "Command4");
-        program.click("Form16", "Image5");
-        program.screens.form("Form16").close();
+        program.screens.showAlone(forms::kMainMenu);
+        program.click(forms::kMainMenu, "Command4");
+        program.click(forms::kStyle, "Image5");
+        program.screens.form(forms::kStyle).close();
         compareLife(program);
     }
 
@@ -164,12 +164,51 @@ class OneBearingTest : public QObject {
         program.enterNumber("K19013XP0");
         program.openLife("1200", "500");
         program.enterNumber("K19013CP0");
-        program.click("Form3", "Command13");
-        program.screens.form("Form14").close();
+        program.click(forms::kMainMenu, "Command13");
+        program.screens.form(forms::kLoads).close();
         program.enterNumber("K19013XP0");
-        program.click("Form3", "Command14");
-        QCOMPARE(program.control<QLabel>("Form19", "Label5").text(), QString("AXIAL  = 0 pounds"));
+        program.click(forms::kMainMenu, "Command14");
+        QCOMPARE(program.control<QLabel>(forms::kLife, "Label5").text(), QString("AXIAL  = 0 pounds"));
         compareLife(program);
+    }
+
+    void theLoadScreenOfAKnownBearingNamesItsOwnStyle() {
+        Program program;
+        search(program, "Image5");
+        program.enterNumber("K19013XP0");
+        program.click(forms::kMainMenu, "Command13");
+        QCOMPARE(program.screens.form(forms::kLoads).windowTitle(),
+                 QString("BEARING LOAD INPUT FOR 4-POINT CONTACT K19013XP0"));
+    }
+
+    void theLoadScreenOfASearchNamesNoOtherBearing() {
+        Program program;
+        search(program);
+        program.enterNumber("K19013CP0");
+        program.click(forms::kMainMenu, "Command6");
+        QCOMPARE(program.screens.form(forms::kLoads).windowTitle(),
+                 QString("BEARING LOAD INPUT FOR 4-POINT CONTACT "));
+    }
+
+    void aSearchFindsTheSameAfterAChangeOfUnitsAndBack() {
+        Program program;
+        program.useUnits("METRIC");
+        chooseStyle(program, "Image2");
+        enterSizes(program, "100", "126", "13", "13");
+        enterLoads(program, "1200");
+        const auto found = [&] {
+            return program.state.search.rows.size() == 1 ? program.state.search.rows[0].name : "";
+        };
+        QCOMPARE(found(), std::string("K10013XP0"));
+        for (const char* const unit : {"Option1", "Option2"}) {
+            program.screens.showAlone(forms::kMainMenu);
+            program.screens.show(forms::kUnits);
+            program.click(forms::kUnits, unit);
+            program.click(forms::kUnits, "Command1");
+            program.click(forms::kMainMenu, "Command7");
+            QCOMPARE(program.inFront(), std::string(forms::kResults));
+            QCOMPARE(found(), std::string("K10013XP0"));
+        }
     }
 
     void aRefusedHitLeadsToTheEntryScreenAndFromThereToTheMenu() {
@@ -180,11 +219,11 @@ class OneBearingTest : public QObject {
         fs::copy(programFolder() / "Data Tables", tables);
         search(program);
         fs::remove(tables / "XSEPARATOR.CSV");
-        program.click("Form15", "Command1");
+        program.click(forms::kResults, "Command1");
         QCOMPARE(program.lastMessage().title, std::string("Please recheck validity of part number"));
-        QCOMPARE(program.inFront(), std::string("Form9"));
-        program.click("Form9", "Command3");
-        QCOMPARE(program.inFront(), std::string("Form3"));
+        QCOMPARE(program.inFront(), std::string(forms::kPartNumber));
+        program.click(forms::kPartNumber, "Command3");
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
         QCOMPARE(inHand(program), std::string());
     }
 };

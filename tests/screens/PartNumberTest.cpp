@@ -88,9 +88,9 @@ class PartNumberTest : public QObject {
         QFETCH(QString, letter);
         Entry entry;
         entry.type(number.toUtf8().constData());
-        QVERIFY(entry.state.bearing.zSeparatorChoice.empty());
+        QVERIFY(entry.state.zSeparatorEntered.empty());
         entry.click(forms::kPartNumber, option.toUtf8().constData());
-        QCOMPARE(entry.state.bearing.zSeparatorChoice, letter.toStdString());
+        QCOMPARE(entry.state.zSeparatorEntered, letter.toStdString());
     }
 
     void an_arrow_key_chooses_the_next_separator_as_a_click_does() {
@@ -100,7 +100,7 @@ class PartNumberTest : public QObject {
         QApplication::setActiveWindow(&entry.screens.form(forms::kPartNumber));
         QTest::keyClick(&entry.control<QRadioButton>(forms::kPartNumber, "Option1"), Qt::Key_Right);
         QVERIFY(entry.control<QRadioButton>(forms::kPartNumber, "Option2").isChecked());
-        QCOMPARE(entry.state.bearing.zSeparatorChoice, std::string("V"));
+        QCOMPARE(entry.state.zSeparatorEntered, std::string("V"));
     }
 
     void the_mark_stays_but_the_choice_is_lost_with_the_z() {
@@ -108,19 +108,20 @@ class PartNumberTest : public QObject {
         entry.type("K19013XZ0");
         entry.click(forms::kPartNumber, "Option6");
         entry.type("K19013XP0");
-        QVERIFY(entry.state.bearing.zSeparatorChoice.empty());
+        QVERIFY(entry.state.zSeparatorEntered.empty());
         entry.type("K19013XZ0");
         QVERIFY(entry.control<QRadioButton>(forms::kPartNumber, "Option6").isChecked());
-        QVERIFY(entry.state.bearing.zSeparatorChoice.empty());
+        QVERIFY(entry.state.zSeparatorEntered.empty());
     }
 
-    void the_part_number_follows_every_key_and_main_menu_keeps_a_half_typed_one() {
+    void a_half_typed_number_stays_on_the_entry_screen() {
         Entry entry;
         entry.type("k19");
-        QCOMPARE(entry.state.bearing.partNumber, std::string("K19"));
         entry.click(forms::kPartNumber, "Command3");
         QCOMPARE(entry.inFront(), std::string(forms::kMainMenu));
-        QCOMPARE(entry.state.bearing.partNumber, std::string("K19"));
+        QCOMPARE(entry.state.bearing.partNumber, std::string());
+        entry.click(forms::kMainMenu, "Command8");
+        QCOMPARE(entry.field().text(), QString("k19"));
     }
 
     void enter_decodes_and_the_main_menu_shows_the_number() {

@@ -83,14 +83,14 @@ class WalkCheck {
     }
 
     void checkMenu() {
-        const std::string number = label("Form3", "Label3");
+        const std::string number = label(forms::kMainMenu, "Label3");
         expect("bearing in hand", number, state().bearing.partNumber);
         if (!number.empty())
             expectTrue("the menu shows " + number + ", which doesn't decode", fresh(number).decoded);
     }
 
     void checkLoadScreen() {
-        const std::string caption = program_.screens.form("Form14").windowTitle().toStdString();
+        const std::string caption = program_.screens.form(forms::kLoads).windowTitle().toStdString();
         const std::string& number = state().bearing.partNumber;
         if (state().knownBearingLoadInput) {
             const StyleRow* const style = styleByLetter(fresh(number).state.bearing.styleLetter);
@@ -100,7 +100,7 @@ class WalkCheck {
                    std::string("BEARING LOAD INPUT FOR ") + style->caption + " " + number);
             expectTrue("axial load of a radial bearing",
                        (std::string(style->styleLetter) == "C") !=
-                           program_.control<QLineEdit>("Form14", "Text2").isVisible());
+                           program_.control<QLineEdit>(forms::kLoads, "Text2").isVisible());
         } else {
             expect("caption", caption.substr(0, 23 + state().style.searchStyleCaption.size()),
                    "BEARING LOAD INPUT FOR " + state().style.searchStyleCaption);
@@ -109,7 +109,8 @@ class WalkCheck {
 
     void takeSizes() {
         const auto field = [&](const char* name) {
-            return Single(*wholeNumberText(program_.control<QLineEdit>("Form12", name).text().toStdString()));
+            return Single(
+                *wholeNumberText(program_.control<QLineEdit>(forms::kSizes, name).text().toStdString()));
         };
         const double factor = state().units.lengthFactor;
         sizes_.minBore = field("Text1") / factor;
@@ -129,15 +130,20 @@ class WalkCheck {
                        near(shown.minHeightDisplay, sizes_.minHeight) &&
                        near(shown.maxHeightDisplay, sizes_.maxHeight));
         const std::string unit = " " + state().units.lengthUnit;
-        expect("minimum bore", label("Form15", "Label1"),
+        expect("minimum bore", label(forms::kResults, "Label1"),
                "MINIMUM BORE   = " + plainText(shown.minBoreDisplay) + unit);
-        expect("radial load", label("Form15", "Label5"),
+        expect("radial load", label(forms::kResults, "Label5"),
                "RADIAL = " + plainText(state().loads.radialLoadDisplay) + " " + state().units.loadUnit);
         sizes_.maxHeightDisplay = shown.maxHeightDisplay;
         auto rows = state().search.rows;
         auto expected = afresh_.search(state().style, sizes_, units(), state().loads);
         expect("rows", std::to_string(rows.size()), std::to_string(expected.size()));
         if (!wrong_.empty()) return;
+        if (state().loads.speed == 0.0) {
+            // With no speed the hours are those that a row before had.
+            for (SearchHit& hit : rows)
+                hit.l10Hours = "0";
+        }
         sortByText(rows);
         sortByText(expected);
         for (std::size_t i = 0; i < rows.size(); ++i)
@@ -155,14 +161,14 @@ class WalkCheck {
     }
 
     void checkChosenRow() {
-        const int chosen = program_.control<QComboBox>("Form15", "Combo1").currentIndex();
+        const int chosen = program_.control<QComboBox>(forms::kResults, "Combo1").currentIndex();
         if (chosen < 0 || state().search.rows.empty()) return;
         const SearchHit& hit = state().search.rows.at(static_cast<std::size_t>(chosen));
         const std::string unit = " " + state().units.lengthUnit;
-        expect("chosen bearing", program_.control<QGroupBox>("Form15", "Frame5").title().toStdString(),
+        expect("chosen bearing", program_.control<QGroupBox>(forms::kResults, "Frame5").title().toStdString(),
                hit.name);
-        expect("chosen bore", label("Form15", "Label11"), "Bore = " + hit.boreText + unit);
-        expect("chosen height", label("Form15", "Label13"), "Height = " + hit.heightText + unit);
+        expect("chosen bore", label(forms::kResults, "Label11"), "Bore = " + hit.boreText + unit);
+        expect("chosen height", label(forms::kResults, "Label13"), "Height = " + hit.heightText + unit);
     }
 
     void checkSheet() {
@@ -173,7 +179,7 @@ class WalkCheck {
     }
 
     void checkLife() {
-        const std::string title = program_.screens.form("Form19").windowTitle().toStdString();
+        const std::string title = program_.screens.form(forms::kLife).windowTitle().toStdString();
         const std::string head = "LOAD-LIFE CALCULATION FOR ";
         const std::string number = title.substr(std::min(title.size(), head.size()));
         expect("number of the life", number, state().bearing.partNumber);
@@ -181,18 +187,18 @@ class WalkCheck {
         expectTrue("a life of " + number + ", which has none", life.solved);
         if (!wrong_.empty()) return;
         const std::string what = number + " ";
-        expect(what + "bore", label("Form19", "Label1"), life.bore);
-        expect(what + "O.D.", label("Form19", "Label2"), life.outsideDiameter);
-        expect(what + "height", label("Form19", "Label3"), life.height);
-        expect(what + "radial load", label("Form19", "Label4"), life.radial);
-        expect(what + "axial load", label("Form19", "Label5"), life.axial);
-        expect(what + "moment", label("Form19", "Label6"), life.moment);
-        expect(what + "speed", label("Form19", "Label7"), life.speed);
-        expect(what + "life", label("Form19", "Label8"), life.life);
-        expect(what + "hours", label("Form19", "Label9"), life.hours);
-        expect(what + "safety", label("Form19", "Label10"), life.safety);
-        expect(what + "torque", label("Form19", "Label13"), life.torque);
-        expect(what + "verdict", label("Form19", "Label11"), life.verdict);
+        expect(what + "bore", label(forms::kLife, "Label1"), life.bore);
+        expect(what + "O.D.", label(forms::kLife, "Label2"), life.outsideDiameter);
+        expect(what + "height", label(forms::kLife, "Label3"), life.height);
+        expect(what + "radial load", label(forms::kLife, "Label4"), life.radial);
+        expect(what + "axial load", label(forms::kLife, "Label5"), life.axial);
+        expect(what + "moment", label(forms::kLife, "Label6"), life.moment);
+        expect(what + "speed", label(forms::kLife, "Label7"), life.speed);
+        expect(what + "life", label(forms::kLife, "Label8"), life.life);
+        expect(what + "hours", label(forms::kLife, "Label9"), life.hours);
+        expect(what + "safety", label(forms::kLife, "Label10"), life.safety);
+        expect(what + "torque", label(forms::kLife, "Label13"), life.torque);
+        expect(what + "verdict", label(forms::kLife, "Label11"), life.verdict);
     }
 
     void checkDocuments() {

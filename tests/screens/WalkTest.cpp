@@ -34,7 +34,7 @@ class WalkTest : public QObject {
             program.useUnits(chance() % 2 == 0 ? "US" : "METRIC");
             WalkingUser user(program, chance);
             WalkCheck check(program, afresh);
-            program.screens.showAlone("Form3");
+            program.screens.showAlone(forms::kMainMenu);
             told.push_back("starts in " + program.state.unitSystem);
             for (; done < steps && program.screens.current() != nullptr; ++done) {
                 check.before();

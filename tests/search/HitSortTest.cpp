@@ -93,9 +93,10 @@ TEST(HitSort, GivesTheRowsOfAnExchangeSort) {
 TEST(HitChoice, MakesTheTrimmedNameThePartNumberAndShowsTheEnvelope) {
     ProgramState state;
     state.search.rows = {hit("K10013XP0 ", "1", "3.9370", "YES ")};
-    const auto chosen = chooseHit(state, 1);
+    const auto chosen = chosenHit(state, 1);
     ASSERT_TRUE(chosen.has_value());
-    EXPECT_EQ(state.bearing.partNumber, "K10013XP0");
+    EXPECT_EQ(chosen->partNumber, "K10013XP0");
+    EXPECT_EQ(state.bearing.partNumber, "") << "it is no bearing in hand before it is decoded";
     EXPECT_EQ(chosen->boreLine, "Bore = 3.9370 inches");
     EXPECT_EQ(chosen->odLine, "O.D. = 3.9370 inches");
     EXPECT_EQ(chosen->heightLine, "Height = 1 inches");
@@ -106,8 +107,8 @@ TEST(HitChoice, TakesTheSetWithoutSpacersForOneWithThem) {
     ProgramState state;
     state.style.searchStyleCaption = "BACK-TO-BACK SET WITH SPACERS";
     state.search.rows = {hit("K10013BR0A W/ 0.1764 spacers", "1", "3.9370", "YES ")};
-    const auto chosen = chooseHit(state, 1);
-    EXPECT_EQ(state.bearing.partNumber, "K10013BR0A");
+    const auto chosen = chosenHit(state, 1);
+    EXPECT_EQ(chosen->partNumber, "K10013BR0A");
     EXPECT_EQ(
         chosen->spacerHint,
         "   Data Sheet Available for                K10013BR0A                      without Spacers Only!");
@@ -115,10 +116,8 @@ TEST(HitChoice, TakesTheSetWithoutSpacersForOneWithThem) {
 
 TEST(HitChoice, DoesNothingForNoEntry) {
     ProgramState state;
-    state.bearing.partNumber = "before";
-    EXPECT_FALSE(chooseHit(state, 0).has_value());
-    EXPECT_FALSE(chooseHit(state, 1).has_value());
-    EXPECT_EQ(state.bearing.partNumber, "before");
+    EXPECT_FALSE(chosenHit(state, 0).has_value());
+    EXPECT_FALSE(chosenHit(state, 1).has_value());
 }
 
 }  // namespace

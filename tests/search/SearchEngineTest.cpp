@@ -233,21 +233,71 @@ TEST(Search, StoppedKeepsNoRows) {
     EXPECT_TRUE(catalogue.messages.shown.empty());
 }
 
+/// The life of a bearing of the catalogue above, solved by itself.
+std::string lifeAlone(const char* name, double boreMm, Single clearance) {
+    ProgramState alone;
+    const Single bore = boreMm / 25.4;
+    alone.bearing.pitchDiameter = Single(Single((boreMm + 26.0) / 25.4) + bore) / 2.0;
+    RecordingMessages messages;
+    const SolveArguments arguments{
+        name, alone.bearing.pitchDiameter, 0.25, 60, 0.1325, 0.0, clearance, 30.0, 500.0, 0.0, 0.0};
+    return plainText(Single(std::floor(SolveCoupledRows(alone, arguments, messages)->lifeRevolutions)));
+}
+
 TEST(Search, KeepsThePreviousRowsClearanceWhereThePrecisionTableHasNoLine) {
     Catalogue catalogue;
-    catalogue.section(rowOf("A", 100) + rowOf("B", 150));
+    catalogue.section(rowOf("K10013XP0", 100) + rowOf("K15013XP0", 150));
     catalogue.run();
-    const double after = catalogue.state.bearing.meanClearance;
-    EXPECT_EQ(after, static_cast<double>(static_cast<float>(
-                         (static_cast<double>(0.0006F) + static_cast<double>(0.0014F)) / 2.0)));
+    const Single ofTheFirst = (static_cast<double>(0.0006F) + static_cast<double>(0.0014F)) / 2.0;
+    EXPECT_EQ(catalogue.state.search.rows.at(1).l10Revolutions, lifeAlone("K15013XP0", 150.0, ofTheFirst));
+    EXPECT_NE(catalogue.state.search.rows.at(1).l10Revolutions, lifeAlone("K15013XP0", 150.0, 0.0));
+}
+
+TEST(Search, LeavesTheBearingInHandAndItsLifeAlone) {
+    for (const int stopAt : {-1, 1}) {
+        Catalogue catalogue;
+        catalogue.section(rowOf("K10013XP0", 100) + rowOf("K15013XP0", 150));
+        BearingSpec& inHand = catalogue.state.bearing;
+        inHand.partNumber = "K19013XP0";
+        inHand.bore = 7.5;
+        inHand.ballCount = 81;
+        inHand.meanClearance = 0.001;
+        inHand.styleLetter = "X";
+        catalogue.state.life.l10Revolutions = 5.0;
+        catalogue.state.solver.BallCount = 81;
+        catalogue.run(stopAt);
+        EXPECT_EQ(inHand.bore, 7.5);
+        EXPECT_EQ(inHand.ballCount, 81);
+        EXPECT_EQ(inHand.meanClearance, Single(0.001));
+        EXPECT_EQ(inHand.pitchDiameter, 0.0);
+        EXPECT_EQ(catalogue.state.life.l10Revolutions, 5.0);
+        EXPECT_EQ(catalogue.state.solver.BallCount, 81);
+        EXPECT_EQ(catalogue.state.loads.radialLoadDisplay, 500.0);
+    }
+}
+
+TEST(Search, IsTheSameWhateverBearingIsInHand) {
+    Catalogue first;
+    first.section(rowOf("K15013XP0", 150));
+    first.run();
+    Catalogue second;
+    second.section(rowOf("K15013XP0", 150));
+    second.state.bearing.meanClearance = 0.01;
+    second.state.bearing.momentArm = 3.0;
+    second.run();
+    EXPECT_EQ(first.state.search.rows, second.state.search.rows);
 }
 
 TEST(Search, KeepsStaleHoursWithoutASpeed) {
     Catalogue catalogue;
     catalogue.section(rowOf("A", 100));
-    catalogue.state.life.l10Hours = 77.0;
+    catalogue.state.loads.speed = 100.0;
     catalogue.run();
-    EXPECT_EQ(catalogue.state.search.rows.at(0).l10Hours, "77");
+    const std::string hours = catalogue.state.search.rows.at(0).l10Hours;
+    EXPECT_NE(hours, "0");
+    catalogue.state.loads.speed = 0.0;
+    catalogue.run();
+    EXPECT_EQ(catalogue.state.search.rows.at(0).l10Hours, hours);
 }
 
 TEST(HitLine, ShowsHoursAndMarkOnlyWithASpeed) {
@@ -318,6 +368,10 @@ TEST(Search, AsksOnceWhetherToGoOnAndListsWhatIsGivenUpWithLifeZero) {
         given += hit.l10Revolutions == "0" ? 1 : 0;
     EXPECT_GT(given, 0);
     EXPECT_LT(given, static_cast<int>(search.state.search.rows.size()));
+    EXPECT_EQ(search.messages.shown,
+              (std::vector<Message>{{"The calculation does not converge",
+                                     std::to_string(given) +
+                                         " bearings were given up and stand in the list with the life 0."}}));
     EXPECT_EQ(search.state.loads.radialLoad, 500.0);
     EXPECT_EQ(search.state.loads.axialLoad, 0.0) << "the rows after it have the loads that were entered";
 }

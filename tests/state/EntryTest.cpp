@@ -114,6 +114,44 @@ TEST(PrepareLoadEntry, TakesTheSpeedFromABearingWithoutSeparator) {
     prepareLoadEntry(state);
     EXPECT_EQ(state.loads.speed, 0.0);
     EXPECT_FALSE(takesSpeed(state));
+    state.style.searchStyleCaption = "4-POINT CONTACT";
+    EXPECT_TRUE(takesSpeed(state)) << "a search, whatever bearing is in hand";
+}
+
+TEST(PrepareLoadEntry, TakesThePoundsWithTheLoadsThatARadialBearingDoesNotCarry) {
+    ProgramState state = usState();
+    state.entries.radial = "100";
+    state.entries.axial = "500";
+    state.entries.moment = "30";
+    ASSERT_FALSE(enterLoads(state).has_value());
+    state.bearing.styleLetter = "C";
+    prepareLoadEntry(state);
+    EXPECT_EQ(state.loads.axialLoad, 0.0);
+    EXPECT_EQ(state.loads.momentLoad, 0.0);
+    EXPECT_EQ(state.loads.radialLoad, 100.0);
+    EXPECT_TRUE(state.loadsEntered);
+}
+
+TEST(PrepareLoadEntry, LeavesNoEnteredLoadsWhereNoneIsLeft) {
+    ProgramState state = usState();
+    state.entries.axial = "500";
+    ASSERT_FALSE(enterLoads(state).has_value());
+    state.bearing.styleLetter = "C";
+    prepareLoadEntry(state);
+    EXPECT_FALSE(state.loadsEntered);
+}
+
+TEST(EnterLoads, TakesNothingWhenALoadIsTooLargeForItsField) {
+    ProgramState state = usState();
+    state.entries.radial = "100";
+    ASSERT_FALSE(enterLoads(state).has_value());
+    changeUnits(state, "METRIC");
+    state.entries.radial = "200";
+    state.entries.moment = "1e38";
+    EXPECT_THROW(enterLoads(state), RuntimeError) << "8.85e38 pound-inches";
+    EXPECT_NEAR(state.loads.radialLoadDisplay, 445.0, 0.5);
+    EXPECT_NEAR(state.loads.radialLoad, 100.0, 0.1);
+    EXPECT_FALSE(state.loadsEntered);
 }
 
 TEST(EnterSizes, TellsOfTheFirstMissingSizeInTheStatedOrder) {
@@ -193,6 +231,78 @@ TEST(ChangeOfUnits, KeepsTheLoadBehindAFieldThatShowsNoNumber) {
         EXPECT_NEAR(state.loads.radialLoadDisplay, 444.8222, 0.0001);
         EXPECT_NEAR(state.loads.radialLoad, 100.0, 0.0001);
     }
+}
+
+TEST(ChangeOfUnits, LeavesTheInchesOfTheSizesThatWereTaken) {
+    ProgramState state = usState();
+    changeUnits(state, "METRIC");
+    state.entries.minBore = "100";
+    state.entries.maxOd = "126";
+    state.entries.minHeight = "13";
+    state.entries.maxHeight = "13";
+    ASSERT_FALSE(enterSizes(state).has_value());
+    const SearchCriteria taken = state.criteria;
+    EXPECT_EQ(taken.minBore.stored(), static_cast<float>(100.0 / static_cast<double>(25.4F)));
+    for (const char* const system : {"US", "METRIC", "US"}) {
+        changeUnits(state, system);
+        EXPECT_EQ(state.criteria.minBore, taken.minBore);
+        EXPECT_EQ(state.criteria.maxOd, taken.maxOd);
+        EXPECT_EQ(state.criteria.minHeight, taken.minHeight);
+        EXPECT_EQ(state.criteria.maxHeight, taken.maxHeight);
+        EXPECT_TRUE(state.sizesChosen);
+    }
+    EXPECT_EQ(state.entries.minBore, "3.937");
+    EXPECT_EQ(state.criteria.minBoreDisplay, Single(3.937));
+}
+
+TEST(ChangeOfUnits, OfASizeThatWasTypedButNotTakenLeavesTheSizesToBeEntered) {
+    ProgramState state = usState();
+    for (std::string EntryTexts::*const size :
+         {&EntryTexts::minBore, &EntryTexts::maxOd, &EntryTexts::minHeight, &EntryTexts::maxHeight})
+        state.entries.*size = "5";
+    ASSERT_FALSE(enterSizes(state).has_value());
+    state.entries.maxOd = "9";
+    changeUnits(state, "METRIC");
+    EXPECT_EQ(state.criteria.maxOdDisplay, Single(228.6));
+    EXPECT_FALSE(state.sizesChosen) << "a search would show 228.6 mm and take 5 inches";
+}
+
+TEST(ChangeOfUnits, ThatOverflowsChangesNothing) {
+    ProgramState state = usState();
+    state.entries.minBore = "7.5";
+    state.entries.radial = "100.4";
+    state.entries.moment = "1e38";
+    changeUnits(state, "METRIC");
+    state.entries.moment = "1e38";
+    const EntryTexts texts = state.entries;
+    EXPECT_THROW(changeUnits(state, "US"), RuntimeError);
+    EXPECT_EQ(state.unitSystem, "METRIC");
+    EXPECT_EQ(state.units.lengthUnit, "mm");
+    EXPECT_EQ(state.entries.minBore, texts.minBore);
+    EXPECT_EQ(state.entries.radial, texts.radial);
+    EXPECT_EQ(state.loads.radialLoadDisplay, 447.0);
+}
+
+TEST(ChangeOfUnits, ToTheUnitsInForceChangesNothingWhateverTheSettingsFileHeld) {
+    ProgramState state;
+    state.unitSystem = "metric";
+    ApplyUnitSystem(state.unitSystem, state.units);
+    state.entries.radial = "100.4";
+    state.entries.minBore = "7.50001";
+    changeUnits(state, "US");
+    EXPECT_EQ(state.entries.radial, "100.4");
+    EXPECT_EQ(state.entries.minBore, "7.50001");
+    EXPECT_EQ(state.unitSystem, "US");
+}
+
+TEST(ChangeOfUnits, ThatRoundsEveryLoadToNothingLeavesNoneEntered) {
+    ProgramState state = usState();
+    changeUnits(state, "METRIC");
+    state.entries.radial = "1";
+    ASSERT_FALSE(enterLoads(state).has_value());
+    changeUnits(state, "US");
+    EXPECT_EQ(state.entries.radial, "0") << "1 N is 0.22 lb";
+    EXPECT_FALSE(state.loadsEntered);
 }
 
 TEST(ChangeOfUnits, ToTheSameUnitsChangesNothing) {
