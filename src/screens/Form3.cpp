@@ -121,6 +121,7 @@ void Form3::openSearchLoads() {
 
 void Form3::openResults() {
     if (needsSizes()) return;
+    state().knownBearingLoadInput = false;
     if (!state().loadsEntered) {
         services().messages.show({"Missing Load Data", "Bearing Loads Must be known"});
         screens().show(forms::kLoads);
