@@ -6,6 +6,7 @@
 #include "capacity/SolveAdvice.h"
 #include "capacity/SpeedLimits.h"
 #include "loaddist/AssembleRows.h"
+#include "loaddist/ResultWarnings.h"
 #include "loaddist/radlodestar2.h"
 #include "numbers/Arithmetic.h"
 #include "numbers/FormatNumber.h"
@@ -98,6 +99,7 @@ bool computeLoadLife(ProgramState& state, MessagePort& messages) {
     life.staticSafetyFactor = result->safetyFactor;
     life.l10Revolutions = result->lifeRevolutions;
     life.startingTorque = result->torque;
+    life.warnings = resultWarnings(state.solver);
     const double speed = state.loads.speed;
     if (speed > 0.0) {
         life.l10Hours = life.l10Revolutions / (speed * 60.0);

@@ -1,27 +1,17 @@
 #include <vector>
 
 #include "capacity/LoadLife.h"
-#include "cli/CommandError.h"
 #include "cli/Commands.h"
+#include "cli/LoadedBearing.h"
 #include "cli/OutputFile.h"
 #include "cli/TextTable.h"
 #include "documents/LoadLifeReport.h"
 #include "numbers/FormatNumber.h"
 #include "numbers/Text.h"
-#include "state/MenuConditions.h"
 #include "state/SolverFields.h"
 
 namespace norlaplan::cli {
 namespace {
-
-void calculate(Session& session, const PartNumberOption& number, const LoadOptions& loads) {
-    session.decode(number);
-    // As on the menu: the load screen opens only for a bearing that can be loaded.
-    refuse(loadableBearingRefusal(session.state()));
-    session.enter(loads);
-    refuse(lifeRefusal(session.state()));
-    if (!computeLoadLife(session.state(), session.messages())) session.failWithLastMessage();
-}
 
 Json solverJson(const SolverState& solver) {
     Json json = Json::object();
@@ -95,13 +85,13 @@ std::string lifeText(const ProgramState& state) {
 }  // namespace
 
 CommandResult lifeCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads) {
-    calculate(session, number, loads);
+    calculateLife(session, number, loads);
     return {lifeJson(session.state()), lifeText(session.state())};
 }
 
 CommandResult lifeReportCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads,
                                 const std::filesystem::path& output) {
-    calculate(session, number, loads);
+    calculateLife(session, number, loads);
     ClockPort& clock = session.clock();
     writeDocument({[&] { return loadLifeRtf(session.state(), clock); },
                    [&](Canvas& canvas) { printLoadLife(session.state(), clock, canvas); }},

@@ -102,6 +102,9 @@ void printLoadLife(const ProgramState& state, ClockPort& clock, Canvas& canvas) 
     printResults(page, state);
     page.skip(0.3);
     printNotes(page);
+    page.skip(0.1);
+    for (const std::string& warning : state.life.warnings)
+        page.line(warning, timesLook(11.0, true, colours::kRed));
     drawPageFooter(canvas, clock);
 }
 

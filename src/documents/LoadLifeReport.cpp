@@ -92,6 +92,8 @@ std::string loadLifeRtf(const ProgramState& state, ClockPort& clock) {
     writeNote(document, "\\cf1",
               {"Results shown are for the external load case only and do not include the effect ",
                "of any preload."});
+    for (const std::string& warning : state.life.warnings)
+        writeNote(document, "\\cf6", {warning.c_str()});
     document.append(savedFooter(state.user.userName, clock));
     document.append("}{\\par }}");
     return document.rtf();

@@ -117,6 +117,13 @@ QGroupBox* Form19::commentFrame() {
                   "Starting Torque is based on typical aplications.  Actual measurements may vary by 50% "
                   "of the values listed.  If specific values are required, they must be noted before "
                   "ordering."));
+    warnings_ = {noteLabel("Warning1", ""), noteLabel("Warning2", "")};
+    for (QLabel* const label : warnings_) {
+        QFont bold = label->font();
+        bold.setBold(true);
+        label->setFont(bold);
+        column->addWidget(label);
+    }
     return frame;
 }
 
@@ -250,6 +257,8 @@ void Form19::clearResults() {
     for (QLabel* const label : {life_, hours_, safety_, torque_, verdict_})
         label->clear();
     verdict_->hide();
+    for (QLabel* const label : warnings_)
+        label->hide();
     hours_->setVisible(state().loads.speed > 0.0);
 }
 
@@ -259,6 +268,7 @@ void Form19::showResults() {
     hours_->setText(text(hoursLine(now)));
     safety_->setText(text(safetyLine(now)));
     torque_->setText(text(torqueLine(now)));
+    showWarnings();
     if (now.loads.speed == 0.0) return;
     const bool within = now.life.speedVerdictColor == kWithinLimit;
     QFont font = verdict_->font();
@@ -271,6 +281,18 @@ void Form19::showResults() {
     verdict_->setPalette(colours);
     verdict_->setText(text(now.life.speedVerdict));
     verdict_->show();
+}
+
+void Form19::showWarnings() {
+    const auto& sentences = state().life.warnings;
+    QPalette colours = palette();
+    colours.setColor(QPalette::WindowText, theme::badColour(palette()));
+    for (std::size_t i = 0; i < warnings_.size(); ++i) {
+        const bool shown = i < sentences.size();
+        warnings_[i]->setPalette(colours);
+        warnings_[i]->setText(shown ? text(sentences[i]) : QString());
+        warnings_[i]->setVisible(shown);
+    }
 }
 
 void Form19::goToPrevious() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "screens/Form.h"
 
 class QGroupBox;
@@ -37,6 +39,7 @@ class Form19 : public Form {
     void showInputs();
     void showStyle();
     void showResults();
+    void showWarnings();
     void clearResults();
     void calculate();
     /// Whether the results are those of the bearing and loads in hand, solved again where they aren't.
@@ -55,6 +58,7 @@ class Form19 : public Form {
     Picture *stylePicture_, *loadSketch_;
     QLabel *life_, *hours_, *safety_, *torque_;
     QLabel* verdict_;
+    std::array<QLabel*, 2> warnings_;  ///< each hidden until there is one to show
     QPushButton *previous_, *mainMenu_, *print_, *save_;
     QPushButton *ballPlot_, *lubeFilm_, *contactStress_, *analysis_;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "numbers/Int16.h"
 #include "numbers/Single.h"
@@ -25,6 +26,8 @@ struct LifeResult {
     Single speedLimit;   ///< rpm, whole
     std::string speedVerdict;
     Int16 speedVerdictColor;  ///< 2 within the limit, 4 over it
+    /// Why not to trust the result blindly, one sentence each; usually empty.
+    std::vector<std::string> warnings;
 };
 
 }  // namespace norlaplan

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -54,6 +55,37 @@ TEST(LoadLifeRtf, LeavesSpeedHoursAndVerdictOutWithoutASpeed) {
     const std::string rtf = rtfOf(resultOf(0.0));
     for (const char* const word : {"RPM", "Hours", "recommended limit"}) {
         EXPECT_EQ(rtf.find(word), std::string::npos) << word;
+    }
+}
+
+TEST(LoadLifeReport, CarriesEachWarningInRedBehindTheNotes) {
+    ProgramState state = resultOf(400.0);
+    const std::string balance = "The ball loads do not balance the applied loads.";
+    const std::string row = "Row 2 has the shorter life: 28,572,300 revolutions";
+    state.life.warnings = {balance, row};
+    const std::string rtf = rtfOf(state);
+    const std::size_t note = rtf.find("of any preload.");
+    ASSERT_NE(note, std::string::npos);
+    EXPECT_GT(rtf.find("{\\fs24\\b\\cf6 " + balance + "}"), note);
+    EXPECT_LT(rtf.find("{\\fs24\\b\\cf6 " + row + "}"), rtf.find("{\\footer"));
+
+    RecordingCanvas canvas;
+    FixedClock clock;
+    printLoadLife(state, clock, canvas);
+    double before = 11.0;
+    for (const std::string& text :
+         {std::string(
+              "Results shown are for the external load case only and do not include the effect of any "
+              "preload."),
+          balance, row}) {
+        const auto drawn = std::find_if(canvas.texts.begin(), canvas.texts.end(),
+                                        [&](const auto& candidate) { return candidate.text == text; });
+        ASSERT_NE(drawn, canvas.texts.end()) << text;
+        EXPECT_LT(drawn->box.top, before) << text;
+        EXPECT_GT(drawn->box.bottom, 0.8) << "above the footer";
+        if (text != balance && text != row) continue;
+        EXPECT_EQ(drawn->look.colour, colours::kRed) << text;
+        before = drawn->box.top;
     }
 }
 

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "cli/Session.h"
+
+namespace norlaplan::cli {
+
+/// Decodes the number, enters the loads and runs the load-life calculation, as the screens do one after the
+/// other. The reasons not to trust the result become warnings of the session. Errors: `CommandError` with the
+/// program's message; run-time errors of the calculation.
+void calculateLife(Session& session, const PartNumberOption& number, const LoadOptions& loads);
+
+}  // namespace norlaplan::cli
