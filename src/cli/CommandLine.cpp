@@ -7,6 +7,7 @@
 
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
+#include "loaddist/LubeFilm.h"
 
 namespace norlaplan::cli {
 namespace {
@@ -15,6 +16,8 @@ namespace {
 struct Arguments {
     PartNumberOption number;
     LoadOptions loads;
+    FilmOptions film;
+    int row = 1;
     SearchOptions search;
     DeflectionOptions deflection;
     FitOptions fits;
@@ -35,6 +38,20 @@ class Builder {
                     [](Session& s, Arguments& a) { return lifeCommand(s, a.number, a.loads); });
         addNumber(life);
         addLoads(life);
+
+        CLI::App* const film = command(
+            app_, "film", "Lubricant film under the heaviest loaded ball, life factor, least viscosity",
+            [](Session& s, Arguments& a) { return filmCommand(s, a.number, a.loads, a.film); });
+        addNumber(film);
+        addLoads(film);
+        addLubricant(film);
+
+        CLI::App* const contact =
+            command(app_, "contact", "Stress, contact ellipse and land of the heaviest loaded ball of a row",
+                    [](Session& s, Arguments& a) { return contactCommand(s, a.number, a.loads, a.row); });
+        addNumber(contact);
+        addLoads(contact);
+        addRow(contact);
 
         CLI::App* const search =
             command(app_, "search", "Bearings that fit an envelope, with their life under the loads",
@@ -108,6 +125,23 @@ class Builder {
         command->add_option("PN", arguments_->number.number, "Part number, such as K19013XP0")->required();
         command->add_option("--z-separator", arguments_->number.zSeparator, "Which separator a \"Z\" means")
             ->check(CLI::IsMember({"P", "V", "S", "T"}));
+    }
+
+    void addRow(CLI::App* command) {
+        command->add_option("--row", arguments_->row, "Row to look at")
+            ->check(CLI::IsMember({1, 2}))
+            ->capture_default_str();
+    }
+
+    void addLubricant(CLI::App* command) {
+        FilmOptions& film = arguments_->film;
+        film.specificGravity = kUsualSpecificGravity;
+        command->add_option("--viscosity", film.viscosity, "Lubricant viscosity")->required();
+        command->add_option("--viscosity-unit", film.unit, "Unit of the viscosity")
+            ->required()
+            ->check(CLI::IsMember({"SSU", "centistokes"}));
+        command->add_option("--gravity", film.specificGravity, "Specific gravity, grams/cc.")
+            ->capture_default_str();
     }
 
     void addLoads(CLI::App* command) {

@@ -8,6 +8,13 @@
 
 namespace norlaplan::cli {
 
+/// The lubricant of a film check.
+struct FilmOptions {
+    double viscosity = 0.0;
+    std::string unit;  ///< "SSU" or "centistokes"
+    double specificGravity = 0.0;
+};
+
 /// What the search command takes: sizes in display units.
 struct SearchOptions {
     std::string style;
@@ -31,6 +38,11 @@ struct FitOptions {
 
 /// Each command: its result, or `CommandError` and the run-time errors of its calculation.
 CommandResult decodeCommand(Session& session, const PartNumberOption& number);
+CommandResult filmCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads,
+                          const FilmOptions& options);
+/// `row` is the row to look at; where it carries no load the other one is taken.
+CommandResult contactCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads,
+                             int row);
 CommandResult lifeCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads);
 CommandResult deflectionCommand(Session& session, const PartNumberOption& number,
                                 const DeflectionOptions& options);

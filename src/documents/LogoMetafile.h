@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "state/Canvas.h"
+
 namespace norlaplan {
 
 /// The maker's mark, a ring of balls and the name, in its own units from its upper left corner.
@@ -22,6 +24,9 @@ struct MarkCircle {
 
 /// The rings and the balls of the mark.
 std::vector<MarkCircle> markCircles();
+
+/// Draws the mark from its upper left corner, so wide in inches.
+void drawLogo(Canvas& canvas, PagePoint leftTop, double width);
 
 /// The mark as the hexadecimal bytes of a plain Windows metafile, in lines of 64 bytes.
 std::string logoMetafileHex();

@@ -1,5 +1,7 @@
 #include "loaddist/ShowAnalysisResults.h"
 
+#include <utility>
+
 #include "numbers/FormatNumber.h"
 #include "numbers/PiValue.h"
 #include "numbers/Text.h"
@@ -64,29 +66,29 @@ AnalysisGrid gridOf(const SolverState& solver, int row) {
     return grid;
 }
 
-std::vector<AnalysisField> fieldsOf(const SolverState& solver) {
-    const auto load = [](double value) { return FormatNumber(value, "####.##"); };
-    const auto safety = [](double value) { return FormatNumber(value, "####.00"); };
-    const auto stress = [](double value) { return FormatNumber(value, "#,###,###"); };
-    const auto axis = [](double value) { return FormatNumber(value, "#.0000"); };
-    const auto shift = [](double value) { return FormatNumber(value, "#.000000"); };
+std::vector<AnalysisField> lifeFields(const SolverState& solver) {
     const double life1 = solver.L10InnerRotationRow1;
     const double life2 = solver.L10InnerRotationRow2;
     const char* const picture1 = lifePicture(life1, life1);
     const char* const picture2 = lifePicture(life2, life1);
-    const std::string tilt = FormatNumber(solver.Tilt * 180.0 / PiValue, "###.000000").substr(0, 7);
     return {{"Text25", FormatNumber(life1, picture1)},
             {"Text26", FormatNumber(solver.L10OuterRotationRow1, picture1)},
             {"Text55", FormatNumber(life2, picture2)},
-            {"Text56", FormatNumber(solver.L10OuterRotationRow2, picture2)},
-            {"Text27", load(solver.RmcRow1)},
+            {"Text56", FormatNumber(solver.L10OuterRotationRow2, picture2)}};
+}
+
+std::vector<AnalysisField> englishFields(const SolverState& solver) {
+    const auto load = [](double value) { return FormatNumber(value, "####.##"); };
+    const auto stress = [](double value) { return FormatNumber(value, "#,###,###"); };
+    const auto axis = [](double value) { return FormatNumber(value, "#.0000"); };
+    const auto shift = [](double value) { return FormatNumber(value, "#.000000"); };
+    const std::string tilt = FormatNumber(solver.Tilt * 180.0 / PiValue, "###.000000").substr(0, 7);
+    return {{"Text27", load(solver.RmcRow1)},
             {"Text28", load(solver.RmcRow2)},
             {"Text29", load(solver.MaxBallLoad)},
             {"Text30", load(solver.MaxBallLoad)},
             {"Text31", load(solver.InnerStaticCapacity)},
             {"Text32", load(solver.OuterStaticCapacity)},
-            {"Text33", safety(solver.SafetyInner)},
-            {"Text34", safety(solver.SafetyOuter)},
             {"Text35", stress(solver.MaxInnerStress)},
             {"Text36", stress(solver.MaxOuterStress)},
             {"Text37", stress(solver.MeanInnerStress)},
@@ -100,6 +102,47 @@ std::vector<AnalysisField> fieldsOf(const SolverState& solver) {
             {"Text54", tilt}};
 }
 
+std::vector<AnalysisField> metricFields(const SolverState& solver) {
+    const auto load = [](double value) { return FormatNumber(value, "####.#"); };
+    const auto capacity = [](double value) { return FormatNumber(value, "####"); };
+    const auto stress = [](double value) { return FormatNumber(value, "######"); };
+    const auto axis = [](double value) { return FormatNumber(value, "0.0000"); };
+    const auto shift = [](double inches) { return FormatNumber(inches * 25.4, "#.000000"); };
+    return {{"Text27", load(solver.RmcRow1Newtons)},
+            {"Text28", solver.RowCount == 1 ? "N/A" : load(solver.RmcRow2Newtons)},
+            {"Text29", load(solver.MaxBallLoadNewtons)},
+            {"Text30", load(solver.MaxBallLoadNewtons)},
+            {"Text31", capacity(solver.InnerStaticCapacityNewtons)},
+            {"Text32", capacity(solver.OuterStaticCapacityNewtons)},
+            {"Text35", stress(solver.MaxInnerStressMpa)},
+            {"Text36", stress(solver.MaxOuterStressMpa)},
+            {"Text37", stress(solver.MeanInnerStressMpa)},
+            {"Text38", stress(solver.MeanOuterStressMpa)},
+            {"Text39", axis(solver.InnerMajorAxisMm)},
+            {"Text40", axis(solver.OuterMajorAxisMm)},
+            {"Text41", axis(solver.InnerMinorAxisMm)},
+            {"Text42", axis(solver.OuterMinorAxisMm)},
+            {"Text52", shift(solver.RadialDisp)},
+            {"Text53", shift(solver.AxialDisp)},
+            {"Text54", FormatNumber(solver.Tilt, "##.000000").substr(0, 7)}};
+}
+
+std::vector<AnalysisField> fieldsOf(const SolverState& solver, AnalysisUnits units) {
+    std::vector<AnalysisField> fields = lifeFields(solver);
+    for (AnalysisField& field : units == AnalysisUnits::Metric ? metricFields(solver) : englishFields(solver))
+        fields.push_back(std::move(field));
+    fields.push_back({"Text33", FormatNumber(solver.SafetyInner, "####.00")});
+    fields.push_back({"Text34", FormatNumber(solver.SafetyOuter, "####.00")});
+    return fields;
+}
+
+/// The sums of the last pass, as they stand.
+std::vector<AnalysisField> checksOf(const SolverState& solver) {
+    return {{"Text57", plainText(solver.ForceRadialSum)}, {"Text58", plainText(solver.ForceAxialSum)},
+            {"Text59", plainText(solver.MomentSum)},      {"Text60", plainText(solver.Kn)},
+            {"Text61", plainText(solver.CiCo)},           {"Text62", plainText(int{solver.Iteration})}};
+}
+
 }  // namespace
 
 const char* lifePicture(double lower, double upper) {
@@ -109,8 +152,17 @@ const char* lifePicture(double lower, double upper) {
     return "####";
 }
 
-AnalysisResults ShowAnalysisResults(const SolverState& solver) {
-    return {fieldsOf(solver), gridOf(solver, 1), gridOf(solver, 2)};
+AnalysisCaptions analysisCaptions(AnalysisUnits units) {
+    if (units == AnalysisUnits::Metric) {
+        return {"Max. Ball Load (N)", "Hertz Stress (MPa)", "Contact Ellipse (mm)", "Radial (mm)",
+                "Axial (mm)",         "Tilt (radians)",     "RMC loads (N)"};
+    }
+    return {"Max. Ball Load (lbs.)", "Hertz Stress (PSI)", "Contact Ellipse (in.)", "Radial (in.)",
+            "Axial (in.)",           "Tilt (degrees)",     "RMC Loads (Lbs)"};
+}
+
+AnalysisResults ShowAnalysisResults(const SolverState& solver, AnalysisUnits units) {
+    return {fieldsOf(solver, units), checksOf(solver), gridOf(solver, 1), gridOf(solver, 2)};
 }
 
 }  // namespace norlaplan

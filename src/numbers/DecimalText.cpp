@@ -1,0 +1,16 @@
+#include "numbers/DecimalText.h"
+
+#include <array>
+#include <charconv>
+
+namespace norlaplan {
+
+std::string fifteenDigits(double value) {
+    std::array<char, 40> buffer{};
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::general, 15)
+            .ptr;
+    return {buffer.data(), end};
+}
+
+}  // namespace norlaplan
