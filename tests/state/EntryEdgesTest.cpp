@@ -168,5 +168,15 @@ TEST(ChangeOfUnits, ConvertsEveryFieldByItsOwnFactor) {
     EXPECT_EQ(state.loads.momentLoad, 301.0);
 }
 
+TEST(EnterSizes, LeavesEqualSizesInTheFieldsWhereTheyWereTyped) {
+    ProgramState state = stateIn("US");
+    state.entries = {"5.0", "5", "1.0", "1", "", "", "", ""};
+    ASSERT_FALSE(enterSizes(state).has_value());
+    EXPECT_EQ(state.entries.minBore, "5.0");
+    EXPECT_EQ(state.entries.maxOd, "5");
+    EXPECT_EQ(state.entries.minHeight, "1.0");
+    EXPECT_EQ(state.entries.maxHeight, "1");
+}
+
 }  // namespace
 }  // namespace norlaplan

@@ -131,5 +131,21 @@ TEST(SteadySeconds, CountSecondsAndNeverRunBackward) {
     EXPECT_GE(after.count(), between);
 }
 
+TEST(Patience, EndsACycleThatBeginsAfterAWhile) {
+    for (const int lead : {1, 5, 100, 1000}) {
+        RecordingMessages messages;
+        Patience patience(messages);
+        patience.begin();
+        int passes = 0;
+        EXPECT_THROW(
+            for (;; ++passes) {
+                patience.pass({static_cast<double>(passes < lead ? -1 - passes : passes % 7)});
+                ASSERT_LT(passes, 10000);
+            },
+            NotConverging);
+        EXPECT_LT(passes, 4 * lead + 40);
+    }
+}
+
 }  // namespace
 }  // namespace norlaplan

@@ -1,5 +1,6 @@
 #include <csignal>
 #include <iterator>
+#include <set>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -157,6 +158,25 @@ TEST(StagedFile, WhoseFolderHasGoneIsSeventyFiveAtTheCommit) {
     StagedFile staged(place.path() / "folder" / "report.rtf", "new");
     std::filesystem::remove_all(place.path() / "folder");
     EXPECT_EQ(faultOf([&] { staged.commit(); }), fault::kPathAccess);
+}
+
+std::set<std::string> openFiles() {
+    std::set<std::string> numbers;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd"))
+        numbers.insert(entry.path().filename().string());
+    return numbers;
+}
+
+TEST(Files, LeaveNothingOpenAndCloseNothingElse) {
+    if (!std::filesystem::exists("/proc/self/fd")) GTEST_SKIP() << "this system doesn't tell";
+    TemporaryFolder place;
+    const std::set<std::string> before = openFiles();
+    writeWholeFile(place.path() / "report.rtf", "new");
+    readWholeFile(place.path() / "report.rtf");
+    faultOf([&] { readWholeFile(place.path() / "none"); });
+    faultOf([&] { readWholeFile(place.path()); });
+    faultOf([&] { writeWholeFile(place.path() / "missing" / "report.rtf", "new"); });
+    EXPECT_EQ(openFiles(), before);
 }
 
 }  // namespace

@@ -181,6 +181,7 @@ class Bench:
                 left.remove(mutant)
                 yield mutant, report.NO_BUILD, ""
             if not blamed:
+                (self.shop.work / "unexplained.log").write_text(built.stdout)
                 paths = {path for path in spans if f"{path.removeprefix('src/')}:" in built.stdout} or set(spans)
                 alone += [mutant for mutant in left if mutant.path in paths]
                 left = [mutant for mutant in left if mutant.path not in paths]
