@@ -17,7 +17,8 @@ namespace norlaplan::testing {
 
 /// The whole program on a folder of its own: the real forms and catalogue, with ports that record and answer.
 struct Program {
-    Program() {
+    /// Prints on `other` instead of the recording printer when one is given.
+    explicit Program(PrinterPort* other = nullptr) : paper(other == nullptr ? &printer : other) {
         namespace fs = std::filesystem;
         for (const auto& entry : fs::directory_iterator(programFolder())) {
             if (entry.is_directory())
@@ -87,9 +88,10 @@ struct Program {
     RecordingMessages messages;
     PresetSaveDialog saveDialog;
     RecordingPrinter printer;
+    PrinterPort* paper;
     FixedClock clock;
     FolderSheets sheets{folder};
-    Screens screens{{state, folder, messages, saveDialog, printer, clock, sheets}};
+    Screens screens{{state, folder, messages, saveDialog, *paper, clock, sheets}};
 };
 
 }  // namespace norlaplan::testing
