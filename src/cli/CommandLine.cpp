@@ -8,21 +8,11 @@
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
 #include "loaddist/LubeFilm.h"
+#include "cli/OutputFile.h"
+#include "cli/Reports.h"
 
 namespace norlaplan::cli {
 namespace {
-
-/// Where the options of all commands land; the command's function keeps it alive.
-struct Arguments {
-    PartNumberOption number;
-    LoadOptions loads;
-    FilmOptions film;
-    int row = 1;
-    SearchOptions search;
-    DeflectionOptions deflection;
-    FitOptions fits;
-    std::string output;
-};
 
 class Builder {
   public:
@@ -57,6 +47,7 @@ class Builder {
             command(app_, "search", "Bearings that fit an envelope, with their life under the loads",
                     [](Session& s, Arguments& a) { return searchCommand(s, a.search, a.loads); });
         addSearch(search);
+        addLoads(search);
 
         CLI::App* const deflection =
             command(app_, "deflection", "Spring rates, relief loads and deflection curves under a preload",
@@ -66,18 +57,14 @@ class Builder {
 
         addFits();
 
-        CLI::App* const sheet =
-            command(app_, "datasheet", "The data sheet as a file",
-                    [](Session& s, Arguments& a) { return dataSheetCommand(s, a.number, a.output); });
-        addNumber(sheet);
-        addOutput(sheet);
+        addReport(app_, dataSheetReport());
         addReports();
     }
 
     const std::function<CommandResult(Session&)>& chosen() const { return *chosen_; }
 
   private:
-    using Run = CommandResult (*)(Session&, Arguments&);
+    using Run = std::function<CommandResult(Session&, Arguments&)>;
 
     CLI::App* command(CLI::App& parent, const char* name, const char* description, Run run) {
         CLI::App* const command = parent.add_subcommand(name, description);
@@ -105,20 +92,22 @@ class Builder {
     }
 
     void addReports() {
-        CLI::App* const report = app_.add_subcommand("report", "A screen's report as a file");
-        report->require_subcommand(1);
-        report->fallthrough();
-        CLI::App* const life = command(*report, "life", "The load-life report", [](Session& s, Arguments& a) {
-            return lifeReportCommand(s, a.number, a.loads, a.output);
-        });
-        addNumber(life);
-        addLoads(life);
-        addOutput(life);
-        CLI::App* const search = command(
-            *report, "search", "The list of a search",
-            [](Session& s, Arguments& a) { return searchReportCommand(s, a.search, a.loads, a.output); });
-        addSearch(search);
-        addOutput(search);
+        CLI::App* const parent = app_.add_subcommand("report", "A screen's report as a file");
+        parent->require_subcommand(1);
+        parent->fallthrough();
+        for (const Report& report : reports())
+            addReport(*parent, report);
+    }
+
+    void addReport(CLI::App& parent, const Report& report) {
+        CLI::App* const writer = command(
+            parent, report.name, report.description,
+            [&report](Session& s, Arguments& a) { return writeDocument(report.make(s, a), a.output); });
+        if (report.options & kNumber) addNumber(writer);
+        if (report.options & kSearch) addSearch(writer);
+        if (report.options & kLoads) addLoads(writer);
+        if (report.options & kDeflection) addDeflection(writer);
+        addOutput(writer);
     }
 
     void addNumber(CLI::App* command) {
@@ -162,7 +151,6 @@ class Builder {
         command->add_option("--sort", search.sort, "Sort the list")
             ->check(CLI::IsMember({"bore", "od", "life", "availability"}));
         command->add_flag("--descending", search.descending, "Largest first");
-        addLoads(command);
     }
 
     void addDeflection(CLI::App* command) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -49,12 +48,10 @@ CommandResult deflectionCommand(Session& session, const PartNumberOption& number
 CommandResult torqueCommand(Session& session, const PartNumberOption& number);
 CommandResult playCommand(Session& session, const PartNumberOption& number);
 CommandResult fitsCommand(Session& session, const PartNumberOption& number, const FitOptions& options);
-CommandResult dataSheetCommand(Session& session, const PartNumberOption& number,
-                               const std::filesystem::path& output);
 CommandResult searchCommand(Session& session, const SearchOptions& options, const LoadOptions& loads);
-CommandResult searchReportCommand(Session& session, const SearchOptions& options, const LoadOptions& loads,
-                                  const std::filesystem::path& output);
-CommandResult lifeReportCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads,
-                                const std::filesystem::path& output);
+
+// The calculations of the commands that also have a report. Errors as theirs.
+void calculateLife(Session& session, const PartNumberOption& number, const LoadOptions& loads);
+void runSearch(Session& session, const SearchOptions& options, const LoadOptions& loads);
 
 }  // namespace norlaplan::cli

@@ -3,9 +3,7 @@
 #include "capacity/LoadLife.h"
 #include "cli/Commands.h"
 #include "cli/LoadedBearing.h"
-#include "cli/OutputFile.h"
 #include "cli/TextTable.h"
-#include "documents/LoadLifeReport.h"
 #include "numbers/FormatNumber.h"
 #include "numbers/Text.h"
 #include "state/SolverFields.h"
@@ -84,19 +82,18 @@ std::string lifeText(const ProgramState& state) {
 
 }  // namespace
 
+void calculateLife(Session& session, const PartNumberOption& number, const LoadOptions& loads) {
+    session.decode(number);
+    // As on the menu: the load screen opens only for a bearing that can be loaded.
+    refuse(loadableBearingRefusal(session.state()));
+    session.enter(loads);
+    refuse(lifeRefusal(session.state()));
+    if (!computeLoadLife(session.state(), session.messages())) session.failWithLastMessage();
+}
+
 CommandResult lifeCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads) {
     calculateLife(session, number, loads);
     return {lifeJson(session.state()), lifeText(session.state())};
-}
-
-CommandResult lifeReportCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads,
-                                const std::filesystem::path& output) {
-    calculateLife(session, number, loads);
-    ClockPort& clock = session.clock();
-    writeDocument({[&] { return loadLifeRtf(session.state(), clock); },
-                   [&](Canvas& canvas) { printLoadLife(session.state(), clock, canvas); }},
-                  output);
-    return fileResult(output);
 }
 
 }  // namespace norlaplan::cli

@@ -28,44 +28,43 @@ SavePictureEntry loadPictureModule() {
 }
 
 /// The drawing with the exception that it may have ended in: none may cross into the module.
-struct Drawing {
-    const Document& document;
+struct Task {
+    const Drawing& drawing;
     std::exception_ptr failure;
 };
 
 void drawInto(void* context, Canvas& canvas) {
-    auto& drawing = *static_cast<Drawing*>(context);
+    auto& task = *static_cast<Task*>(context);
     try {
-        drawing.document.draw(canvas);
+        task.drawing.draw(canvas);
     } catch (...) {
-        drawing.failure = std::current_exception();
+        task.failure = std::current_exception();
     }
 }
 
-void writePicture(const Document& document, const std::filesystem::path& output) {
+void writePicture(const Drawing& drawing, const std::filesystem::path& output) {
     const SavePictureEntry save = loadPictureModule();
-    Drawing drawing{document, nullptr};
+    Task task{drawing, nullptr};
     std::array<char, 500> text{};
-    const int fault = save(output.c_str(), &drawInto, &drawing, text.data(), text.size());
-    if (drawing.failure) std::rethrow_exception(drawing.failure);
+    const int fault = save(output.c_str(), drawing.paper, &drawInto, &task, text.data(), text.size());
+    if (task.failure) std::rethrow_exception(task.failure);
     if (fault != 0) throw RuntimeError(fault, text.data());
 }
 
 }  // namespace
 
-void writeDocument(const Document& document, const std::filesystem::path& output) {
+CommandResult writeDocument(const Document& document, const std::filesystem::path& output) {
     const std::string extension = lowerCase(output.extension().string());
     if (extension == ".rtf") {
         writeWholeFile(output, document.rtf());
-    } else if (extension == ".pdf" || extension == ".png" || extension == ".bmp") {
-        writePicture(document, output);
+    } else if (extension == ".pdf") {
+        writePicture(document.pages, output);
+    } else if (extension == ".png" || extension == ".bmp") {
+        writePicture(document.image(), output);
     } else {
         throw CommandError(ErrorKind::Usage, "Unknown format",
                            "--output takes a file name that ends in .rtf, .pdf, .png or .bmp");
     }
-}
-
-CommandResult fileResult(const std::filesystem::path& output) {
     return {{{"file", output.string()}}, output.string() + "\n"};
 }
 

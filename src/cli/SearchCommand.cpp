@@ -3,9 +3,7 @@
 
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
-#include "cli/OutputFile.h"
 #include "cli/TextTable.h"
-#include "documents/SearchReport.h"
 #include "numbers/Text.h"
 #include "search/HitLine.h"
 #include "search/HitSort.h"
@@ -55,7 +53,14 @@ void sort(SearchResults& results, const SearchOptions& options) {
     sortHits(results);
 }
 
-void search(Session& session, const SearchOptions& options, const LoadOptions& loads) {
+/// The list line of a row; after a sort it carries no over-speed mark.
+std::string lineOf(const ProgramState& state, const SearchHit& hit) {
+    return FormatHitLine(state, hit, state.search.sorted ? "" : overSpeedMark(state, hit));
+}
+
+}  // namespace
+
+void runSearch(Session& session, const SearchOptions& options, const LoadOptions& loads) {
     takeStyle(session.state(), options.style);
     takeSizes(session, options);
     session.enter(loads);
@@ -65,15 +70,8 @@ void search(Session& session, const SearchOptions& options, const LoadOptions& l
     sort(session.state().search, options);
 }
 
-/// The list line of a row; after a sort it carries no over-speed mark.
-std::string lineOf(const ProgramState& state, const SearchHit& hit) {
-    return FormatHitLine(state, hit, state.search.sorted ? "" : overSpeedMark(state, hit));
-}
-
-}  // namespace
-
 CommandResult searchCommand(Session& session, const SearchOptions& options, const LoadOptions& loads) {
-    search(session, options, loads);
+    runSearch(session, options, loads);
     const ProgramState& state = session.state();
     CommandResult result;
     result.json["hitCount"] = static_cast<int>(state.search.rows.size());
@@ -96,16 +94,6 @@ CommandResult searchCommand(Session& session, const SearchOptions& options, cons
     result.json["rows"] = rows;
     result.text = textTable(table, true);
     return result;
-}
-
-CommandResult searchReportCommand(Session& session, const SearchOptions& options, const LoadOptions& loads,
-                                  const std::filesystem::path& output) {
-    search(session, options, loads);
-    ClockPort& clock = session.clock();
-    writeDocument({[&] { return searchRtf(session.state(), clock); },
-                   [&](Canvas& canvas) { printSearch(session.state(), clock, canvas); }},
-                  output);
-    return fileResult(output);
 }
 
 }  // namespace norlaplan::cli

@@ -1,8 +1,11 @@
 #include "documents/DataSheet.h"
 
-#include "documents/OverlayReader.h"
+#include <utility>
+
+#include "documents/SectionDrawing.h"
 #include "documents/SheetWriter.h"
 #include "numbers/FormatNumber.h"
+#include "numbers/Text.h"
 
 namespace norlaplan {
 namespace {
@@ -34,19 +37,6 @@ void writeRunout(const SheetWriter& sheet, double top, const char* race, double 
         sheet.text({0.5, y, 1.8, y - kLine}, words);
         y -= kLine;
     }
-}
-
-/// Which separator drawing a style takes.
-const char* separatorSuffix(const SheetWriter& sheet) {
-    if (sheet.styleIsOneOf("XC")) return "XC";
-    return sheet.bearing.styleLetter == "U" ? "U" : "A";
-}
-
-void writeOverlays(const SheetWriter& sheet, const ProgramFolder& folder) {
-    const BearingSpec& bearing = sheet.bearing;
-    OverlayToRtf(sheet.document, folder.read("\\overlays\\" + bearing.styleLetter + ".ovl"));
-    OverlayToRtf(sheet.document,
-                 folder.read("\\overlays\\" + bearing.separatorOverlay + separatorSuffix(sheet) + ".sep"));
 }
 
 void writeClosingLines(const SheetWriter& sheet) {
@@ -83,13 +73,26 @@ SheetFiles makeDataSheet(const ProgramState& state, const ProgramFolder& folder,
     writeSpeedPanel(sheet);
     writeRunout(sheet, 5.61, "Outer Race", state.bearing.outerAxialRunout);
     writeRunout(sheet, 4.96, "Inner Race", state.bearing.innerAxialRunout);
-    writeOverlays(sheet, folder);
+    writeOverlays(document, state.bearing, folder);
     writeSizeTexts(sheet);
     writeClosingLines(sheet);
     document.append(savedFooter(state.options.footerText, clock));
     document.append("}{\\par }}");
     document.endRecords();
     return {document.rtf(), document.records()};
+}
+
+Document dataSheetDocument(const std::string& partNumber, std::string records,
+                           std::function<std::string()> rtf) {
+    Document document;
+    document.title = "Data sheet " + partNumber;
+    document.fileName = trimmed(upperCase(partNumber));
+    document.folder = "\\";
+    document.saveTitle = "Save Data Sheet As";
+    document.filters = {{"Rich Text File(*.rtf)", "*.rtf"}, {"Bitmap File(*.bmp)", "*.bmp"}};
+    document.rtf = std::move(rtf);
+    document.pages.draw = [drawn = std::move(records)](Canvas& canvas) { paintSheet(drawn, canvas); };
+    return document;
 }
 
 }  // namespace norlaplan

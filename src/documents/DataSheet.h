@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "state/Ports.h"
+#include "documents/Document.h"
 #include "state/ProgramFolder.h"
 #include "state/ProgramState.h"
 
@@ -11,6 +11,11 @@ namespace norlaplan {
 /// The technical data sheet of the current bearing, as an RTF document and as records. Errors: 53 for a
 /// missing overlay drawing.
 SheetFiles makeDataSheet(const ProgramState& state, const ProgramFolder& folder, ClockPort& clock);
+
+/// A data sheet as a document, from the records of its drawing and its RTF text. Drawing raises
+/// `BadSheetRecord`.
+Document dataSheetDocument(const std::string& partNumber, std::string records,
+                           std::function<std::string()> rtf);
 
 /// The group of a document's footer with this line (UTF-8).
 std::string documentFooter(const std::string& line);

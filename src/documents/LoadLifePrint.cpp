@@ -1,7 +1,7 @@
 #include "documents/LoadLifeReport.h"
 #include "documents/PrintedPage.h"
 #include "documents/ReportTexts.h"
-#include "documents/StyleDrawing.h"
+#include "documents/SectionDrawing.h"
 #include "numbers/FormatNumber.h"
 #include "numbers/Text.h"
 
@@ -82,7 +82,7 @@ void printNotes(PageWriter& page) {
 
 }  // namespace
 
-void printLoadLife(const ProgramState& state, ClockPort& clock, Canvas& canvas) {
+void printLoadLife(const ProgramState& state, const ProgramFolder& folder, ClockPort& clock, Canvas& canvas) {
     drawPageFrame(canvas);
     PageWriter page(canvas, 10.0);
     if (state.options.larsHofmannOption) printDevelopmentLines(page, state);
@@ -95,10 +95,8 @@ void printLoadLife(const ProgramState& state, ClockPort& clock, Canvas& canvas) 
     page.skip(0.25);
     printColumns(page, state);
     page.skip(0.2);
-    const bool pair = state.bearing.styleLetter == "B" || state.bearing.styleLetter == "F";
-    const double drawingHeight = pair ? 2.4 : 1.5;
-    drawStyle(canvas, state.bearing.styleLetter, {kPageLeft, page.y(), kPageRight, page.y() - drawingHeight});
-    page.skip(drawingHeight + 0.3);
+    drawSection(canvas, state.bearing, folder, {3.2, page.y() - kSectionHeight / 2.0});
+    page.skip(kSectionHeight + 0.3);
     printResults(page, state);
     page.skip(0.3);
     printNotes(page);
@@ -106,6 +104,15 @@ void printLoadLife(const ProgramState& state, ClockPort& clock, Canvas& canvas) 
     for (const std::string& warning : state.life.warnings)
         page.line(warning, timesLook(11.0, true, colours::kRed));
     drawPageFooter(canvas, clock);
+}
+
+Document loadLifeDocument(const ProgramState& state, const ProgramFolder& folder, ClockPort& clock) {
+    Document document;
+    document.title = "Load-life calculation for " + state.bearing.partNumber;
+    document.fileName = state.bearing.partNumber + "-load.rtf";
+    document.rtf = [&] { return loadLifeRtf(state, clock); };
+    document.pages.draw = [&](Canvas& canvas) { printLoadLife(state, folder, clock, canvas); };
+    return document;
 }
 
 }  // namespace norlaplan

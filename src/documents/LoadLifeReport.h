@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "state/Canvas.h"
-#include "state/Ports.h"
+#include "documents/Document.h"
+#include "state/ProgramFolder.h"
 #include "state/ProgramState.h"
 
 namespace norlaplan {
@@ -11,7 +11,10 @@ namespace norlaplan {
 /// The load-life result of the state as an RTF document.
 std::string loadLifeRtf(const ProgramState& state, ClockPort& clock);
 
-/// The same as a printed page.
-void printLoadLife(const ProgramState& state, ClockPort& clock, Canvas& canvas);
+/// The same as a printed page, with the section of the bearing's data sheet. Error 53 for a missing overlay.
+void printLoadLife(const ProgramState& state, const ProgramFolder& folder, ClockPort& clock, Canvas& canvas);
+
+/// Both as a document of that bearing.
+Document loadLifeDocument(const ProgramState& state, const ProgramFolder& folder, ClockPort& clock);
 
 }  // namespace norlaplan

@@ -1,12 +1,15 @@
 #include "documents/PrintedPage.h"
 
 #include "documents/DataSheet.h"
+#include "documents/LogoMetafile.h"
 
 namespace norlaplan {
 namespace {
 
 constexpr double kPointsPerInch = 72.0;
 constexpr double kLeading = 1.3;
+constexpr double kMargin = 0.5;  // of the frame
+constexpr double kInset = 0.15;  // of what stands along it
 
 }  // namespace
 
@@ -46,23 +49,23 @@ void PageWriter::lifeText(double x, const std::string& before, const std::string
     put(x + canvas_.textWidth("10", small), behind, look);
 }
 
-void drawPageFrame(Canvas& canvas) {
-    canvas.rectangle({kFrameLeft, kFrameTop, kFrameRight, kFrameBottom}, std::nullopt, PagePen{});
-    TextLook maker = timesLook(9.0, true, rgb(0, 40, 110));
-    maker.typeface = Typeface::Arial;
-    maker.alignment = Alignment::Right;
-    canvas.text({kFrameLeft, 10.38, kFrameRight - 0.15, 10.2}, "VARDEN", maker);
+void drawPageFrame(Canvas& canvas, const Paper& paper) {
+    canvas.rectangle({kMargin, paper.height - kMargin, paper.width - kMargin, kMargin}, std::nullopt,
+                     PagePen{});
+    constexpr double kLogoWidth = 1.1;
+    drawLogo(canvas, {paper.width - kMargin - kInset - kLogoWidth, paper.height - kMargin - 0.05},
+             kLogoWidth);
 }
 
-void drawPageFooter(Canvas& canvas, ClockPort& clock, const std::string& more) {
-    const TextLook look = timesLook(8.0);
-    const std::string printed = "Printed: " + clock.date() + " " + clock.time();
-    canvas.line({kFrameLeft, 0.78}, {kFrameRight, 0.78}, PagePen{});
-    canvas.text({kFrameLeft + 0.15, 0.7, kFrameRight, 0.6}, kProgramVersion, look);
-    TextLook right = look;
-    right.alignment = Alignment::Right;
-    canvas.text({kFrameLeft, 0.7, kFrameRight - 0.15, 0.6}, printed + (more.empty() ? "" : "     " + more),
-                right);
+void drawPageFooter(Canvas& canvas, ClockPort& clock, const std::string& more, const Paper& paper) {
+    const double right = paper.width - kMargin;
+    const PageBox line{kMargin + kInset, 0.7, right - kInset, 0.6};
+    canvas.line({kMargin, 0.78}, {right, 0.78}, PagePen{});
+    TextLook look = timesLook(8.0);
+    canvas.text(line, kProgramVersion, look);
+    look.alignment = Alignment::Right;
+    canvas.text(line, "Printed: " + clock.date() + " " + clock.time() + (more.empty() ? "" : "     " + more),
+                look);
 }
 
 }  // namespace norlaplan

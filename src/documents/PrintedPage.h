@@ -3,15 +3,15 @@
 #include <string>
 #include <vector>
 
-#include "state/Canvas.h"
+#include "state/Drawing.h"
 #include "state/Ports.h"
 
 namespace norlaplan {
 
-// The layout that all printed reports share: letter page, half an inch of margin, a thin frame.
+// The layout that all printed reports share: a thin frame half an inch within the paper, the text within it.
+// These are the edges of the text on an upright letter page.
 constexpr double kPageLeft = 0.9;
-constexpr double kPageRight = 7.6;
-constexpr double kFrameLeft = 0.5, kFrameRight = 8.0, kFrameTop = 10.5, kFrameBottom = 0.5;
+constexpr double kPageRight = papers::kLetter.width - kPageLeft;
 
 /// Writes texts down the page, line by line.
 class PageWriter {
@@ -39,9 +39,10 @@ class PageWriter {
 
 TextLook timesLook(double points, bool bold = false, Colour colour = colours::kBlack);
 
-/// The frame of a page and the maker's name at its head.
-void drawPageFrame(Canvas& canvas);
+/// The frame of a page and the maker's mark at its head.
+void drawPageFrame(Canvas& canvas, const Paper& paper = papers::kLetter);
 /// The last line of a page: program, when it was printed, and `more` (such as "Page 1 of 2").
-void drawPageFooter(Canvas& canvas, ClockPort& clock, const std::string& more = "");
+void drawPageFooter(Canvas& canvas, ClockPort& clock, const std::string& more = "",
+                    const Paper& paper = papers::kLetter);
 
 }  // namespace norlaplan

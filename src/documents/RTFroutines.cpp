@@ -12,9 +12,8 @@ namespace norlaplan {
 namespace {
 
 constexpr double kTwipsPerInch = 1440.0;
-constexpr double kPageHeight = 11.0;
 /// LibreOffice pushes a shape that leaves the page back inside, so no right edge goes beyond it.
-constexpr int kPageRight = 12240;
+constexpr int kPageRight = static_cast<int>(kTwipsPerInch * papers::kLetter.width);
 constexpr int kShapeIdBase = 1026;
 constexpr int kHeightBase = 8192;
 constexpr int kTextIdStep = 65536;
@@ -39,7 +38,7 @@ int twipsX(double x) {
     return static_cast<int>(Int(kTwipsPerInch * x));
 }
 int twipsY(double y) {
-    return static_cast<int>(Int(kTwipsPerInch * (kPageHeight - y)));
+    return static_cast<int>(Int(kTwipsPerInch * (papers::kLetter.height - y)));
 }
 
 std::string word(const char* name, int value) {

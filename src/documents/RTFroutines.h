@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "documents/SheetRecords.h"
+#include "state/Drawing.h"
 
 namespace norlaplan {
 

@@ -122,4 +122,13 @@ void printSearch(const ProgramState& state, ClockPort& clock, Canvas& canvas) {
     }
 }
 
+Document searchDocument(const ProgramState& state, ClockPort& clock) {
+    Document document;
+    document.title = "Results of bearing search";
+    document.fileName = "Search Results.rtf";
+    document.rtf = [&] { return searchRtf(state, clock); };
+    document.pages.draw = [&](Canvas& canvas) { printSearch(state, clock, canvas); };
+    return document;
+}
+
 }  // namespace norlaplan

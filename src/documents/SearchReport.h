@@ -2,8 +2,7 @@
 
 #include <string>
 
-#include "state/Canvas.h"
-#include "state/Ports.h"
+#include "documents/Document.h"
 #include "state/ProgramState.h"
 
 namespace norlaplan {
@@ -16,6 +15,9 @@ std::string searchRtf(const ProgramState& state, ClockPort& clock);
 
 /// The results list as printed pages: 26 rows on the first, 40 on each further one.
 void printSearch(const ProgramState& state, ClockPort& clock, Canvas& canvas);
+
+/// Both as a document.
+Document searchDocument(const ProgramState& state, ClockPort& clock);
 
 /// How many pages the printed list has.
 int searchPages(std::size_t rows);

@@ -71,35 +71,19 @@ class Painter {
     Canvas& canvas_;
 };
 
-/// The maker's mark, where the document's head has its picture.
-void paintMark(Canvas& canvas) {
-    constexpr Colour kNavy = rgb(0, 40, 110);
-    constexpr PageBox kPlace{5.96, 10.35, 8.0, 9.68};
-    constexpr double kInch = (kPlace.right - kPlace.left) / mark::kWidth;
-    constexpr double kEmuPerInch = 914400.0;
-    constexpr double kPointsPerInch = 72.0;
-    const PagePen pen{kNavy, mark::kPen * kInch * kEmuPerInch, 0};
-    for (const MarkCircle& circle : markCircles()) {
-        canvas.circle({kPlace.left + circle.x * kInch, kPlace.top - circle.y * kInch}, circle.radius * kInch,
-                      pen);
-    }
-    TextLook look;
-    look.typeface = Typeface::Arial;
-    look.points = mark::kNameSize * kInch * kPointsPerInch;
-    look.bold = true;
-    look.colour = kNavy;
-    const double top = kPlace.top - mark::kNameTop * kInch;
-    canvas.text({kPlace.left + mark::kNameLeft * kInch, top, kPlace.right, kPlace.bottom}, mark::kName, look);
-}
-
 }  // namespace
+
+void paintRecords(const std::vector<SheetRecord>& records, Canvas& canvas) {
+    const Painter painter(canvas);
+    for (const SheetRecord& record : records)
+        std::visit(painter, record);
+}
 
 void paintSheet(std::string_view records, Canvas& canvas) {
     const std::vector<SheetRecord> sheet = readSheetRecords(records);
-    paintMark(canvas);
-    const Painter painter(canvas);
-    for (const SheetRecord& record : sheet)
-        std::visit(painter, record);
+    // Where the document's head has its picture.
+    drawLogo(canvas, {5.96, 10.35}, 2.04);
+    paintRecords(sheet, canvas);
 }
 
 }  // namespace norlaplan

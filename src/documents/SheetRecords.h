@@ -65,6 +65,8 @@ std::string recordText(const SheetRecord& record);
 /// The records of a side file up to its last line or its end. Error: `BadSheetRecord`.
 std::vector<SheetRecord> readSheetRecords(std::string_view text);
 
+void paintRecords(const std::vector<SheetRecord>& records, Canvas& canvas);
+
 /// Draws a side file onto the canvas, with the maker's mark at the head of the page. Error: `BadSheetRecord`.
 void paintSheet(std::string_view records, Canvas& canvas);
 

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QFontMetricsF>
+#include <QPageSize>
 #include <QPainter>
 #include <QPen>
 #include <QStringList>
@@ -20,14 +21,6 @@ constexpr int kDashDotted = 8;
 QColor colourOf(Colour colour) {
     return {static_cast<int>(colour & 0xFFU), static_cast<int>(colour >> 8U & 0xFFU),
             static_cast<int>(colour >> 16U & 0xFFU)};
-}
-
-QPointF place(PagePoint point) {
-    return {point.x * kTwips, (kPageHeightInches - point.y) * kTwips};
-}
-
-QRectF place(const PageBox& box) {
-    return QRectF(place(PagePoint{box.left, box.top}), place(PagePoint{box.right, box.bottom})).normalized();
 }
 
 QString familyOf(Typeface typeface) {
@@ -72,12 +65,29 @@ double startOf(double room, double width, Alignment alignment) {
 
 }  // namespace
 
-PainterCanvas::PainterCanvas(QPainter& painter, double pixelsPerInch, std::function<void()> turnPage)
+QPageLayout pageLayoutOf(const Paper& paper) {
+    // A page size is told upright; the orientation turns it.
+    const QSizeF upright(std::min(paper.width, paper.height), std::max(paper.width, paper.height));
+    return {QPageSize(upright, QPageSize::Inch),
+            paper.isLandscape() ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()};
+}
+
+PainterCanvas::PainterCanvas(QPainter& painter, const Paper& paper, double pixelsPerInch,
+                             std::function<void()> turnPage)
     : painter_(painter),
+      pageHeight_(paper.height),
       pixelsPerInch_(pixelsPerInch),
       turnPage_(std::move(turnPage)),
       device_(painter.transform()) {
     usePageScale();
+}
+
+QPointF PainterCanvas::place(PagePoint point) const {
+    return {point.x * kTwips, (pageHeight_ - point.y) * kTwips};
+}
+
+QRectF PainterCanvas::place(const PageBox& box) const {
+    return QRectF(place(PagePoint{box.left, box.top}), place(PagePoint{box.right, box.bottom})).normalized();
 }
 
 void PainterCanvas::usePageScale() {

@@ -2,8 +2,6 @@
 
 #include <QBuffer>
 #include <QImage>
-#include <QPageLayout>
-#include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
 #include <string>
@@ -19,20 +17,18 @@ namespace {
 constexpr int kPdfDotsPerInch = 1200;
 constexpr int kImageDotsPerInch = 150;
 
-using Drawing = std::function<void(Canvas&)>;
-
-QByteArray pdfOf(const Drawing& draw) {
+QByteArray pdfOf(const Drawing& drawing) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     {
         QPdfWriter writer(&buffer);
         writer.setResolution(kPdfDotsPerInch);
-        writer.setPageLayout({QPageSize(QPageSize::Letter), QPageLayout::Portrait, QMarginsF()});
+        writer.setPageLayout(pageLayoutOf(drawing.paper));
         writer.setCreator(QStringLiteral("NORLAPLAN-MM version 1.00"));
         QPainter painter(&writer);
-        PainterCanvas canvas(painter, kPdfDotsPerInch, [&writer] { writer.newPage(); });
-        draw(canvas);
+        PainterCanvas canvas(painter, drawing.paper, kPdfDotsPerInch, [&writer] { writer.newPage(); });
+        drawing.draw(canvas);
     }
     return bytes;
 }
@@ -40,9 +36,9 @@ QByteArray pdfOf(const Drawing& draw) {
 /// An image that grows by a page at a time.
 class ImagePages {
   public:
-    explicit ImagePages(int dotsPerInch)
-        : pageWidth_(qRound(kPageWidthInches * dotsPerInch)),
-          pageHeight_(qRound(kPageHeightInches * dotsPerInch)) {
+    /// Pages of this size in inches.
+    ImagePages(double width, double height)
+        : pageWidth_(qRound(width * kImageDotsPerInch)), pageHeight_(qRound(height * kImageDotsPerInch)) {
         addPage();
     }
     ~ImagePages() {
@@ -79,10 +75,10 @@ QByteArray encoded(QImage image, const char* format) {
     return bytes;
 }
 
-QByteArray imageOf(const Drawing& draw, const char* format) {
-    ImagePages pages(kImageDotsPerInch);
-    PainterCanvas canvas(pages.painter, kImageDotsPerInch, [&pages] { pages.addPage(); });
-    draw(canvas);
+QByteArray imageOf(const Drawing& drawing, const char* format) {
+    ImagePages pages(drawing.paper.width, drawing.paper.height);
+    PainterCanvas canvas(pages.painter, drawing.paper, kImageDotsPerInch, [&pages] { pages.addPage(); });
+    drawing.draw(canvas);
     pages.painter.end();
     return encoded(std::move(pages.image), format);
 }
@@ -97,19 +93,24 @@ std::string extensionOf(const std::filesystem::path& path) {
 
 }  // namespace
 
-void savePicture(const std::filesystem::path& path, const Drawing& draw) {
+void savePicture(const std::filesystem::path& path, const Drawing& drawing) {
     const std::string extension = extensionOf(path);
     if (!isPictureFile(path)) raise(fault::kInvalidCall);
-    const QByteArray bytes = extension == ".PDF" ? pdfOf(draw) : imageOf(draw, extension.c_str() + 1);
+    const QByteArray bytes = extension == ".PDF" ? pdfOf(drawing) : imageOf(drawing, extension.c_str() + 1);
     writeBytes(path, bytes);
 }
 
-void saveBitmap(const std::filesystem::path& path, const PageBox& area, const Drawing& draw) {
-    ImagePages page(kImageDotsPerInch);
-    const double dotsPerInch = page.image.width() / (area.right - area.left);
-    page.painter.translate(-area.left * dotsPerInch, -(kPageHeightInches - area.top) * dotsPerInch);
-    PainterCanvas canvas(page.painter, dotsPerInch);
-    draw(canvas);
+void saveBitmap(const std::filesystem::path& path, const Drawing& drawing) {
+    writeBytes(path, imageOf(drawing, "BMP"));
+}
+
+void saveBitmap(const std::filesystem::path& path, const Drawing& drawing, const PageBox& area) {
+    const double across = area.right - area.left;
+    ImagePages page(drawing.paper.width, drawing.paper.width * (area.top - area.bottom) / across);
+    const double dotsPerInch = page.image.width() / across;
+    page.painter.translate(-area.left * dotsPerInch, -(drawing.paper.height - area.top) * dotsPerInch);
+    PainterCanvas canvas(page.painter, drawing.paper, dotsPerInch);
+    drawing.draw(canvas);
     page.painter.end();
     writeBytes(path, encoded(std::move(page.image), "BMP"));
 }

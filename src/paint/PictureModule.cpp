@@ -48,12 +48,12 @@ class HeadlessApplication {
 }  // namespace norlaplan
 
 extern "C" __attribute__((visibility("default"))) int norlaplanSavePicture(
-    const char* path, void (*draw)(void* context, norlaplan::Canvas& canvas), void* context, char* text,
-    std::size_t size) {
+    const char* path, const norlaplan::Paper& paper, void (*draw)(void* context, norlaplan::Canvas& canvas),
+    void* context, char* text, std::size_t size) {
     using namespace norlaplan;
     try {
         const HeadlessApplication application;
-        savePicture(path, [&](Canvas& canvas) { draw(context, canvas); });
+        savePicture(path, {paper, [&](Canvas& canvas) { draw(context, canvas); }});
         return 0;
     } catch (const RuntimeError& error) {
         putText(error.what(), text, size);

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "state/Canvas.h"
+#include "state/Drawing.h"
 
 namespace norlaplan {
 
@@ -10,10 +10,11 @@ namespace norlaplan {
 constexpr const char* kPictureModule = "norlaplan-paint.so";
 constexpr const char* kPictureEntry = "norlaplanSavePicture";
 
-/// Draws by calling `draw(context, canvas)` and saves the picture as `savePicture` does. Gives 0, or the
-/// number of the run-time error with its text, cut to `size` bytes with its end, in `text`; -1 for a failure
-/// without a number. No exception leaves it, and it needs no display.
-using SavePictureEntry = int (*)(const char* path, void (*draw)(void* context, Canvas& canvas), void* context,
-                                 char* text, std::size_t size);
+/// Draws on pages of this size by calling `draw(context, canvas)` and saves the picture as `savePicture`
+/// does. Gives 0, or the number of the run-time error with its text, cut to `size` bytes with its end, in
+/// `text`; -1 for a failure without a number. No exception leaves it, and it needs no display.
+using SavePictureEntry = int (*)(const char* path, const Paper& paper,
+                                 void (*draw)(void* context, Canvas& canvas), void* context, char* text,
+                                 std::size_t size);
 
 }  // namespace norlaplan

@@ -14,10 +14,10 @@
 #include "numbers/Text.h"
 #include "screens/BusyPointer.h"
 #include "screens/Decoding.h"
+#include "screens/DocumentOutput.h"
 #include "screens/FormBuilder.h"
 #include "screens/HitModel.h"
 #include "screens/Picture.h"
-#include "screens/SaveReport.h"
 #include "screens/Screens.h"
 #include "screens/SearchProgress.h"
 #include "screens/Theme.h"
@@ -268,14 +268,11 @@ void Form15::showDataSheet() {
 }
 
 void Form15::print() {
-    const Services& program = services();
-    program.printer.print("Results of bearing search",
-                          [&](Canvas& canvas) { printSearch(state(), program.clock, canvas); });
+    printDocument(services(), searchDocument(state(), services().clock));
 }
 
 void Form15::save() {
-    saveReport(services(), "Save Results As", "Search Results.rtf",
-               [this] { return searchRtf(state(), services().clock); });
+    saveDocument(services(), searchDocument(state(), services().clock));
 }
 
 }  // namespace norlaplan

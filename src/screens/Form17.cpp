@@ -3,16 +3,15 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollBar>
-#include <QWheelEvent>
-#include <algorithm>
+#include <utility>
 
+#include "documents/DataSheet.h"
 #include "documents/SheetRecords.h"
-#include "numbers/Text.h"
-#include "paint/PictureFile.h"
+#include "numbers/RuntimeError.h"
+#include "screens/DocumentOutput.h"
+#include "screens/DrawingView.h"
 #include "screens/FormBuilder.h"
 #include "screens/Screens.h"
-#include "screens/SheetView.h"
 #include "screens/Theme.h"
 #include "state/MoveFile.h"
 
@@ -21,7 +20,7 @@ namespace {
 
 constexpr double kUnitsPerPixel = 15.0;
 constexpr int kSmallScreen = 1024;
-constexpr int kBitmap = 2;  // place in the dialog's filters
+constexpr const char* kSheetFile = "data.rtf";
 
 int pixels(double units) {
     return static_cast<int>(units / kUnitsPerPixel);
@@ -30,34 +29,36 @@ int pixels(double units) {
 }  // namespace
 
 Form17::Form17(Screens& screens) : Form(screens, forms::kDataSheet, "Drawing Display") {
-    sheet_ = new SheetView("Picture2");
-    scroll_ = new QScrollBar(Qt::Vertical);
-    scroll_->setObjectName(QStringLiteral("VScroll1"));
-    scroll_->setAccessibleName(QStringLiteral("Scroll the data sheet"));
-    scroll_->setFocusPolicy(Qt::StrongFocus);
+    sheet_ = new DrawingView("Picture2", "Data sheet");
     auto* const menu = build::button("Command1", "&Main Menu", "Return to Main Menu");
     auto* const redrawButton = build::button("Command2", "Redraw");
     auto* const saveButton = build::button("Command3", "&Save", "Save data sheet to file");
     auto* const printButton = build::button("Command4", "P&rint", "Print data sheet");
 
-    sheet_->changed = [this] { fitScrollBar(); };
-    on(scroll_, &QScrollBar::valueChanged, "Scroll", [this] { sheet_->scrollTo(scroll_->value()); });
+    auto* const wholePage = build::button("WholePage", "&Whole Page", "Show the whole page (0)");
+    auto* const pageWidth = build::button("PageWidth", "Page Wi&dth", "Show the page as wide as the window");
+    auto* const zoomIn = build::button("ZoomIn", "Zoom &In", "Look closer (+)");
+    auto* const zoomOut = build::button("ZoomOut", "Zoom &Out", "Show more of the page (-)");
+
     on(menu, &QPushButton::clicked, "Main Menu", [this] { this->screens().show(forms::kMainMenu); });
     on(redrawButton, &QPushButton::clicked, "Redraw", [this] { redraw(); });
     on(saveButton, &QPushButton::clicked, "Save", [this] { save(); });
     on(printButton, &QPushButton::clicked, "Print", [this] { print(); });
+    on(wholePage, &QPushButton::clicked, "Whole Page", [this] { sheet_->showWholePage(); });
+    on(pageWidth, &QPushButton::clicked, "Page Width", [this] { sheet_->showPageWidth(); });
+    on(zoomIn, &QPushButton::clicked, "Zoom In", [this] { sheet_->zoomIn(); });
+    on(zoomOut, &QPushButton::clicked, "Zoom Out", [this] { sheet_->zoomOut(); });
 
-    auto* const drawing = new QHBoxLayout;
-    drawing->setSpacing(0);
-    drawing->addWidget(sheet_, 1);
-    drawing->addWidget(scroll_);
     auto* const buttons = theme::spaced(new QVBoxLayout, 0);
     for (QPushButton* const button : {printButton, saveButton, redrawButton})
+        buttons->addWidget(button);
+    buttons->addSpacing(theme::kWideGap);
+    for (QPushButton* const button : {wholePage, pageWidth, zoomIn, zoomOut})
         buttons->addWidget(button);
     buttons->addStretch();
     buttons->addWidget(menu);
     auto* const page = theme::spaced(new QHBoxLayout(this));
-    page->addLayout(drawing, 1);
+    page->addWidget(sheet_, 1);
     page->addLayout(buttons);
 }
 
@@ -71,7 +72,7 @@ void Form17::fitToScreen(const QRect& room) {
 
 void Form17::opened() {
     redraw();
-    scroll_->setFocus();
+    sheet_->setFocus();
 }
 
 std::optional<std::string> Form17::soundRecords() {
@@ -88,46 +89,39 @@ std::optional<std::string> Form17::soundRecords() {
 }
 
 void Form17::redraw() {
-    if (auto records = soundRecords()) sheet_->showRecords(std::move(*records));
+    auto sheet = document();
+    if (!sheet) return;
+    shown_ = std::move(*sheet);
+    sheet_->showDrawing(shown_.pages);
+}
+
+std::optional<Document> Form17::document() {
+    auto records = soundRecords();
+    if (!records) return std::nullopt;
+    return dataSheetDocument(state().bearing.partNumber, std::move(*records),
+                             [this] { return services().folder.read(kSheetFile); });
 }
 
 void Form17::save() {
-    const SaveRequest request{"Save Data Sheet As",
-                              {{"Rich Text File(*.rtf)", "*.rtf"}, {"Bitmap File(*.bmp)", "*.bmp"}},
-                              ".rtf",
-                              services().folder.root(),
-                              trimmed(upperCase(state().bearing.partNumber))};
-    const auto choice = services().saveDialog.askWhereToSave(request);
-    if (!choice) return;
-    if (choice->filterIndex == kBitmap) {
-        const auto records = soundRecords();
-        if (!records) return;
-        saveBitmap(choice->path, sheet_->area(), [&](Canvas& canvas) { paintSheet(*records, canvas); });
-    } else {
-        // The sheet is moved, not copied: the program keeps one only until it has been saved.
-        moveFile(services().folder.find("data.rtf"), choice->path);
+    shown_.pictureArea = sheet_->area();
+    saveDocument(services(), shown_, [this](const std::filesystem::path& path) { moveSheet(path); });
+}
+
+void Form17::moveSheet(const std::filesystem::path& path) {
+    const std::filesystem::path sheet = services().folder.find(kSheetFile);
+    if (!std::filesystem::exists(sheet) && !movedTo_.empty()) {
+        throw RuntimeError(fault::kFileNotFound,
+                           runtimeErrorText(fault::kFileNotFound) + "\n\nThe data sheet was moved to " +
+                               movedTo_.string() +
+                               " when it was saved; enter the part number again to get a "
+                               "new one.");
     }
-    state().lastSavedFile = choice->path.string();
+    moveFile(sheet, path);
+    movedTo_ = path;
 }
 
 void Form17::print() {
-    const auto records = soundRecords();
-    if (!records) return;
-    services().printer.print("Data sheet " + state().bearing.partNumber,
-                             [&](Canvas& canvas) { paintSheet(*records, canvas); });
-}
-
-void Form17::fitScrollBar() {
-    scroll_->setPageStep(sheet_->height());
-    scroll_->setSingleStep(std::max(1, sheet_->height() / 12));
-    scroll_->setRange(0, std::max(0, sheet_->pageHeight() - sheet_->height()));
-    scroll_->setValue(std::min(scroll_->value(), scroll_->maximum()));
-    sheet_->scrollTo(scroll_->value());
-}
-
-void Form17::wheelEvent(QWheelEvent* event) {
-    scroll_->setValue(scroll_->value() - event->angleDelta().y());
-    event->accept();
+    if (const auto sheet = document()) printDocument(services(), *sheet);
 }
 
 }  // namespace norlaplan

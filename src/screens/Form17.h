@@ -1,12 +1,14 @@
 #pragma once
 
-#include "screens/Form.h"
+#include <filesystem>
+#include <optional>
 
-class QScrollBar;
+#include "documents/Document.h"
+#include "screens/Form.h"
 
 namespace norlaplan {
 
-class SheetView;
+class DrawingView;
 
 /// The data sheet of the current bearing: looked at, saved, printed.
 class Form17 : public Form {
@@ -16,20 +18,21 @@ class Form17 : public Form {
     void opened() override;
     void fitToScreen(const QRect& room) override;
 
-  protected:
-    void wheelEvent(QWheelEvent* event) override;
-
   private:
-    /// Reads the drawing afresh and shows the whole page.
+    /// Reads the drawing afresh and shows the page from its top.
     void redraw();
     void save();
     void print();
-    void fitScrollBar();
-    /// The records of the program folder. A record that nobody can draw ends the program: nothing then.
+    /// The sheet is moved, not copied: the program keeps one only until it has been saved. Error 53 with the
+    /// place that it was moved to before.
+    void moveSheet(const std::filesystem::path& path);
+    /// The sheet of the program folder. A record that nobody can draw ends the program: nothing then.
+    std::optional<Document> document();
     std::optional<std::string> soundRecords();
 
-    SheetView* sheet_;
-    QScrollBar* scroll_;
+    DrawingView* sheet_;
+    Document shown_;
+    std::filesystem::path movedTo_;
 };
 
 }  // namespace norlaplan

@@ -13,9 +13,9 @@
 #include "numbers/Text.h"
 #include "screens/BusyPointer.h"
 #include "screens/Decoding.h"
+#include "screens/DocumentOutput.h"
 #include "screens/FormBuilder.h"
 #include "screens/Picture.h"
-#include "screens/SaveReport.h"
 #include "screens/Screens.h"
 #include "screens/Theme.h"
 #include "state/StyleTable.h"
@@ -317,17 +317,18 @@ void Form19::keyPressEvent(QKeyEvent* event) {
     Form::keyPressEvent(event);
 }
 
+Document Form19::document() const {
+    return loadLifeDocument(state(), services().folder, services().clock);
+}
+
 void Form19::print() {
     if (!lifeInHand()) return;
-    const Services& program = services();
-    program.printer.print("Load-life calculation for " + state().bearing.partNumber,
-                          [&](Canvas& canvas) { printLoadLife(state(), program.clock, canvas); });
+    printDocument(services(), document());
 }
 
 void Form19::save() {
     if (!lifeInHand()) return;
-    saveReport(services(), "Save Results As", state().bearing.partNumber + "-load.rtf",
-               [this] { return loadLifeRtf(state(), services().clock); });
+    saveDocument(services(), document());
 }
 
 }  // namespace norlaplan

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "documents/Document.h"
 #include "screens/Form.h"
 
 class QGroupBox;
@@ -49,6 +50,7 @@ class Form19 : public Form {
 
     void goToPrevious();
     void goToMainMenu();
+    Document document() const;
     void print();
     void save();
 

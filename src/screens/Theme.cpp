@@ -128,6 +128,10 @@ QColor badColour(const QPalette& palette) {
     return isDark(palette) ? QColor(255, 130, 120) : QColor(255, 0, 0);
 }
 
+QColor deskColour() {
+    return {0xA8, 0xAD, 0xB3};
+}
+
 QColor frameColour() {
     return {200, 30, 30};
 }

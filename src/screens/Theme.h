@@ -41,6 +41,7 @@ QPalette paper();
 QColor goodColour(const QPalette& palette);  ///< within the limit
 QColor badColour(const QPalette& palette);   ///< over the limit
 
+QColor deskColour();   ///< around a page that is looked at
 QColor frameColour();  ///< of a frame drawn over white paper
 
 void makeHeading(QLabel& label);

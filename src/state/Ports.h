@@ -1,12 +1,11 @@
 #pragma once
 
 #include <filesystem>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "state/Canvas.h"
+#include "state/Drawing.h"
 
 namespace norlaplan {
 
@@ -57,11 +56,11 @@ class SaveDialogPort {
     virtual std::optional<SaveChoice> askWhereToSave(const SaveRequest& request) = 0;
 };
 
-/// The printer. `draw` gets a letter page, portrait; false when the user cancels.
+/// The printer, on paper of the drawing's size and orientation. False when the user cancels.
 class PrinterPort {
   public:
     virtual ~PrinterPort() = default;
-    virtual bool print(const std::string& documentName, const std::function<void(Canvas&)>& draw) = 0;
+    virtual bool print(const std::string& documentName, const Drawing& drawing) = 0;
 };
 
 /// Date and time as texts in the user's locale, short form.

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "documents/LoadLifeReport.h"
+#include "numbers/RuntimeError.h"
+#include "support/FaultOf.h"
 #include "support/RecordingPorts.h"
 
 namespace norlaplan {
@@ -17,6 +19,7 @@ ProgramState resultOf(double speed) {
     state.user.userName = "Ann";
     state.bearing.partNumber = "K19013FR0A";
     state.bearing.styleLetter = "F";
+    state.bearing.separatorOverlay = "RIBBON";
     state.bearing.bore = 7.5;
     state.bearing.outsideDiameter = 8.5;
     state.bearing.height = 1.0;
@@ -58,6 +61,29 @@ TEST(LoadLifeRtf, LeavesSpeedHoursAndVerdictOutWithoutASpeed) {
     }
 }
 
+/// Overlays of a face-to-face pair with a ribbon. The section has a line from (3.5, 7) to (4, 8) and a circle
+/// around (4, 8); a dimension stands left of it, a line runs out of it; the separator is one line from
+/// (7, 5.5) to (7.5, 5.5).
+struct Overlays {
+    Overlays() {
+        place.write("overlays/F.ovl",
+                    "PW0.35;PU3302,6477;PD3810,7493;PU3302,7493;AA3810,7493,360;"
+                    "PU1270,6477;PD1270,7493;PU3810,6477;PD3810,5461;");
+        place.write("overlays/RIBBONA.sep", "PU6858,4953;PD7366,4953;");
+    }
+    ProgramFolder folder() const { return ProgramFolder(place.path()); }
+    testing::TemporaryFolder place;
+};
+
+RecordingCanvas printed(const ProgramState& state) {
+    const Overlays overlays;
+    const ProgramFolder folder = overlays.folder();
+    FixedClock clock;
+    RecordingCanvas canvas;
+    loadLifeDocument(state, folder, clock).pages.draw(canvas);
+    return canvas;
+}
+
 TEST(LoadLifeReport, CarriesEachWarningInRedBehindTheNotes) {
     ProgramState state = resultOf(400.0);
     const std::string balance = "The ball loads do not balance the applied loads.";
@@ -69,9 +95,7 @@ TEST(LoadLifeReport, CarriesEachWarningInRedBehindTheNotes) {
     EXPECT_GT(rtf.find("{\\fs24\\b\\cf6 " + balance + "}"), note);
     EXPECT_LT(rtf.find("{\\fs24\\b\\cf6 " + row + "}"), rtf.find("{\\footer"));
 
-    RecordingCanvas canvas;
-    FixedClock clock;
-    printLoadLife(state, clock, canvas);
+    const RecordingCanvas canvas = printed(state);
     double before = 11.0;
     for (const std::string& text :
          {std::string(
@@ -90,9 +114,7 @@ TEST(LoadLifeReport, CarriesEachWarningInRedBehindTheNotes) {
 }
 
 TEST(LoadLifePrint, FollowsTheStatedOrderDownThePage) {
-    RecordingCanvas canvas;
-    FixedClock clock;
-    printLoadLife(resultOf(400.0), clock, canvas);
+    const RecordingCanvas canvas = printed(resultOf(400.0));
     double before = 11.0;
     for (const char* const text :
          {"RESULTS OF LOAD-LIFE CALCULATION FOR : ", "Bore =", "Outer Dia. =", "Height =", "Speed =",
@@ -117,13 +139,54 @@ TEST(LoadLifePrint, PutsTheDevelopmentLinesFirstOfWhichOnlyOneHasAValue) {
     ProgramState state = resultOf(0.0);
     state.options.larsHofmannOption = true;
     state.bearing.speedFactor = 0.5;
-    RecordingCanvas canvas;
-    FixedClock clock;
-    printLoadLife(state, clock, canvas);
+    const RecordingCanvas canvas = printed(state);
     EXPECT_TRUE(canvas.hasText("Percentage of Dynamic Capacity = "));
     EXPECT_TRUE(canvas.hasText("Speed factor = 0.5"));
     EXPECT_TRUE(canvas.hasText("Maximum Capacity = "));
     EXPECT_TRUE(canvas.hasText("Maximum Load or Reaction = "));
+}
+
+TEST(LoadLifePrint, ShowsTheSheetsSectionWithoutItsDimensionsAndTheSeparatorBesideIt) {
+    const RecordingCanvas canvas = printed(resultOf(400.0));
+    // The mark has 14 circles of its own.
+    ASSERT_EQ(canvas.circles.size(), 15U);
+    const auto& ball = canvas.circles.back();
+    EXPECT_NEAR(ball.radius, 0.5, 1e-3);
+    // The line within the section ends in the ball's middle; its pen is the overlay's.
+    std::vector<RecordingCanvas::Line> drawn;
+    for (const auto& line : canvas.lines) {
+        if (line.to.y > 1.0) drawn.push_back(line);
+    }
+    ASSERT_EQ(drawn.size(), 2U);
+    EXPECT_NEAR(drawn[0].to.x, ball.centre.x, 1e-3);
+    EXPECT_NEAR(drawn[0].to.y, ball.centre.y, 1e-3);
+    EXPECT_NEAR(drawn[0].from.x, ball.centre.x - 0.5, 1e-3);
+    EXPECT_NEAR(drawn[0].from.y, ball.centre.y - 1.0, 1e-3);
+    EXPECT_EQ(drawn[0].pen.colour, 3394611U);
+    EXPECT_NEAR(drawn[1].to.x - drawn[1].from.x, 0.5, 1e-3);
+    EXPECT_GT(drawn[1].from.x, ball.centre.x + 1.0);
+}
+
+TEST(LoadLifePrint, WithoutAnOverlayIsAFileError) {
+    ProgramState state = resultOf(0.0);
+    state.bearing.separatorOverlay = "NONE";
+    EXPECT_EQ(testing::faultOf([&] { printed(state); }), fault::kFileNotFound);
+}
+
+TEST(LoadLifeDocument, SaysHowItIsCalledAndSaved) {
+    const ProgramState state = resultOf(400.0);
+    const Overlays overlays;
+    const ProgramFolder folder = overlays.folder();
+    FixedClock clock;
+    const Document document = loadLifeDocument(state, folder, clock);
+    EXPECT_EQ(document.title, "Load-life calculation for K19013FR0A");
+    EXPECT_EQ(document.fileName, "K19013FR0A-load.rtf");
+    EXPECT_EQ(document.saveTitle, "Save Results As");
+    EXPECT_EQ(document.folder, "\\save");
+    ASSERT_EQ(document.filters.size(), 1U);
+    EXPECT_EQ(document.filters[0].label, "Rich Text Files (*.rtf)");
+    EXPECT_EQ(document.pages.paper, papers::kLetter);
+    EXPECT_EQ(document.rtf(), loadLifeRtf(state, clock));
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ QImage drawn(const std::function<void(Canvas&)>& draw, int pixelsPerInch = 100) 
     QImage page(pixelsPerInch * 17 / 2, pixelsPerInch * 11, QImage::Format_RGB32);
     page.fill(Qt::white);
     QPainter painter(&page);
-    PainterCanvas canvas(painter, pixelsPerInch);
+    PainterCanvas canvas(painter, papers::kLetter, pixelsPerInch);
     draw(canvas);
     return page;
 }
@@ -339,7 +339,7 @@ TEST(Pages, BeginAtThePaintersOrigin) {
     picture.fill(Qt::white);
     QPainter painter(&picture);
     painter.translate(50.0, 100.0);
-    PainterCanvas canvas(painter, 100.0);
+    PainterCanvas canvas(painter, papers::kLetter, 100.0);
     canvas.line({1.0, 10.0}, {3.0, 10.0}, {});
     expectBox(inkBox(picture), 150, 200, 350, 200);
 }
@@ -349,7 +349,7 @@ TEST(Pages, GoOnWhereTheNewPageLies) {
     picture.fill(Qt::white);
     QPainter painter(&picture);
     int turned = 0;
-    PainterCanvas canvas(painter, 100.0, [&] {
+    PainterCanvas canvas(painter, papers::kLetter, 100.0, [&] {
         ++turned;
         painter.translate(0.0, 1100.0);
     });

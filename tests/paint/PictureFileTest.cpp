@@ -1,5 +1,7 @@
 #include <QImage>
+#include <functional>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -18,6 +20,11 @@ using testing::TemporaryFolder;
 
 /// Black, and 48 points wide or two thirds of an inch: no page thins it away.
 constexpr PagePen kBroad{colours::kBlack, 609600.0, 0};
+
+/// Upright letter pages with what `draw` leaves on them.
+void saveLetter(const std::filesystem::path& path, std::function<void(Canvas&)> draw) {
+    savePicture(path, {papers::kLetter, std::move(draw)});
+}
 
 QImage load(const std::filesystem::path& path) {
     return QImage(QString::fromStdString(path.string()));
@@ -43,7 +50,7 @@ TEST(PictureFiles, AreLetterPagesAtAHundredAndFiftyDotsToTheInch) {
     const TemporaryFolder files;
     for (const char* const name : {"sheet.png", "sheet.bmp", "SHEET2.PNG", "sheet3.Bmp"}) {
         const auto path = files.path() / name;
-        savePicture(path, [](Canvas& canvas) {
+        saveLetter(path, [](Canvas& canvas) {
             canvas.rectangle({1.0, 10.0, 3.0, 9.0}, colours::kBlue, std::nullopt);
         });
         const QImage picture = load(path);
@@ -60,7 +67,7 @@ TEST(PictureFiles, HaveTheirKindByTheirExtension) {
     const TemporaryFolder files;
     for (const auto& [name, start] : {std::pair{"a.png", "\x89PNG"}, std::pair{"a.bmp", "BM"},
                                       std::pair{"a.pdf", "%PDF-"}, std::pair{"a.PDF", "%PDF-"}}) {
-        savePicture(files.path() / name, [](Canvas&) {});
+        saveLetter(files.path() / name, [](Canvas&) {});
         EXPECT_TRUE(files.read(name).starts_with(start)) << name;
     }
     for (const char* const name : {"a.png", "a.PNG", "a.bmp", "a.pdf", "x.y.Pdf"}) {
@@ -74,7 +81,7 @@ TEST(PictureFiles, HaveTheirKindByTheirExtension) {
 TEST(PictureFiles, SetFurtherPagesBelowTheFirst) {
     const TemporaryFolder files;
     const auto path = files.path() / "pages.png";
-    savePicture(path, [](Canvas& canvas) {
+    saveLetter(path, [](Canvas& canvas) {
         canvas.rectangle({1.0, 10.0, 2.0, 9.0}, colours::kBlack, std::nullopt);
         canvas.newPage();
         canvas.rectangle({3.0, 8.0, 4.0, 7.0}, colours::kBlack, std::nullopt);
@@ -90,7 +97,7 @@ TEST(PictureFiles, SetFurtherPagesBelowTheFirst) {
 
 TEST(PdfFiles, HaveLetterPagesAndNameTheProgram) {
     const TemporaryFolder files;
-    savePicture(files.path() / "a.pdf", [](Canvas& canvas) {
+    saveLetter(files.path() / "a.pdf", [](Canvas& canvas) {
         canvas.line({1.0, 10.0}, {3.0, 9.0}, kBroad);
         canvas.newPage();
         canvas.newPage();
@@ -105,7 +112,7 @@ TEST(PdfFiles, HaveLetterPagesAndNameTheProgram) {
 TEST(PictureFiles, OfAnotherExtensionAreFaultFiveAndNoFile) {
     const TemporaryFolder files;
     bool called = false;
-    EXPECT_EQ(faultOf([&] { savePicture(files.path() / "a.jpg", [&](Canvas&) { called = true; }); }),
+    EXPECT_EQ(faultOf([&] { saveLetter(files.path() / "a.jpg", [&](Canvas&) { called = true; }); }),
               fault::kInvalidCall);
     EXPECT_FALSE(called);
     EXPECT_FALSE(std::filesystem::exists(files.path() / "a.jpg"));
@@ -115,12 +122,11 @@ TEST(PictureFiles, ThatFailLeaveWhatStoodThere) {
     const TemporaryFolder files;
     for (const char* const name : {"a.png", "a.pdf", "a.bmp"}) {
         files.write(name, "old");
-        EXPECT_EQ(
-            faultOf([&] { savePicture(files.path() / name, [](Canvas&) { raise(fault::kOverflow); }); }),
-            fault::kOverflow);
+        EXPECT_EQ(faultOf([&] { saveLetter(files.path() / name, [](Canvas&) { raise(fault::kOverflow); }); }),
+                  fault::kOverflow);
         EXPECT_EQ(files.read(name), "old");
     }
-    EXPECT_EQ(faultOf([&] { savePicture(files.path() / "missing" / "a.png", [](Canvas&) {}); }),
+    EXPECT_EQ(faultOf([&] { saveLetter(files.path() / "missing" / "a.png", [](Canvas&) {}); }),
               fault::kPathAccess);
 }
 
@@ -128,10 +134,11 @@ TEST(Bitmaps, ShowTheirPartOfThePageAsLargeAsAWholeOne) {
     const TemporaryFolder files;
     const auto path = files.path() / "part.dat";
     // A quarter of the page, from x = 2 on, its top at y = 9: everything appears four times as large.
-    saveBitmap(path, {2.0, 9.0, 2.0 + 8.5 / 4.0, 9.0 - 11.0 / 4.0}, [](Canvas& canvas) {
+    const auto draw = [](Canvas& canvas) {
         canvas.rectangle({2.5, 8.5, 3.0, 8.25}, colours::kBlack, std::nullopt);
         canvas.rectangle({0.5, 8.5, 1.0, 8.25}, colours::kBlack, std::nullopt);
-    });
+    };
+    saveBitmap(path, {papers::kLetter, draw}, {2.0, 9.0, 2.0 + 8.5 / 4.0, 9.0 - 11.0 / 4.0});
     EXPECT_TRUE(files.read("part.dat").starts_with("BM"));
     const QImage picture = load(path);
     EXPECT_EQ(picture.size(), QSize(1275, 1650));

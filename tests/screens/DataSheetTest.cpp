@@ -1,8 +1,10 @@
 #include <QImage>
 #include <QScrollBar>
+#include <QWheelEvent>
 
+#include "documents/SheetRecords.h"
+#include "screens/DrawingView.h"
 #include "screens/Program.h"
-#include "screens/SheetView.h"
 
 using namespace norlaplan;
 using namespace norlaplan::testing;
@@ -21,12 +23,20 @@ struct Sheet : Program {
         click(forms::kMainMenu, "Command9");
     }
     std::filesystem::path file(const char* name) const { return files.path() / name; }
-    SheetView& view() { return dynamic_cast<SheetView&>(control<QWidget>(forms::kDataSheet, "Picture2")); }
-    void drag(QPoint from, QPoint to) {
-        QTest::mousePress(&view(), Qt::LeftButton, {}, from);
-        QTest::mouseMove(&view(), to);
-        QTest::mouseRelease(&view(), Qt::LeftButton, {}, to);
+    QWidget& picture() { return control<QWidget>(forms::kDataSheet, "Picture2"); }
+    DrawingView& view() { return dynamic_cast<DrawingView&>(*picture().parentWidget()); }
+    QScrollBar& bar(const char* name) { return control<QScrollBar>(forms::kDataSheet, name); }
+    void drag(QPoint from, QPoint to, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mousePress(&picture(), button, {}, from);
+        QTest::mouseMove(&picture(), to);
+        QTest::mouseRelease(&picture(), button, {}, to);
     }
+    void turnWheel(QPoint at, int notches) {
+        QWheelEvent turn(at, picture().mapToGlobal(at), {}, {0, 120 * notches}, Qt::NoButton, Qt::NoModifier,
+                         Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&picture(), &turn);
+    }
+    double across() { return view().area().right - view().area().left; }
 };
 
 }  // namespace
@@ -52,8 +62,8 @@ class DataSheetTest : public QObject {
 
     void the_page_is_painted_in_its_own_shape_on_white() {
         Sheet sheet;
-        QCOMPARE(sheet.view().pageHeight(), qRound(sheet.view().width() * 11.0 / 8.5));
-        const QImage picture = sheet.view().grab().toImage();
+        QCOMPARE(sheet.view().pixelsPerInch(), sheet.picture().width() / 8.5);
+        const QImage picture = sheet.picture().grab().toImage();
         QCOMPARE(picture.pixelColor(3, 3), QColor(Qt::white));
         int dark = 0;
         for (int y = 0; y < picture.height(); ++y) {
@@ -75,7 +85,20 @@ class DataSheetTest : public QObject {
         sheet.saveDialog.choice = SaveChoice{sheet.file("again.rtf"), 1};
         sheet.click(forms::kDataSheet, "Command3");
         QCOMPARE(sheet.lastMessage().title, std::string("Run-time error '53'"));
+        const std::string& told = sheet.lastMessage().prompt;
+        QVERIFY(told.starts_with("File not found"));
+        QVERIFY(told.find("moved to " + sheet.file("mine.rtf").string()) != std::string::npos);
+        QVERIFY(told.find("enter the part number again") != std::string::npos);
         QCOMPARE(sheet.state.lastSavedFile, sheet.file("mine.rtf").string());
+    }
+
+    void a_sheet_that_went_another_way_is_the_bare_file_error() {
+        Sheet sheet;
+        std::filesystem::remove(sheet.file("DATA.RTF"));
+        sheet.saveDialog.choice = SaveChoice{sheet.file("mine.rtf"), 1};
+        sheet.click(forms::kDataSheet, "Command3");
+        QCOMPARE(sheet.lastMessage().title, std::string("Run-time error '53'"));
+        QVERIFY(sheet.lastMessage().prompt.find("moved to") == std::string::npos);
     }
 
     void the_save_dialog_is_asked_as_stated() {
@@ -122,12 +145,19 @@ class DataSheetTest : public QObject {
         sheet.click(forms::kDataSheet, "Command4");
         QCOMPARE(sheet.printer.documents.size(), std::size_t{1});
         QVERIFY(sheet.printer.canvas.hasText("K19013XP0"));
-        QVERIFY(!sheet.printer.canvas.lines.empty());
+        QCOMPARE(sheet.printer.documents[0], std::string("Data sheet K19013XP0"));
+        QCOMPARE(sheet.printer.papers[0], papers::kLetter);
+        // What is printed is what the records say, from the first to the last.
+        RecordingCanvas expected;
+        paintSheet(sheet.files.read("CONDENSED.DAT"), expected);
+        QCOMPARE(sheet.printer.canvas.lines.size(), expected.lines.size());
+        QCOMPARE(sheet.printer.canvas.texts.size(), expected.texts.size());
+        QCOMPARE(sheet.printer.canvas.texts.back().text, expected.texts.back().text);
     }
 
     void a_frame_becomes_the_zoom_in_the_shape_of_the_page_and_redraw_shows_it_whole() {
         Sheet sheet;
-        const int width = sheet.view().width();
+        const int width = sheet.picture().width();
         sheet.drag({width / 4, 100}, {width / 2, 110});
         const PageBox area = sheet.view().area();
         QVERIFY(std::abs((area.right - area.left) - 8.5 / 4.0) < 0.05);
@@ -141,7 +171,8 @@ class DataSheetTest : public QObject {
 
     void a_frame_never_leaves_the_page() {
         Sheet sheet;
-        sheet.drag({sheet.view().width() - 60, 20}, {sheet.view().width() + 500, 600});
+        const int width = sheet.picture().width();
+        sheet.drag({width - 60, 20}, {width + 500, 600});
         QVERIFY(sheet.view().area().right <= 8.5 + 1e-9);
         QVERIFY(sheet.view().area().bottom >= -1e-9);
     }
@@ -154,20 +185,132 @@ class DataSheetTest : public QObject {
 
     void the_rubber_frame_is_four_lines_while_dragging() {
         Sheet sheet;
-        QTest::mousePress(&sheet.view(), Qt::LeftButton, {}, {50, 50});
-        QTest::mouseMove(&sheet.view(), {250, 200});
+        QTest::mousePress(&sheet.picture(), Qt::LeftButton, {}, {50, 50});
+        QTest::mouseMove(&sheet.picture(), {250, 200});
         for (const char* const line : {"Line1", "Line2", "Line3", "Line4"})
             QVERIFY(sheet.control<QWidget>(forms::kDataSheet, line).isVisible());
-        QTest::mouseRelease(&sheet.view(), Qt::LeftButton, {}, {250, 200});
+        QTest::mouseRelease(&sheet.picture(), Qt::LeftButton, {}, {250, 200});
         for (const char* const line : {"Line1", "Line2", "Line3", "Line4"})
             QVERIFY(!sheet.control<QWidget>(forms::kDataSheet, line).isVisible());
     }
 
-    void the_scroll_bar_covers_the_part_of_the_page_that_does_not_fit() {
+    void the_scroll_bars_cover_the_part_of_the_page_that_does_not_fit() {
         Sheet sheet;
-        auto& bar = sheet.control<QScrollBar>(forms::kDataSheet, "VScroll1");
-        QCOMPARE(bar.maximum(), std::max(0, sheet.view().pageHeight() - sheet.view().height()));
-        QVERIFY(bar.focusPolicy() & Qt::TabFocus);
+        const double zoom = sheet.view().pixelsPerInch();
+        QCOMPARE(sheet.bar("VScroll1").maximum(), qRound(11.0 * zoom) - sheet.picture().height());
+        QCOMPARE(sheet.bar("HScroll1").maximum(), 0);
+        QVERIFY(sheet.bar("VScroll1").focusPolicy() & Qt::TabFocus);
+        QTest::keyClick(&sheet.picture(), Qt::Key_Plus);
+        QCOMPARE(sheet.view().pixelsPerInch(), zoom * 1.25);
+        QCOMPARE(sheet.bar("HScroll1").maximum(), qRound(8.5 * zoom * 1.25) - sheet.picture().width());
+        sheet.bar("HScroll1").setValue(sheet.bar("HScroll1").maximum());
+        QVERIFY(std::abs(sheet.view().area().right - 8.5) < 0.01);
+    }
+
+    void a_sheet_starts_at_its_top_as_wide_as_the_view() {
+        Sheet sheet;
+        sheet.bar("VScroll1").setValue(100);
+        QTest::keyClick(&sheet.picture(), Qt::Key_Plus);
+        sheet.click(forms::kDataSheet, "Command2");
+        QCOMPARE(sheet.bar("VScroll1").value(), 0);
+        QCOMPARE(sheet.across(), 8.5);
+    }
+
+    void the_wheel_zooms_at_the_pointer() {
+        Sheet sheet;
+        const QPoint at(sheet.picture().width() * 2 / 3, 150);
+        const PagePoint before = sheet.view().pageAt(at);
+        sheet.turnWheel(at, 3);
+        QVERIFY(sheet.across() < 5.0);
+        const PagePoint after = sheet.view().pageAt(at);
+        QVERIFY(std::abs(after.x - before.x) < 0.01);
+        QVERIFY(std::abs(after.y - before.y) < 0.01);
+        sheet.turnWheel(at, -30);
+        QVERIFY(sheet.view().pixelsPerInch() * 11.0 <= sheet.picture().height() + 1.0);
+    }
+
+    void the_middle_button_moves_the_page() {
+        Sheet sheet;
+        sheet.turnWheel({300, 100}, 4);
+        const PagePoint before = sheet.view().pageAt({200.0, 150.0});
+        sheet.drag({200, 150}, {150, 130}, Qt::MiddleButton);
+        const PagePoint after = sheet.view().pageAt({150.0, 130.0});
+        QVERIFY(std::abs(after.x - before.x) < 0.01);
+        QVERIFY(std::abs(after.y - before.y) < 0.01);
+    }
+
+    void with_space_the_left_button_moves_the_page_and_draws_no_frame() {
+        Sheet sheet;
+        sheet.turnWheel({300, 100}, 4);
+        const double zoom = sheet.view().pixelsPerInch();
+        const PagePoint before = sheet.view().pageAt({200.0, 150.0});
+        QTest::keyPress(&sheet.picture(), Qt::Key_Space);
+        sheet.drag({200, 150}, {150, 130});
+        QTest::keyRelease(&sheet.picture(), Qt::Key_Space);
+        QCOMPARE(sheet.view().pixelsPerInch(), zoom);
+        QVERIFY(std::abs(sheet.view().pageAt({150.0, 130.0}).x - before.x) < 0.01);
+        sheet.drag({100, 100}, {300, 200});
+        QVERIFY(sheet.view().pixelsPerInch() > zoom);
+    }
+
+    void the_page_is_shown_whole_or_as_wide_as_the_view() {
+        Sheet sheet;
+        for (const char* const way : {"button", "key"}) {
+            if (way == std::string("button"))
+                sheet.click(forms::kDataSheet, "WholePage");
+            else
+                QTest::keyClick(&sheet.picture(), Qt::Key_0);
+            QCOMPARE(sheet.bar("VScroll1").maximum(), 0);
+            QCOMPARE(sheet.view().pixelsPerInch(), sheet.picture().height() / 11.0);
+            // The page stands in the middle of its desk.
+            const double left = sheet.view().pageAt({0.0, 0.0}).x;
+            const double right = sheet.view().pageAt({double(sheet.picture().width()), 0.0}).x;
+            QVERIFY(left < -0.5);
+            QVERIFY(std::abs(left + right - 8.5) < 1e-6);
+            sheet.click(forms::kDataSheet, "PageWidth");
+            QCOMPARE(sheet.across(), 8.5);
+            QCOMPARE(sheet.view().pixelsPerInch(), sheet.picture().width() / 8.5);
+        }
+        sheet.click(forms::kDataSheet, "ZoomIn");
+        sheet.click(forms::kDataSheet, "ZoomOut");
+        QVERIFY(std::abs(sheet.view().pixelsPerInch() - sheet.picture().width() / 8.5) < 1e-9);
+    }
+
+    void what_is_seen_is_the_part_of_the_page_that_the_bars_say() {
+        Sheet sheet;
+        // A thick line in a corner of an otherwise empty page.
+        sheet.files.write("CONDENSED.DAT", "RTFLINE\r\n7 1 8 1 255 95250\r\nALLDONE\r\n");
+        sheet.click(forms::kDataSheet, "Command2");
+        const auto red = [&] {
+            const QImage seen = sheet.picture().grab().toImage();
+            const PagePoint corner = sheet.view().pageAt({0.0, 0.0});
+            const double zoom = sheet.view().pixelsPerInch();
+            return seen.pixelColor(qRound((7.5 - corner.x) * zoom), qRound((corner.y - 1.0) * zoom)) ==
+                   QColor(Qt::red);
+        };
+        QTest::keyClick(&sheet.picture(), Qt::Key_End);
+        QVERIFY(red());
+        sheet.turnWheel({sheet.picture().width() - 80, sheet.picture().height() - 60}, 2);
+        QVERIFY(red());
+        sheet.click(forms::kDataSheet, "WholePage");
+        QVERIFY(red());
+    }
+
+    void the_saved_bitmap_is_what_the_view_looks_at() {
+        Sheet sheet;
+        sheet.files.write("CONDENSED.DAT", "RTFLINE\r\n0 5.5 8.5 5.5 255 95250\r\nALLDONE\r\n");
+        sheet.click(forms::kDataSheet, "Command2");
+        const int width = sheet.picture().width();
+        const double zoom = sheet.view().pixelsPerInch();
+        sheet.drag({width / 4, qRound(1.0 * zoom)}, {width * 3 / 4, qRound(1.5 * zoom)});
+        const PageBox area = sheet.view().area();
+        sheet.saveDialog.choice = SaveChoice{sheet.file("part.bmp"), 2};
+        sheet.click(forms::kDataSheet, "Command3");
+        const QImage saved(QString::fromStdString(sheet.file("part.bmp").string()));
+        const double dots = saved.width() / (area.right - area.left);
+        QCOMPARE(saved.pixelColor(saved.width() / 2, qRound((area.top - 5.5) * dots)), QColor(Qt::red));
+        QCOMPARE(saved.pixelColor(saved.width() / 2, qRound((area.top - 5.5) * dots / 2.0)),
+                 QColor(Qt::white));
     }
 
     void redraw_shows_what_a_new_decode_has_written() {
@@ -175,7 +318,7 @@ class DataSheetTest : public QObject {
         sheet.files.write("CONDENSED.DAT", "ALLDONE\n");
         sheet.click(forms::kDataSheet, "Command2");
         QVERIFY(sheet.messages.shown.empty());
-        const QImage picture = sheet.view().grab().toImage();
+        const QImage picture = sheet.picture().grab().toImage();
         QCOMPARE(picture.pixelColor(picture.width() / 2, picture.height() / 2), QColor(Qt::white));
     }
 

@@ -46,7 +46,7 @@ class FilesTest : public QObject {
     void a_picture_has_the_shape_and_the_places_of_the_page() {
         TemporaryFolder files;
         for (const char* const name : {"page.png", "page.BMP"}) {
-            savePicture(files.path() / name, drawCross);
+            savePicture(files.path() / name, {papers::kLetter, drawCross});
             const QImage picture(QString::fromStdString((files.path() / name).string()));
             QCOMPARE(picture.width() * 11, picture.height() * 17 / 2);
             QCOMPARE(picture.pixelColor(picture.width() / 4, picture.height() / 2), QColor(Qt::red));
@@ -61,7 +61,7 @@ class FilesTest : public QObject {
             canvas.newPage();
             drawCross(canvas);
         };
-        savePicture(files.path() / "pages.png", draw);
+        savePicture(files.path() / "pages.png", {papers::kLetter, draw});
         const QImage picture(QString::fromStdString((files.path() / "pages.png").string()));
         QCOMPARE(picture.width() * 22, picture.height() * 17 / 2);
         QCOMPARE(picture.pixelColor(picture.width() / 4, picture.height() / 4), QColor(Qt::white));
@@ -70,15 +70,44 @@ class FilesTest : public QObject {
 
     void a_pdf_is_one_and_of_letter_size() {
         TemporaryFolder files;
-        savePicture(files.path() / "page.pdf", drawCross);
+        savePicture(files.path() / "page.pdf", {papers::kLetter, drawCross});
         const std::string content = files.read("page.pdf");
         QVERIFY(content.starts_with("%PDF"));
         QVERIFY(content.find("612") != std::string::npos && content.find("792") != std::string::npos);
     }
 
+    void a_drawing_in_landscape_lies_across_the_page_in_every_file() {
+        TemporaryFolder files;
+        const auto mark = [](Canvas& canvas) {
+            canvas.line({0.0, 8.0}, {11.0, 8.0}, {colours::kRed, 95250.0, 0});
+        };
+        const Drawing drawing{papers::kLetterLandscape, mark};
+        savePicture(files.path() / "wide.png", drawing);
+        const QImage picture(QString::fromStdString((files.path() / "wide.png").string()));
+        QCOMPARE(picture.size(), QSize(1650, 1275));
+        QCOMPARE(picture.pixelColor(1600, 75), QColor(Qt::red));
+        savePicture(files.path() / "wide.pdf", drawing);
+        const std::string content = files.read("wide.pdf");
+        QVERIFY(content.find("[0 0 792") != std::string::npos);
+    }
+
+    void a_part_of_a_page_fills_its_bitmap_whatever_the_files_name() {
+        TemporaryFolder files;
+        // The right half of the cross above the middle: its left edge is the upright line.
+        saveBitmap(files.path() / "part", {papers::kLetter, drawCross}, {4.25, 11.0, 8.5, 5.5});
+        const QImage picture(QString::fromStdString((files.path() / "part").string()), "BMP");
+        QCOMPARE(picture.size(), QSize(1275, 1650));
+        QCOMPARE(picture.pixelColor(1, 800), QColor(Qt::blue));
+        QCOMPARE(picture.pixelColor(600, 1648), QColor(Qt::red));
+        QCOMPARE(picture.pixelColor(600, 800), QColor(Qt::white));
+    }
+
     void another_extension_is_refused_and_nothing_is_written() {
         TemporaryFolder files;
-        QCOMPARE(faultOf([&] { savePicture(files.path() / "page.gif", drawCross); }), fault::kInvalidCall);
+        QCOMPARE(faultOf([&] {
+                     savePicture(files.path() / "page.gif", {papers::kLetter, drawCross});
+                 }),
+                 fault::kInvalidCall);
         QVERIFY(std::filesystem::is_empty(files.path()));
     }
 
@@ -86,7 +115,8 @@ class FilesTest : public QObject {
         TemporaryFolder files;
         files.write("page.png", "old");
         QCOMPARE(faultOf([&] {
-                     savePicture(files.path() / "page.png", [](Canvas&) { raise(fault::kOverflow); });
+                     savePicture(files.path() / "page.png",
+                                 {papers::kLetter, [](Canvas&) { raise(fault::kOverflow); }});
                  }),
                  fault::kOverflow);
         QCOMPARE(files.read("page.png"), std::string("old"));

@@ -34,7 +34,7 @@ class PictureModuleTest : public QObject {
         char text[200] = "";
         for (const char* const name : {"sheet.pdf", "sheet.png", "sheet.bmp"}) {
             const std::string path = (files.path() / name).string();
-            QCOMPARE(save(path.c_str(), &drawText, &words, text, sizeof text), 0);
+            QCOMPARE(save(path.c_str(), papers::kLetter, &drawText, &words, text, sizeof text), 0);
         }
         QVERIFY(files.read("sheet.pdf").starts_with("%PDF"));
         QVERIFY(files.read("sheet.png").starts_with("\x89PNG"));
@@ -47,11 +47,13 @@ class PictureModuleTest : public QObject {
         const TemporaryFolder files;
         char text[200] = "";
         const std::string path = (files.path() / "sheet.pdf").string();
-        QCOMPARE(save(path.c_str(), &failToDraw, nullptr, text, sizeof text), fault::kOverflow);
+        QCOMPARE(save(path.c_str(), papers::kLetter, &failToDraw, nullptr, text, sizeof text),
+                 fault::kOverflow);
         QCOMPARE(std::string(text), std::string("Overflow"));
         QVERIFY(!std::filesystem::exists(path));
         char few[5] = "";
-        QCOMPARE(save(path.c_str(), &failToDraw, nullptr, few, sizeof few), fault::kOverflow);
+        QCOMPARE(save(path.c_str(), papers::kLetter, &failToDraw, nullptr, few, sizeof few),
+                 fault::kOverflow);
         QCOMPARE(std::string(few), std::string("Over"));
     }
 };

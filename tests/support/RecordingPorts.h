@@ -112,11 +112,13 @@ class RecordingPrinter : public PrinterPort {
   public:
     bool accepts = true;  ///< false: the user cancels the print dialog
     std::vector<std::string> documents;
+    std::vector<Paper> papers;  ///< one for each document
     RecordingCanvas canvas;
-    bool print(const std::string& documentName, const std::function<void(Canvas&)>& draw) override {
+    bool print(const std::string& documentName, const Drawing& drawing) override {
         if (!accepts) return false;
         documents.push_back(documentName);
-        draw(canvas);
+        papers.push_back(drawing.paper);
+        drawing.draw(canvas);
         return true;
     }
 };

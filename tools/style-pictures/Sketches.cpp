@@ -40,16 +40,24 @@ void loadArrow(QPainter& painter, QPointF tail, QPointF tip, const QString& name
     painter.drawText(label, name);
 }
 
+/// An arrow that turns about `centre`, which is marked: the moment tilts the bearing about its middle.
 void momentArc(QPainter& painter, QPointF centre, double radius) {
+    constexpr double kFrom = -20.0;
+    constexpr double kTo = 46.0;
+    constexpr double kHead = 7.0;  // degrees that the arrow head covers
     painter.setPen(QPen(kLoadColour, 3.0, Qt::SolidLine, Qt::FlatCap));
     const QRectF circle(centre - QPointF(radius, radius), QSizeF(2.0 * radius, 2.0 * radius));
-    painter.drawArc(circle, -60 * 16, 120 * 16);
+    painter.drawArc(circle, static_cast<int>(kFrom * 16), static_cast<int>((kTo - kFrom - kHead / 2.0) * 16));
     painter.setPen(QPen(kLoadColour, 1.0));
-    const double end = 60.0 * M_PI / 180.0;
-    arrowHead(painter, centre + radius * QPointF(std::cos(end), -std::sin(end)) - QPointF(3.0, 4.0), 212.0,
+    const double end = kTo * M_PI / 180.0;
+    // The head lies along the chord from where it begins, so that it follows the arc.
+    arrowHead(painter, centre + radius * QPointF(std::cos(end), -std::sin(end)), -90.0 - kTo + kHead / 2.0,
               15.0);
+    painter.setBrush(kLoadColour);
+    painter.drawEllipse(centre, 4.0, 4.0);
+    painter.setBrush(Qt::NoBrush);
     useFont(painter, 15.0);
-    painter.drawText(centre + QPointF(radius + 8.0, 5.0), "MOMENT");
+    painter.drawText(centre + QPointF(radius + 6.0, -34.0), "MOMENT");
 }
 
 /// A dimension line between two points with arrows at its ends and a name in its middle, or beside it.
@@ -95,7 +103,7 @@ void drawLoads(QPainter& painter, const Style& style) {
     if (style.radialOnly) return;
     loadArrow(painter, {section.left - 66.0, upper.y()}, {section.left - 4.0, upper.y()}, "AXIAL",
               {section.left - 70.0, upper.y() - 12.0});
-    momentArc(painter, {section.right - 6.0, kAxis - 60.0}, 78.0);
+    momentArc(painter, {upper.x(), kAxis}, 124.0);
 }
 
 void drawSizes(QPainter& painter, const Style& style) {

@@ -22,7 +22,7 @@ class QtSaveDialog : public SaveDialogPort {
 /// PDF file.
 class QtPrinter : public PrinterPort {
   public:
-    bool print(const std::string& documentName, const std::function<void(Canvas&)>& draw) override;
+    bool print(const std::string& documentName, const Drawing& drawing) override;
 };
 
 /// Date and time of now in the user's locale, short form.

@@ -1,5 +1,4 @@
 #include <QApplication>
-#include <QPageLayout>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -11,20 +10,19 @@
 
 namespace norlaplan {
 
-bool QtPrinter::print(const std::string& documentName, const std::function<void(Canvas&)>& draw) {
+bool QtPrinter::print(const std::string& documentName, const Drawing& drawing) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(QString::fromStdString(documentName));
     printer.setFullPage(true);
-    printer.setPageSize(QPageSize(QPageSize::Letter));
-    printer.setPageOrientation(QPageLayout::Portrait);
+    printer.setPageLayout(pageLayoutOf(drawing.paper));
     QPrintDialog dialog(&printer, QApplication::activeWindow());
     if (dialog.exec() != QDialog::Accepted) return false;
 
     const BusyPointer busy;
     QPainter painter;
     if (!painter.begin(&printer)) raise(fault::kDeviceIo);
-    PainterCanvas canvas(painter, printer.resolution(), [&printer] { printer.newPage(); });
-    draw(canvas);
+    PainterCanvas canvas(painter, drawing.paper, printer.resolution(), [&printer] { printer.newPage(); });
+    drawing.draw(canvas);
     if (!painter.end() || printer.printerState() == QPrinter::Error) raise(fault::kDeviceIo);
     return true;
 }

@@ -1,0 +1,84 @@
+#include "documents/SectionDrawing.h"
+
+#include <utility>
+
+#include "documents/OverlayReader.h"
+
+namespace norlaplan {
+namespace {
+
+// Where the sheet has its section, a hair larger than the rings, that of a set, and the view of the
+// separator.
+constexpr PageBox kSection{2.91, 8.84, 4.99, 6.76};
+constexpr PageBox kSetSection{3.41, 8.84, 4.49, 6.76};
+constexpr PageBox kSeparator{6.35, 6.15, 8.15, 5.05};
+/// From the middle of the section to that of the separator.
+constexpr double kBeside = 2.4;
+
+/// Which separator drawing a style takes.
+const char* separatorSuffix(const std::string& styleLetter) {
+    if (styleLetter == "X" || styleLetter == "C") return "XC";
+    return styleLetter == "U" ? "U" : "A";
+}
+
+PagePoint middleOf(const PageBox& box) {
+    return {(box.left + box.right) / 2.0, (box.top + box.bottom) / 2.0};
+}
+
+/// Moves lines and circles of a field elsewhere; gives false for what lies outside the field or isn't one.
+class Mover {
+  public:
+    Mover(const PageBox& field, PagePoint to)
+        : field_(field), right_(to.x - middleOf(field).x), up_(to.y - middleOf(field).y) {}
+
+    bool operator()(SheetLine& line) const {
+        const bool begins = move(line.from);
+        const bool ends = move(line.to);
+        return begins && ends;
+    }
+    bool operator()(SheetCircle& circle) const { return move(circle.centre); }
+    template <typename Other>
+    bool operator()(Other&) const {
+        return false;
+    }
+
+  private:
+    bool move(PagePoint& point) const {
+        const bool inside = point.x >= field_.left && point.x <= field_.right && point.y >= field_.bottom &&
+                            point.y <= field_.top;
+        point = {point.x + right_, point.y + up_};
+        return inside;
+    }
+
+    PageBox field_;
+    double right_, up_;
+};
+
+void drawField(Canvas& canvas, const std::vector<SheetRecord>& records, const PageBox& field,
+               PagePoint centre) {
+    const Mover mover(field, centre);
+    std::vector<SheetRecord> moved;
+    for (SheetRecord record : records) {
+        if (std::visit(mover, record)) moved.push_back(std::move(record));
+    }
+    paintRecords(moved, canvas);
+}
+
+}  // namespace
+
+void writeOverlays(RtfDocument& document, const BearingSpec& bearing, const ProgramFolder& folder) {
+    OverlayToRtf(document, folder.read("\\overlays\\" + bearing.styleLetter + ".ovl"));
+    OverlayToRtf(document, folder.read("\\overlays\\" + bearing.separatorOverlay +
+                                       separatorSuffix(bearing.styleLetter) + ".sep"));
+}
+
+void drawSection(Canvas& canvas, const BearingSpec& bearing, const ProgramFolder& folder, PagePoint centre) {
+    RtfDocument document;
+    writeOverlays(document, bearing, folder);
+    const std::vector<SheetRecord> records = readSheetRecords(document.records());
+    const bool set = bearing.styleLetter == "B" || bearing.styleLetter == "F" || bearing.styleLetter == "T";
+    drawField(canvas, records, set ? kSetSection : kSection, centre);
+    drawField(canvas, records, kSeparator, {centre.x + kBeside, centre.y});
+}
+
+}  // namespace norlaplan

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "documents/RTFroutines.h"
+#include "state/BearingSpec.h"
+#include "state/ProgramFolder.h"
+
+namespace norlaplan {
+
+/// Writes the drawing of the bearing's style and that of its separator as they stand on the data sheet, from
+/// the program's overlays. Error 53 for one that is missing.
+void writeOverlays(RtfDocument& document, const BearingSpec& bearing, const ProgramFolder& folder);
+
+/// Height of what `drawSection` draws, inches.
+constexpr double kSectionHeight = 2.0;
+
+/// Draws the data sheet's section through rings and balls, without its dimensions, around a place on the
+/// page, and beside it the sheet's view of the separator. Error 53 for a missing overlay.
+void drawSection(Canvas& canvas, const BearingSpec& bearing, const ProgramFolder& folder, PagePoint centre);
+
+}  // namespace norlaplan
