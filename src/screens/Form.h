@@ -3,16 +3,28 @@
 #include <QWidget>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "screens/FormRegistry.h"
 #include "screens/Services.h"
 
+class QMenuBar;
+class QPushButton;
+class QScrollArea;
+class QVBoxLayout;
+
 namespace norlaplan {
 
+class FlowRow;
 class Screens;
 
 /// A screen of the program: a window of its own, made on first use and kept, hidden, from then on. Its
 /// controls carry their names ("Command3") as object names.
+///
+/// A form puts its controls on the page and its buttons into the footer. The window takes the program's width
+/// and the height that its contents want, follows them when they grow or shrink, and never leaves the screen:
+/// where the room is too small the page scrolls and the footer stays in view. A size that the user has given
+/// the window is kept.
 class Form : public QWidget {
   public:
     Form(Screens& screens, FormName name, const QString& caption);
@@ -23,33 +35,74 @@ class Form : public QWidget {
     /// says otherwise.
     virtual void cameBack() {}
 
-    /// The form is about to appear in the middle of a screen with this room. Unless a form says otherwise it
-    /// takes the size of its contents the first time and then keeps the user's.
-    virtual void fitToScreen(const QRect& room);
-
     /// What closing the window does; unless a form says otherwise it goes back to the one before.
     virtual void closed();
 
+    /// The form is about to appear on a screen with this room: gives it its size, and its buttons the letters
+    /// that press them.
+    void prepareToShow(const QRect& room);
+
+    QSize sizeHint() const override;
+
   protected:
+    /// The buttons under a page, in the one order of all forms: the main menu at the left, then from the
+    /// right end the one that leads on, the others, and the one that goes back. Enter presses the main one.
+    struct Footer {
+        QPushButton* mainMenu = nullptr;
+        QPushButton* previous = nullptr;
+        std::vector<QPushButton*> others = {};
+        QPushButton* main = nullptr;
+    };
+    enum class Width { Program, Own };  ///< the width that forms share, or that of the contents
+
     Screens& screens() const { return screens_; }
     const Services& services() const;
     ProgramState& state() const;
 
-    /// Runs `action` at the click of a button or another signal, inside the one boundary for failures. `name`
-    /// is what the user is told when it fails.
+    /// Where the form's controls go.
+    QVBoxLayout& page();
+    void setFooter(const Footer& buttons);
+    void setMenus(QMenuBar* menus);
+    void setWidth(Width width) { width_ = width; }
+    /// The button that Enter presses when the focus is on no other.
+    void setMainButton(QPushButton& button);
+
+    /// Makes a button whose click runs `action` inside the boundary, under the name of its caption.
+    QPushButton* button(const char* name, const QString& caption, const QString& tip,
+                        std::function<void()> action);
+
+    /// Runs `action` at a signal, inside the one boundary for failures. `name` is what the user is told when
+    /// it fails.
     template <typename Sender, typename Signal>
-    void on(Sender* sender, Signal signal, const char* name, std::function<void()> action) {
+    void on(Sender* sender, Signal signal, const std::string& name, std::function<void()> action) {
         connect(sender, signal, this, [this, name, action = std::move(action)] { run(name, action); });
     }
-    void run(const char* name, const std::function<void()>& action);
+    void run(const std::string& name, const std::function<void()>& action);
+
+    /// The size in which the form appears, within that of the room.
+    virtual QSize sizeFor(const QSize& room) const;
+    /// What Escape does; as closing the window unless a form says otherwise.
+    virtual void escaped() { closed(); }
 
     void closeEvent(QCloseEvent* event) override;
-    /// Enter presses the button that has the focus.
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void fitTo(const QSize& room);
+    void followContents();
+    void orderTabs();
+
     Screens& screens_;
-    bool fitted_ = false;
+    QVBoxLayout* outer_;
+    QScrollArea* scroll_ = nullptr;
+    QWidget* page_ = nullptr;
+    QWidget* footer_ = nullptr;
+    QMenuBar* menus_ = nullptr;
+    QPushButton* main_ = nullptr;
+    std::vector<QPushButton*> footerTabs_;
+    Width width_ = Width::Program;
+    QSize fitted_;  ///< the size that the form gave itself; any other is the user's
 };
 
 }  // namespace norlaplan

@@ -45,7 +45,7 @@ Form1::Form1(Screens& screens) : Form(screens, forms::kStart, "Form1") {
     purpose_ = build::heading("Label3", "Bearing Design Program");
     purpose_->setAlignment(Qt::AlignCenter);
 
-    auto* const page = theme::spaced(new QVBoxLayout(this));
+    QVBoxLayout* const page = &this->page();
     page->addWidget(logo_, 1);
     page->addWidget(name);
     page->addWidget(purpose_);
@@ -61,16 +61,13 @@ Form1::Form1(Screens& screens) : Form(screens, forms::kStart, "Form1") {
 }
 
 QWidget* Form1::makeControls() {
-    start_ = build::button("Command1", "Start", "Run Software");
-    theme::makeMain(*start_);
-    auto* const warranty = build::button("Command2", "Warranty", "View Warranty and software limitations");
-    auto* const quit = build::button("Command3", "Quit", "Exit to Windows");
+    start_ = button("Command1", "Start", "Run Software", [this] { start(); });
+    setMainButton(*start_);
+    auto* const warranty =
+        button("Command2", "Warranty", "View Warranty and software limitations", [this] { showWarranty(); });
+    auto* const quit = button("Command3", "Quit", "Exit to Windows", [this] { screens().quit(); });
     auto* const begin = build::label("Label1", "Begin Program");
     auto* const terms = build::label("Label2", "Varden Warranty for this Software");
-
-    on(start_, &QPushButton::clicked, "Start", [this] { start(); });
-    on(warranty, &QPushButton::clicked, "Warranty", [this] { showWarranty(); });
-    on(quit, &QPushButton::clicked, "Quit", [this] { screens().quit(); });
 
     auto* const controls = new QWidget;
     auto* const grid = theme::spaced(new QGridLayout(controls), 0);

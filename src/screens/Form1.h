@@ -19,6 +19,10 @@ class Form1 : public Form {
 
     void closed() override;
 
+  protected:
+    /// There is nothing to go back to, and Escape doesn't end the program.
+    void escaped() override {}
+
   private:
     void start();
     void showWarranty();

@@ -25,33 +25,25 @@ Form12::Form12(Screens& screens) : Form(screens, forms::kSizes, "Bearing Size Se
     minHeight_ = new NumberField("Text3", "The bearing or set is at least this high", texts.minHeight);
     maxHeight_ = new NumberField("Text4", "The bearing or set is at most this high", texts.maxHeight);
     picture_ = new Picture("Picture1", "Bore, outer diameter and height of the chosen style", {480, 320});
-    previous_ = build::button("Command1", "<< &Previous", "Go back to style selection");
-    proceed_ = build::button("Command2", "Proceed to load input");
-    mainMenu_ = build::button("Command3", "&Main Menu", "Return to Main Menu");
+    previous_ = button("Command1", "<< &Previous", "Go back to style selection", [this] { goToPrevious(); });
+    proceed_ = button("Command2", "Proceed to load input", "", [this] { proceed(); });
+    mainMenu_ = button("Command3", "&Main Menu", "Return to Main Menu",
+                       [this] { this->screens().showAlone(forms::kMainMenu); });
 
     enterMovesTo(*minBore_, [this] { return maxOd_; });
     enterMovesTo(*maxOd_, [this] { return maxHeight_; });
     enterMovesTo(*maxHeight_, [this] { return minHeight_; });
     enterMovesTo(*minHeight_, [this]() -> QWidget* { return proceed_; });
-    on(previous_, &QPushButton::clicked, "Previous", [this] { goToPrevious(); });
-    on(proceed_, &QPushButton::clicked, "Proceed to load input", [this] { proceed(); });
-    on(mainMenu_, &QPushButton::clicked, "Main Menu",
-       [this] { this->screens().showAlone(forms::kMainMenu); });
-
-    auto* const grid = theme::spaced(new QGridLayout, 0);
-    const std::array<NumberField*, 4> fields = {minBore_, maxOd_, maxHeight_, minHeight_};
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-        grid->addWidget(labels_[i], static_cast<int>(i), 0);
-        grid->addWidget(fields[i], static_cast<int>(i), 1);
-    }
-    build::layOutEntry(*this, {picture_, grid, minHeight_, proceed_, previous_, mainMenu_});
+    build::layOutEntry(
+        page(), *picture_,
+        {{labels_[0], minBore_}, {labels_[1], maxOd_}, {labels_[2], maxHeight_}, {labels_[3], minHeight_}});
+    setFooter({.mainMenu = mainMenu_, .previous = previous_, .main = proceed_});
 }
 
 void Form12::opened() {
     showSizesAgain(state());
     refresh();
-    minBore_->setFocus();
-    minBore_->selectAll();
+    askAgain(*minBore_);
 }
 
 void Form12::refresh() {
@@ -78,6 +70,9 @@ void Form12::goToPrevious() {
 void Form12::proceed() {
     if (const auto message = enterSizes(state())) {
         services().messages.show(*message);
+        for (NumberField* const field : {minBore_, maxOd_, minHeight_, maxHeight_}) {
+            if (field->shows(state().entries.*message->field)) askAgain(*field);
+        }
         return;
     }
     refresh();

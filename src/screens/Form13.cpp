@@ -21,10 +21,9 @@ Form13::Form13(Screens& screens) : Form(screens, forms::kSort, "List Sort Option
     availability_ = build::option("Option4", "Availability");
     ascending_ = build::option("Option5", "Ascending");
     descending_ = build::option("Option6", "Decending");
-    process_ = build::button("Command1", "Process", "Sort the list and go back to it");
+    process_ = button("Command1", "Process", "Sort the list and go back to it", [this] { process(); });
     bore_->setChecked(true);
     ascending_->setChecked(true);
-    on(process_, &QPushButton::clicked, "Process", [this] { process(); });
 
     QGroupBox* const columns = build::frame("Frame1", "Sort by");
     auto* const columnBox = theme::spaced(new QVBoxLayout(columns));
@@ -38,9 +37,9 @@ Form13::Form13(Screens& screens) : Form(screens, forms::kSort, "List Sort Option
     auto* const frames = theme::spaced(new QHBoxLayout, 0);
     frames->addWidget(columns);
     frames->addWidget(order);
-    auto* const page = theme::spaced(new QVBoxLayout(this));
-    page->addLayout(frames);
-    page->addWidget(process_, 0, Qt::AlignRight);
+    setWidth(Width::Own);
+    page().addLayout(frames);
+    setFooter({.main = process_});
 }
 
 void Form13::opened() {

@@ -26,9 +26,10 @@ Form14::Form14(Screens& screens) : Form(screens, forms::kLoads, "Bearing Load In
     moment_ = new NumberField("Text3", "Overturning moment", texts.moment);
     speed_ = new NumberField("Text4", "Speed of the rotating ring; leave it empty for none", texts.speed);
     picture_ = new Picture("Picture1", "Directions of the loads on the bearing", {480, 320});
-    proceed_ = build::button("Command1", "Proceed to life calculation");
-    previous_ = build::button("Command2", "<< &Previous", "Return to size determination");
-    mainMenu_ = build::button("Command3", "&Main Menu", "Return to Main Menu");
+    proceed_ = button("Command1", "Proceed to life calculation", "", [this] { proceed(); });
+    previous_ =
+        button("Command2", "<< &Previous", "Return to size determination", [this] { goToPrevious(); });
+    mainMenu_ = button("Command3", "&Main Menu", "Return to Main Menu", [this] { goToMainMenu(); });
 
     const auto speedOrProceed = [this]() -> QWidget* {
         return speed_->isEnabled() ? static_cast<QWidget*>(speed_) : proceed_;
@@ -39,29 +40,16 @@ Form14::Form14(Screens& screens) : Form(screens, forms::kLoads, "Bearing Load In
     enterMovesTo(*axial_, [this] { return moment_; });
     enterMovesTo(*moment_, speedOrProceed);
     enterMovesTo(*speed_, [this]() -> QWidget* { return proceed_; });
-    on(proceed_, &QPushButton::clicked, "Proceed to life calculation", [this] { proceed(); });
-    on(previous_, &QPushButton::clicked, "Previous", [this] { goToPrevious(); });
-    on(mainMenu_, &QPushButton::clicked, "Main Menu", [this] { goToMainMenu(); });
-    layOut();
-}
-
-void Form14::layOut() {
-    auto* const grid = theme::spaced(new QGridLayout, 0);
-    int row = 0;
-    for (const auto& [label, field] : {std::pair{radialLabel_, radial_}, std::pair{axialLabel_, axial_},
-                                       std::pair{momentLabel_, moment_}, std::pair{speedLabel_, speed_}}) {
-        grid->addWidget(label, row, 0);
-        grid->addWidget(field, row, 1);
-        ++row;
-    }
-    build::layOutEntry(*this, {picture_, grid, speed_, proceed_, previous_, mainMenu_});
+    build::layOutEntry(
+        page(), *picture_,
+        {{radialLabel_, radial_}, {axialLabel_, axial_}, {momentLabel_, moment_}, {speedLabel_, speed_}});
+    setFooter({.mainMenu = mainMenu_, .previous = previous_, .main = proceed_});
 }
 
 void Form14::opened() {
     prepareLoadEntry(state());
     refresh();
-    radial_->setFocus();
-    radial_->selectAll();
+    askAgain(*radial_);
 }
 
 void Form14::refresh() {
@@ -96,8 +84,12 @@ void Form14::refresh() {
 bool Form14::enter() {
     const auto message = enterLoads(state());
     refresh();
-    if (message) services().messages.show(*message);
-    return !message.has_value();
+    if (!message) return true;
+    services().messages.show(*message);
+    for (NumberField* const field : {radial_, axial_, moment_, speed_}) {
+        if (field->shows(state().entries.*message->field)) askAgain(*field);
+    }
+    return false;
 }
 
 void Form14::proceed() {

@@ -19,7 +19,6 @@ class Form14 : public Form {
     void closed() override;
 
   private:
-    void layOut();
     void refresh();
     /// Reads the fields; false when a message was shown and the screen stays.
     bool enter();

@@ -35,43 +35,34 @@ QString text(const std::string& utf8) {
     return QString::fromStdString(utf8);
 }
 
-QGroupBox* frameOf(const char* name, const char* caption, const char* tip,
-                   std::initializer_list<QLabel*> labels) {
-    QGroupBox* const frame = build::frame(name, QString::fromUtf8(caption));
-    frame->setToolTip(QString::fromUtf8(tip));
-    auto* const column = theme::spaced(new QVBoxLayout(frame));
-    for (QLabel* const label : labels) {
-        label->setFont(theme::valueFont());
-        column->addWidget(label);
-    }
-    column->addStretch();
-    return frame;
-}
-
 }  // namespace
 
 Form15::Form15(Screens& screens) : Form(screens, forms::kResults, "Life Calculation Results") {
     layOut();
-    connectActions();
+    connectChoice();
 }
 
 QGroupBox* Form15::requirementsFrame() {
-    return frameOf("Frame1", "SIZE REQUIREMENTS", "Sizes entered to limit search",
-                   {minBore_ = build::label("Label1"), maxOd_ = build::label("Label2"),
-                    minHeight_ = build::label("Label3"), maxHeight_ = build::label("Label4")});
+    return build::labelFrame(
+        "Frame1", "SIZE REQUIREMENTS",
+        {minBore_ = build::valueLabel("Label1"), maxOd_ = build::valueLabel("Label2"),
+         minHeight_ = build::valueLabel("Label3"), maxHeight_ = build::valueLabel("Label4")},
+        "Sizes entered to limit search");
 }
 
 QGroupBox* Form15::loadsFrame() {
-    return frameOf("Frame2", "LOADS", "Loads entered for analysis",
-                   {radial_ = build::label("Label5"), axial_ = build::label("Label6"),
-                    moment_ = build::label("Label7"), speed_ = build::label("Label8")});
+    return build::labelFrame("Frame2", "LOADS",
+                             {radial_ = build::valueLabel("Label5"), axial_ = build::valueLabel("Label6"),
+                              moment_ = build::valueLabel("Label7"), speed_ = build::valueLabel("Label8")},
+                             "Loads entered for analysis");
 }
 
 QGroupBox* Form15::styleFrame() {
-    styleGroup_ = frameOf("Frame4", "BEARING STYLE", "Image of bearing style chosen for analysis", {});
+    styleGroup_ =
+        build::labelFrame("Frame4", "BEARING STYLE", {}, "Image of bearing style chosen for analysis");
     picture_ = new Picture("Image1", "Section of the chosen style", {200, 130});
     picture_->setToolTip("Image of bearing style chosen for analysis");
-    static_cast<QVBoxLayout*>(styleGroup_->layout())->insertWidget(0, picture_, 1);
+    build::columnOf(*styleGroup_).insertWidget(0, picture_, 1);
     return styleGroup_;
 }
 
@@ -99,22 +90,18 @@ QGroupBox* Form15::resultsFrame() {
 }
 
 QGroupBox* Form15::chosenFrame() {
-    chosenGroup_ = frameOf("Frame5", "CHOSEN BEARING", "Envelope size of selected bearing",
-                           {chosenBore_ = build::label("Label11"), chosenOd_ = build::label("Label12"),
-                            chosenHeight_ = build::label("Label13"), hint_ = build::label("Label14")});
-    hint_->setFont(font());
+    hint_ = build::label("Label14");
     hint_->setWordWrap(true);
     hint_->setMinimumWidth(180);
+    chosenGroup_ = build::labelFrame(
+        "Frame5", "CHOSEN BEARING",
+        {chosenBore_ = build::valueLabel("Label11"), chosenOd_ = build::valueLabel("Label12"),
+         chosenHeight_ = build::valueLabel("Label13"), hint_},
+        "Envelope size of selected bearing");
     return chosenGroup_;
 }
 
 void Form15::layOut() {
-    mainMenu_ = build::button("Command1", "&Main Menu", "Return to Main Menu");
-    previous_ = build::button("Command2", "<< &Previous", "Go back to Load input");
-    print_ = build::button("Command3", "P&rint Results", "Print results from search");
-    shortCut_ = build::button("Command4", "&Short-cut to Data Sheet", "Create data sheet for chosen bearing");
-    sort_ = build::button("Command5", "&Sort List", "Sort list of bearings");
-    save_ = build::button("Command6", "Save", "Save Results to file");
     auto* const top = theme::spaced(new QHBoxLayout, 0);
     top->addWidget(requirementsFrame(), 2);
     top->addWidget(loadsFrame(), 2);
@@ -122,25 +109,20 @@ void Form15::layOut() {
     auto* const middle = theme::spaced(new QHBoxLayout, 0);
     middle->addWidget(resultsFrame(), 5);
     middle->addWidget(chosenFrame(), 2);
-    auto* const buttons = theme::spaced(new QHBoxLayout, 0);
-    for (QPushButton* const button : {mainMenu_, previous_})
-        buttons->addWidget(button);
-    buttons->addStretch();
-    for (QPushButton* const button : {sort_, print_, save_, shortCut_})
-        buttons->addWidget(button);
-    auto* const page = theme::spaced(new QVBoxLayout(this));
-    page->addLayout(top);
-    page->addLayout(middle, 1);
-    page->addLayout(buttons);
+    page().addLayout(top);
+    page().addLayout(middle, 1);
+    shortCut_ = button("Command4", "&Short-cut to Data Sheet", "Create data sheet for chosen bearing",
+                       [this] { showDataSheet(); });
+    setFooter(
+        {.mainMenu = button("Command1", "&Main Menu", "Return to Main Menu", [this] { goToMainMenu(); }),
+         .previous = button("Command2", "<< &Previous", "Go back to Load input", [this] { goToPrevious(); }),
+         .others = {button("Command5", "&Sort List", "Sort list of bearings", [this] { sort(); }),
+                    button("Command3", "P&rint Results", "Print results from search", [this] { print(); }),
+                    button("Command6", "Save", "Save Results to file", [this] { save(); })},
+         .main = shortCut_});
 }
 
-void Form15::connectActions() {
-    on(mainMenu_, &QPushButton::clicked, "Main Menu", [this] { goToMainMenu(); });
-    on(previous_, &QPushButton::clicked, "Previous", [this] { goToPrevious(); });
-    on(sort_, &QPushButton::clicked, "Sort List", [this] { sort(); });
-    on(shortCut_, &QPushButton::clicked, "Short-cut to Data Sheet", [this] { showDataSheet(); });
-    on(print_, &QPushButton::clicked, "Print Results", [this] { print(); });
-    on(save_, &QPushButton::clicked, "Save", [this] { save(); });
+void Form15::connectChoice() {
     connect(list_, &QComboBox::currentIndexChanged, this,
             [this](int index) { run("Choose bearing", [this, index] { choose(index); }); });
     connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,

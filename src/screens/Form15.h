@@ -29,7 +29,7 @@ class Form15 : public Form {
     QGroupBox* resultsFrame();
     QGroupBox* chosenFrame();
     void layOut();
-    void connectActions();
+    void connectChoice();
 
     /// Shows the rows anew after a sort; false when there was none.
     bool takeSortedList();
@@ -56,7 +56,7 @@ class Form15 : public Form {
     QTreeView* table_;
     QStandardItemModel* rows_;
     QLabel *chosenBore_, *chosenOd_, *chosenHeight_, *hint_;
-    QPushButton *mainMenu_, *previous_, *print_, *shortCut_, *sort_, *save_;
+    QPushButton* shortCut_;
 };
 
 }  // namespace norlaplan

@@ -14,61 +14,32 @@
 #include "state/StyleTable.h"
 
 namespace norlaplan {
-namespace {
-
-constexpr QSize kPictureSize(240, 160);
-
-QToolButton* pictureButton(std::size_t row, const ProgramFolder& folder) {
-    const StyleRow& style = kStyles[row];
-    auto* const button = new QToolButton;
-    button->setObjectName(QStringLiteral("Image%1").arg(row + 1));
-    button->setText(QString::fromUtf8(style.label));
-    button->setToolTip(QString::fromUtf8(style.description));
-    button->setAccessibleName(QString::fromUtf8(style.label));
-    button->setAccessibleDescription(QString::fromUtf8(style.description));
-    button->setIcon(QPixmap(QString::fromStdString(folder.find(stylePicture(style, 'T')).string())));
-    button->setIconSize(kPictureSize);
-    button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    button->setCheckable(true);
-    button->setFocusPolicy(Qt::StrongFocus);
-    button->setPalette(theme::paper());
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    return button;
-}
-
-}  // namespace
-
 Form16::Form16(Screens& screens) : Form(screens, forms::kStyle, "Bearing Style Selection") {
     auto* const group = new QButtonGroup(this);
     for (std::size_t row = 0; row < pictures_.size(); ++row) {
-        pictures_[row] = pictureButton(row, services().folder);
+        const StyleRow& style = kStyles[row];
+        pictures_[row] = build::pictureButton(
+            qPrintable(QStringLiteral("Image%1").arg(row + 1)), QString::fromUtf8(style.label),
+            QString::fromUtf8(style.description),
+            QPixmap(QString::fromStdString(services().folder.find(stylePicture(style, 'T')).string())));
         group->addButton(pictures_[row]);
     }
     description_ = build::heading("Label1", "");
     description_->setAlignment(Qt::AlignCenter);
-    proceed_ = build::button("Command1", "Proceed to Bearing Size selection");
-    mainMenu_ = build::button("Command2", "&Main Menu", "Return to Main Menu");
+    proceed_ = button("Command1", "Proceed to Bearing Size selection", "", [this] { proceed(); });
+    mainMenu_ = button("Command2", "&Main Menu", "Return to Main Menu", [this] { goToMainMenu(); });
 
     for (std::size_t row = 0; row < pictures_.size(); ++row) {
         on(pictures_[row], &QToolButton::clicked, "Choose style", [this, row] { chooseStyle(row); });
     }
-    on(proceed_, &QPushButton::clicked, "Proceed to Bearing Size selection", [this] { proceed(); });
-    on(mainMenu_, &QPushButton::clicked, "Main Menu", [this] { goToMainMenu(); });
 
     auto* const grid = theme::spaced(new QGridLayout, 0);
     for (std::size_t row = 0; row < pictures_.size(); ++row) {
         grid->addWidget(pictures_[row], static_cast<int>(row / 3), static_cast<int>(row % 3));
     }
-    auto* const buttons = theme::spaced(new QHBoxLayout, 0);
-    buttons->addWidget(mainMenu_);
-    buttons->addStretch();
-    buttons->addWidget(proceed_);
-    auto* const page = theme::spaced(new QVBoxLayout(this));
-    page->addLayout(grid, 1);
-    page->addWidget(description_);
-    page->addLayout(buttons);
-    setTabOrder(pictures_.back(), proceed_);
-    setTabOrder(proceed_, mainMenu_);
+    page().addLayout(grid, 1);
+    page().addWidget(description_);
+    setFooter({.mainMenu = mainMenu_, .main = proceed_});
 }
 
 void Form16::opened() {

@@ -30,24 +30,18 @@ int pixels(double units) {
 
 Form17::Form17(Screens& screens) : Form(screens, forms::kDataSheet, "Drawing Display") {
     sheet_ = new DrawingView("Picture2", "Data sheet");
-    auto* const menu = build::button("Command1", "&Main Menu", "Return to Main Menu");
-    auto* const redrawButton = build::button("Command2", "Redraw");
-    auto* const saveButton = build::button("Command3", "&Save", "Save data sheet to file");
-    auto* const printButton = build::button("Command4", "P&rint", "Print data sheet");
-
-    auto* const wholePage = build::button("WholePage", "&Whole Page", "Show the whole page (0)");
-    auto* const pageWidth = build::button("PageWidth", "Page Wi&dth", "Show the page as wide as the window");
-    auto* const zoomIn = build::button("ZoomIn", "Zoom &In", "Look closer (+)");
-    auto* const zoomOut = build::button("ZoomOut", "Zoom &Out", "Show more of the page (-)");
-
-    on(menu, &QPushButton::clicked, "Main Menu", [this] { this->screens().show(forms::kMainMenu); });
-    on(redrawButton, &QPushButton::clicked, "Redraw", [this] { redraw(); });
-    on(saveButton, &QPushButton::clicked, "Save", [this] { save(); });
-    on(printButton, &QPushButton::clicked, "Print", [this] { print(); });
-    on(wholePage, &QPushButton::clicked, "Whole Page", [this] { sheet_->showWholePage(); });
-    on(pageWidth, &QPushButton::clicked, "Page Width", [this] { sheet_->showPageWidth(); });
-    on(zoomIn, &QPushButton::clicked, "Zoom In", [this] { sheet_->zoomIn(); });
-    on(zoomOut, &QPushButton::clicked, "Zoom Out", [this] { sheet_->zoomOut(); });
+    auto* const menu = button("Command1", "&Main Menu", "Return to Main Menu",
+                              [this] { this->screens().show(forms::kMainMenu); });
+    auto* const redrawButton = button("Command2", "Redraw", "", [this] { redraw(); });
+    auto* const saveButton = button("Command3", "&Save", "Save data sheet to file", [this] { save(); });
+    auto* const printButton = button("Command4", "P&rint", "Print data sheet", [this] { print(); });
+    auto* const wholePage =
+        button("WholePage", "&Whole Page", "Show the whole page (0)", [this] { sheet_->showWholePage(); });
+    auto* const pageWidth = button("PageWidth", "Page Wi&dth", "Show the page as wide as the window",
+                                   [this] { sheet_->showPageWidth(); });
+    auto* const zoomIn = button("ZoomIn", "Zoom &In", "Look closer (+)", [this] { sheet_->zoomIn(); });
+    auto* const zoomOut =
+        button("ZoomOut", "Zoom &Out", "Show more of the page (-)", [this] { sheet_->zoomOut(); });
 
     auto* const buttons = theme::spaced(new QVBoxLayout, 0);
     for (QPushButton* const button : {printButton, saveButton, redrawButton})
@@ -57,17 +51,18 @@ Form17::Form17(Screens& screens) : Form(screens, forms::kDataSheet, "Drawing Dis
         buttons->addWidget(button);
     buttons->addStretch();
     buttons->addWidget(menu);
-    auto* const page = theme::spaced(new QHBoxLayout(this));
-    page->addWidget(sheet_, 1);
-    page->addLayout(buttons);
+    auto* const across = theme::spaced(new QHBoxLayout, 0);
+    across->addWidget(sheet_, 1);
+    across->addLayout(buttons);
+    page().addLayout(across);
 }
 
-void Form17::fitToScreen(const QRect& room) {
+QSize Form17::sizeFor(const QSize& room) const {
     const QSize whole = screen()->size();
     const bool small = whole.width() <= kSmallScreen;
     const QSize wanted(small ? whole.width() * 9 / 10 : pixels(13824.0),
                        whole.height() - pixels(small ? 400.0 : 700.0));
-    resize(wanted.boundedTo(room.size()));
+    return wanted.boundedTo(room);
 }
 
 void Form17::opened() {

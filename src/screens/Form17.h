@@ -16,7 +16,9 @@ class Form17 : public Form {
     explicit Form17(Screens& screens);
 
     void opened() override;
-    void fitToScreen(const QRect& room) override;
+
+  protected:
+    QSize sizeFor(const QSize& room) const override;
 
   private:
     /// Reads the drawing afresh and shows the page from its top.

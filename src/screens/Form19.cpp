@@ -3,7 +3,6 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -24,13 +23,6 @@ namespace norlaplan {
 namespace {
 
 constexpr int kWithinLimit = 2;
-
-QLabel* valueLabel(const char* name) {
-    QLabel* const label = build::label(name);
-    label->setFont(theme::valueFont());
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    return label;
-}
 
 QLabel* noteLabel(const char* name, const char* text) {
     QLabel* const label = build::label(name, QString::fromUtf8(text));
@@ -53,29 +45,19 @@ const char* frameCaption(const std::string& style) {
 
 Form19::Form19(Screens& screens) : Form(screens, forms::kLife, "Load Life Calculation for") {
     layOut();
-    connectActions();
+    makeButtons();
 }
 
 QGroupBox* Form19::sizeFrame() {
-    QGroupBox* const frame = build::frame("Frame1", "SIZE");
-    auto* const column = theme::spaced(new QVBoxLayout(frame));
-    for (QLabel* const label :
-         {bore_ = valueLabel("Label1"), od_ = valueLabel("Label2"), height_ = valueLabel("Label3")}) {
-        column->addWidget(label);
-    }
-    column->addStretch();
-    return frame;
+    return build::labelFrame("Frame1", "SIZE",
+                             {bore_ = build::valueLabel("Label1"), od_ = build::valueLabel("Label2"),
+                              height_ = build::valueLabel("Label3")});
 }
 
 QGroupBox* Form19::loadFrame() {
-    QGroupBox* const frame = build::frame("Frame2", "LOADS");
-    auto* const column = theme::spaced(new QVBoxLayout(frame));
-    for (QLabel* const label : {radial_ = valueLabel("Label4"), axial_ = valueLabel("Label5"),
-                               moment_ = valueLabel("Label6"), speed_ = valueLabel("Label7")}) {
-        column->addWidget(label);
-    }
-    column->addStretch();
-    return frame;
+    return build::labelFrame("Frame2", "LOADS",
+                             {radial_ = build::valueLabel("Label4"), axial_ = build::valueLabel("Label5"),
+                              moment_ = build::valueLabel("Label6"), speed_ = build::valueLabel("Label7")});
 }
 
 QGroupBox* Form19::styleFrame() {
@@ -89,16 +71,15 @@ QGroupBox* Form19::styleFrame() {
 }
 
 QGroupBox* Form19::resultFrame() {
-    QGroupBox* const frame = build::frame("Frame4", "LOAD AND LIFE RESULTS");
-    auto* const column = theme::spaced(new QVBoxLayout(frame));
-    for (QLabel* const label : {life_ = valueLabel("Label8"), hours_ = valueLabel("Label9"),
-                               safety_ = valueLabel("Label10"), torque_ = valueLabel("Label13")}) {
+    const std::initializer_list<QLabel*> results = {
+        life_ = build::valueLabel("Label8"), hours_ = build::valueLabel("Label9"),
+        safety_ = build::valueLabel("Label10"), torque_ = build::valueLabel("Label13")};
+    for (QLabel* const label : results) {
         QFont font = label->font();
         font.setBold(true);
         label->setFont(font);
-        column->addWidget(label);
     }
-    return frame;
+    return build::labelFrame("Frame4", "LOAD AND LIFE RESULTS", results);
 }
 
 QGroupBox* Form19::commentFrame() {
@@ -127,25 +108,23 @@ QGroupBox* Form19::commentFrame() {
     return frame;
 }
 
-QHBoxLayout* Form19::buttonRow() {
-    previous_ = build::button("Command1", "&Previous", "Return to load input");
-    mainMenu_ = build::button("Command2", "&Main Menu", "Return to Main Menu");
-    print_ = build::button("Command3", "P&rint", "Print results of calculations");
-    save_ = build::button("Command4", "&Save", "Save Results to file");
-    ballPlot_ = build::button("Command5", "Ball Load             Plot",
-                              "Option to see how loads are distributed around both rows of balls");
-    lubeFilm_ = build::button("Command6", "Lube Film          Check");
-    contactStress_ =
-        build::button("Command7", "Contact         Stress", "View path stress and contact angle");
-    analysis_ = build::button("Command8", "Show Sams Tlodestar Results");
-    auto* const row = theme::spaced(new QHBoxLayout, 0);
-    row->addWidget(mainMenu_);
-    row->addWidget(previous_);
-    row->addStretch();
-    for (QPushButton* const button : {ballPlot_, lubeFilm_, contactStress_, analysis_, print_, save_}) {
-        row->addWidget(button);
-    }
-    return row;
+void Form19::makeButtons() {
+    const auto opens = [this](FormName form) { return [this, form] { screens().show(form); }; };
+    ballPlot_ = button("Command5", "Ball Load             Plot",
+                       "Option to see how loads are distributed around both rows of balls",
+                       opens(forms::kBallLoadGraph));
+    lubeFilm_ = button("Command6", "Lube Film          Check", "", opens(forms::kLubeFilm));
+    contactStress_ = button("Command7", "Contact         Stress", "View path stress and contact angle",
+                            opens(forms::kContactStress));
+    analysis_ = button("Command8", "Show Sams Tlodestar Results", "", opens(forms::kAnalysis));
+    QPushButton* const print =
+        button("Command3", "P&rint", "Print results of calculations", [this] { this->print(); });
+    save_ = button("Command4", "&Save", "Save Results to file", [this] { save(); });
+    setFooter(
+        {.mainMenu = button("Command2", "&Main Menu", "Return to Main Menu", [this] { goToMainMenu(); }),
+         .previous = button("Command1", "&Previous", "Return to load input", [this] { goToPrevious(); }),
+         .others = {ballPlot_, lubeFilm_, contactStress_, analysis_, print},
+         .main = save_});
 }
 
 void Form19::layOut() {
@@ -156,22 +135,7 @@ void Form19::layOut() {
     grid->addWidget(resultFrame(), 1, 0, 1, 3);
     grid->addWidget(commentFrame(), 2, 0, 1, 3);
     grid->setColumnStretch(2, 1);
-    auto* const page = theme::spaced(new QVBoxLayout(this));
-    page->addLayout(grid, 1);
-    page->addLayout(buttonRow());
-}
-
-void Form19::connectActions() {
-    on(previous_, &QPushButton::clicked, "Previous", [this] { goToPrevious(); });
-    on(mainMenu_, &QPushButton::clicked, "Main Menu", [this] { goToMainMenu(); });
-    on(print_, &QPushButton::clicked, "Print", [this] { print(); });
-    on(save_, &QPushButton::clicked, "Save", [this] { save(); });
-    on(ballPlot_, &QPushButton::clicked, "Ball Load Plot", [this] { screens().show(forms::kBallLoadGraph); });
-    on(lubeFilm_, &QPushButton::clicked, "Lube Film Check", [this] { screens().show(forms::kLubeFilm); });
-    on(contactStress_, &QPushButton::clicked, "Contact Stress",
-       [this] { screens().show(forms::kContactStress); });
-    on(analysis_, &QPushButton::clicked, "Show Sams Tlodestar Results",
-       [this] { screens().show(forms::kAnalysis); });
+    page().addLayout(grid, 1);
 }
 
 void Form19::opened() {
@@ -309,12 +273,8 @@ void Form19::closed() {
     goToMainMenu();
 }
 
-void Form19::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape) {
-        run("Close", [this] { screens().hide(*this); });
-        return;
-    }
-    Form::keyPressEvent(event);
+void Form19::escaped() {
+    screens().hide(*this);
 }
 
 Document Form19::document() const {

@@ -6,7 +6,6 @@
 #include "screens/Form.h"
 
 class QGroupBox;
-class QHBoxLayout;
 class QLabel;
 class QPushButton;
 
@@ -24,7 +23,8 @@ class Form19 : public Form {
     void closed() override;
 
   protected:
-    void keyPressEvent(QKeyEvent* event) override;
+    /// Unlike the close button, Escape only leaves: the screen before comes back.
+    void escaped() override;
 
   private:
     QGroupBox* sizeFrame();
@@ -32,9 +32,8 @@ class Form19 : public Form {
     QGroupBox* styleFrame();
     QGroupBox* resultFrame();
     QGroupBox* commentFrame();
-    QHBoxLayout* buttonRow();
+    void makeButtons();
     void layOut();
-    void connectActions();
 
     void showOptions();
     void showInputs();
@@ -61,8 +60,7 @@ class Form19 : public Form {
     QLabel *life_, *hours_, *safety_, *torque_;
     QLabel* verdict_;
     std::array<QLabel*, 2> warnings_;  ///< each hidden until there is one to show
-    QPushButton *previous_, *mainMenu_, *print_, *save_;
-    QPushButton *ballPlot_, *lubeFilm_, *contactStress_, *analysis_;
+    QPushButton *save_, *ballPlot_, *lubeFilm_, *contactStress_, *analysis_;
 };
 
 }  // namespace norlaplan

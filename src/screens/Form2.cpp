@@ -14,14 +14,10 @@ Form2::Form2(Screens& screens) : Form(screens, forms::kTextViewer, "") {
     text_ = new RichTextBox;
     text_->setObjectName(QStringLiteral("RichTextBox1"));
     text_->setAccessibleName(QStringLiteral("Text"));
-    return_ = build::button("Command1", "Return", "Close File");
-    on(return_, &QPushButton::clicked, "Return", [this] { this->screens().hide(*this); });
+    return_ = button("Command1", "Return", "Close File", [this] { this->screens().hide(*this); });
     text_->installEventFilter(this);
-    return_->installEventFilter(this);
-
-    auto* const page = theme::spaced(new QVBoxLayout(this));
-    page->addWidget(text_, 1);
-    page->addWidget(return_, 0, Qt::AlignRight);
+    page().addWidget(text_, 1);
+    setFooter({.main = return_});
 }
 
 void Form2::load(const std::string& file, const QString& title, const QString& closeCaption) {
@@ -36,10 +32,9 @@ void Form2::opened() {
 }
 
 bool Form2::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress) return false;
+    if (watched != text_ || event->type() != QEvent::KeyPress) return Form::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent*>(event)->key();
-    const bool enterInText = watched == text_ && (key == Qt::Key_Return || key == Qt::Key_Enter);
-    if (key != Qt::Key_Escape && !enterInText) return false;
+    if (key != Qt::Key_Escape && key != Qt::Key_Return && key != Qt::Key_Enter) return false;
     run("Return", [this] { screens().hide(*this); });
     return true;
 }

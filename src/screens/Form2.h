@@ -18,9 +18,9 @@ class Form2 : public Form {
     void load(const std::string& file, const QString& title, const QString& closeCaption);
 
     void opened() override;
-    QSize sizeHint() const override { return {760, 640}; }
 
   protected:
+    QSize sizeFor(const QSize& room) const override { return QSize(sizeHint().width(), 640).boundedTo(room); }
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:

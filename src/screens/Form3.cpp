@@ -94,39 +94,37 @@ void Form3::openStyle() {
     screens().show(forms::kStyle);
 }
 
-bool Form3::needsStyle() {
-    if (state().styleChosen) return false;
-    services().messages.show({"STYLE OF BEARING UNKNOWN", "BEARING STYLE MUST BE CHOSEN BEFORE SIZES"});
-    screens().show(forms::kStyle);
-    return true;
-}
-
-bool Form3::needsSizes() {
-    if (needsStyle()) return true;
-    if (state().sizesChosen) return false;
-    services().messages.show({"Missing Bearing Size", "Size of bearing must be known"});
-    screens().show(forms::kSizes);
+bool Form3::misses(const std::optional<StepRefusal>& refusal) {
+    if (!refusal) return false;
+    services().messages.show(refusal->message);
+    switch (refusal->missing) {
+        case SearchStep::Style:
+            screens().show(forms::kStyle);
+            break;
+        case SearchStep::Sizes:
+            screens().show(forms::kSizes);
+            break;
+        case SearchStep::Loads:
+            state().knownBearingLoadInput = false;
+            screens().show(forms::kLoads);
+            break;
+    }
     return true;
 }
 
 void Form3::openSizes() {
-    if (!needsStyle()) screens().show(forms::kSizes);
+    if (!misses(sizesRefusal(state()))) screens().show(forms::kSizes);
 }
 
 void Form3::openSearchLoads() {
-    if (needsSizes()) return;
+    if (misses(searchLoadsRefusal(state()))) return;
     state().knownBearingLoadInput = false;
     screens().show(forms::kLoads);
 }
 
 void Form3::openResults() {
-    if (needsSizes()) return;
+    if (misses(resultsRefusal(state()))) return;
     state().knownBearingLoadInput = false;
-    if (!state().loadsEntered) {
-        services().messages.show({"Missing Load Data", "Bearing Loads Must be known"});
-        screens().show(forms::kLoads);
-        return;
-    }
     screens().show(forms::kResults);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screens/Form.h"
+#include "state/MenuConditions.h"
 
 class QAction;
 class QLabel;
@@ -20,6 +21,10 @@ class Form3 : public Form {
     void opened() override { refresh(); }
     void cameBack() override { refresh(); }
     void closed() override;
+
+  protected:
+    /// The menu is the hub: there is nothing to go back to, and Escape doesn't end the program.
+    void escaped() override {}
 
   private:
     /// Brings what the menu shows up to date.
@@ -65,8 +70,8 @@ class Form3 : public Form {
     bool bearingReady();
     /// Opens a form unless the bearing in hand is refused.
     void openFor(const std::optional<Message>& refusal, FormName form);
-    bool needsStyle();
-    bool needsSizes();
+    /// Shows what a step of the search misses, opens that step, and says whether there was one.
+    bool misses(const std::optional<StepRefusal>& refusal);
 
     QLabel* partNumber_;
     QLabel* knownMark_;

@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 
+#include "screens/Accelerators.h"
 #include "screens/Form2.h"
 #include "screens/Form3.h"
 #include "screens/FormBuilder.h"
@@ -76,8 +77,8 @@ Form3::Form3(Screens& screens) : Form(screens, forms::kMainMenu, "Norlaplan MM")
     for (QPushButton* const button : {thermalFits_, faxCover_, nedsPictures_})
         button->hide();
 
-    auto* const page = theme::spaced(new QVBoxLayout(this));
-    page->setMenuBar(makeMenus());
+    setMenus(makeMenus());
+    QVBoxLayout* const page = &this->page();
     page->setSpacing(theme::kWideGap);
     page->addWidget(head);
     page->addLayout(paths, 1);
@@ -86,11 +87,7 @@ Form3::Form3(Screens& screens) : Form(screens, forms::kMainMenu, "Norlaplan MM")
 
 QPushButton* Form3::makeButton(const char* name, const QString& caption, const QString& tip,
                                void (Form3::*action)()) {
-    QPushButton* const made = build::button(name, caption, tip);
-    const std::string spoken = caption.toStdString();
-    connect(made, &QPushButton::clicked, this,
-            [this, spoken, action] { screens().runAction(spoken, [this, action] { (this->*action)(); }); });
-    return made;
+    return button(name, caption, tip, [this, action] { (this->*action)(); });
 }
 
 QWidget* Form3::makeHead() {
@@ -102,7 +99,7 @@ QWidget* Form3::makeHead() {
     partNumber_->setAccessibleDescription(QStringLiteral("Part number of the current bearing"));
     auto* const help = makeButton("Command18", "Is Part Number Known ?", "Directional flow for data entry",
                                   &Form3::askForPath);
-    theme::makeMain(*help);
+    setMainButton(*help);
     row->addWidget(what);
     row->addWidget(partNumber_, 1);
     row->addWidget(help);
@@ -217,6 +214,8 @@ QMenuBar* Form3::makeMenus() {
     QMenu& help = *bar->addMenu("&Help");
     addAction(help, "kmetrichelp", "Help", [this] { screens().show(forms::kHelpIndex); });
     addAction(help, "About", "About", [this] { screens().show(forms::kAbout); });
+    for (QMenu* const menu : {&file, &options, &types, &more, &help})
+        accelerators::mark(*menu);
     return bar;
 }
 

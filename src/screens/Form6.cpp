@@ -18,26 +18,20 @@ Form6::Form6(Screens& screens) : Form(screens, forms::kUnits, "Measurement") {
     auto* const note =
         build::label("Label1", "Changing this setting will clear all data that has been entered");
     note->setWordWrap(true);
-    auto* const take = build::button("Command1", "&OK", "Accept Change of Units");
-    auto* const cancel = build::button("Command2", "&Cancel", "Retain current Units Selection");
-    on(take, &QPushButton::clicked, "Change of units", [this] { accept(); });
-    on(cancel, &QPushButton::clicked, "Cancel", [this] { this->screens().hide(*this); });
+    auto* const take = button("Command1", "&OK", "Accept Change of Units", [this] { accept(); });
+    auto* const cancel = button("Command2", "&Cancel", "Retain current Units Selection",
+                                [this] { this->screens().hide(*this); });
 
     auto* const frame = build::frame("Frame1", "Units of Measurement");
     auto* const choices = theme::spaced(new QVBoxLayout(frame));
     choices->addWidget(us_);
     choices->addWidget(metric_);
 
-    auto* const buttons = theme::spaced(new QHBoxLayout, 0);
-    buttons->addStretch();
-    buttons->addWidget(take);
-    buttons->addWidget(cancel);
-
-    auto* const page = theme::spaced(new QVBoxLayout(this));
-    page->addWidget(frame);
-    page->addWidget(note);
-    page->addStretch();
-    page->addLayout(buttons);
+    setWidth(Width::Own);
+    page().addWidget(frame);
+    page().addWidget(note);
+    page().addStretch();
+    setFooter({.others = {cancel}, .main = take});
 }
 
 void Form6::opened() {

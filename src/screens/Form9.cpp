@@ -42,32 +42,23 @@ Form9::Form9(Screens& screens) : Form(screens, forms::kPartNumber, "Part Number 
                                                     {"Option3", "SPACER BALLS", "S"}}});
     otherSeparators_ =
         makeSeparators("Frame2", {{{"Option5", "PTFE SLUGS", "T"}, {"Option6", "SPACER BALLS", "S"}}});
-    auto* const view = build::button("Command1", "View Data Sheet");
-    theme::makeMain(*view);
+    auto* const view = button("Command1", "View Data Sheet", "", [this] { decode(); });
     auto* const explain =
-        build::button("Command2", "Explain Part        Numbers", "Show character by character explanation");
-    auto* const menu = build::button("Command3", "&Main Menu", "Return to Main Menu");
+        button("Command2", "Explain Part        Numbers", "Show character by character explanation", [this] {
+            showText(this->screens(), "\\help\\Break Down.rtf", "Part Number Breakdown",
+                     "Exit Part Number Explanation");
+        });
+    auto* const menu =
+        button("Command3", "&Main Menu", "Return to Main Menu", [this] { this->screens().hide(*this); });
     auto* const hint = build::label("Label2", "If the VARDEN Part Number is not understood, Click Here!");
     hint->setWordWrap(true);
 
     on(entry_, &QLineEdit::textChanged, "Part number", [this] { followEntry(); });
-    on(entry_, &QLineEdit::returnPressed, "View Data Sheet", [this] { decode(); });
-    on(view, &QPushButton::clicked, "View Data Sheet", [this] { decode(); });
-    on(explain, &QPushButton::clicked, "Explain Part Numbers", [this] {
-        showText(this->screens(), "\\help\\Break Down.rtf", "Part Number Breakdown",
-                 "Exit Part Number Explanation");
-    });
-    on(menu, &QPushButton::clicked, "Main Menu", [this] { this->screens().hide(*this); });
-
-    auto* const buttons = theme::spaced(new QHBoxLayout, 0);
-    buttons->addWidget(view);
-    buttons->addStretch();
-    buttons->addWidget(menu);
     auto* const explanation = theme::spaced(new QHBoxLayout, 0);
     explanation->addWidget(hint, 1);
     explanation->addWidget(explain);
 
-    auto* const page = theme::spaced(new QVBoxLayout(this));
+    QVBoxLayout* const page = &this->page();
     page->addWidget(what);
     page->addWidget(entry_);
     page->addWidget(makeAdvice());
@@ -75,8 +66,7 @@ Form9::Form9(Screens& screens) : Form(screens, forms::kPartNumber, "Part Number 
     page->addWidget(otherSeparators_);
     page->addStretch();
     page->addLayout(explanation);
-    page->addSpacing(theme::kWideGap - theme::kGap);
-    page->addLayout(buttons);
+    setFooter({.mainMenu = menu, .main = view});
 }
 
 QGroupBox* Form9::makeSeparators(const char* name, const std::vector<std::array<const char*, 3>>& options) {

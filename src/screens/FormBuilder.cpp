@@ -1,30 +1,48 @@
 #include "screens/FormBuilder.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QStyleOptionButton>
+#include <QToolButton>
+#include <QVBoxLayout>
 
+#include "screens/Accelerators.h"
+#include "screens/NumberField.h"
+#include "screens/Picture.h"
 #include "screens/Theme.h"
 
 namespace norlaplan::build {
 namespace {
 
-/// What a caption says without its accelerator marks and filling blanks.
-QString spokenCaption(QString caption) {
-    return caption.remove(QLatin1Char('&')).simplified();
-}
+constexpr QSize kStylePicture(240, 160);
 
-/// A button that doesn't paint the filling blanks with which some captions were once broken into lines.
-class Button : public QPushButton {
+/// A button that is drawn with the letter that presses it underlined, and without the filling blanks with
+/// which some captions were once broken into lines. Its text stays the stated caption.
+template <typename Base, typename Option>
+class Marked : public Base {
   public:
-    using QPushButton::QPushButton;
+    using Base::Base;
+
+    QSize sizeHint() const override {
+        const QFontMetrics metrics = this->fontMetrics();
+        const auto width = [&](const QString& text) {
+            return metrics.size(Qt::TextShowMnemonic, text).width();
+        };
+        return Base::sizeHint() - QSize(width(this->text()) - width(this->text().simplified()), 0);
+    }
+    QSize minimumSizeHint() const override { return sizeHint(); }
 
   protected:
-    void initStyleOption(QStyleOptionButton* option) const override {
-        QPushButton::initStyleOption(option);
-        option->text = text().simplified();
+    void initStyleOption(Option* option) const override {
+        Base::initStyleOption(option);
+        const QString keys = this->shortcut().toString();
+        const QChar letter = keys.startsWith(QLatin1String("Alt+")) ? keys.back() : QChar();
+        option->text = accelerators::marked(this->text().simplified(), letter);
     }
 };
+
+using Button = Marked<QPushButton, QStyleOptionButton>;
+using Option = Marked<QRadioButton, QStyleOptionButton>;
+using PictureButton = Marked<QToolButton, QStyleOptionToolButton>;
 
 template <typename Control>
 Control* named(Control* control, const char* name, const QString& tip, const QString& spoken) {
@@ -37,16 +55,19 @@ Control* named(Control* control, const char* name, const QString& tip, const QSt
 
 }  // namespace
 
+QString spokenCaption(const QString& caption) {
+    QString spoken = caption;
+    for (const char mark : {'&', '<', '>'})
+        spoken.remove(QLatin1Char(mark));
+    return spoken.simplified();
+}
+
 QPushButton* button(const char* name, const QString& caption, const QString& tip) {
     return named<QPushButton>(new Button(caption), name, tip, spokenCaption(caption));
 }
 
 QRadioButton* option(const char* name, const QString& caption, const QString& tip) {
-    return named(new QRadioButton(caption), name, tip, spokenCaption(caption));
-}
-
-QCheckBox* check(const char* name, const QString& caption, const QString& tip) {
-    return named(new QCheckBox(caption), name, tip, spokenCaption(caption));
+    return named<QRadioButton>(new Option(caption), name, tip, spokenCaption(caption));
 }
 
 QLabel* label(const char* name, const QString& caption) {
@@ -64,7 +85,7 @@ QGroupBox* frame(const char* name, const QString& caption) {
 }
 
 QLineEdit* edit(const char* name, const QString& tip, const QString& spoken) {
-    QLineEdit* const control = named(new QLineEdit, name, tip, spoken);
+    QLineEdit* const control = named<QLineEdit>(new PlainEdit, name, tip, spoken);
     control->setTextMargins(4, 0, 4, 0);
     return control;
 }
@@ -78,42 +99,53 @@ void buddy(QLabel& label, QWidget& field) {
     field.setAccessibleName(spokenCaption(label.text()));
 }
 
-QLabel* valueRow(QGridLayout& grid, int row, const char* labelName, const QString& caption,
-                 const char* valueName) {
-    QLabel* const value = label(valueName);
-    value->setFont(theme::valueFont());
-    value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    QLabel* const what = label(labelName, caption);
-    buddy(*what, *value);
-    grid.addWidget(what, row, 0);
-    grid.addWidget(value, row, 1);
-    return value;
+QLabel* valueLabel(const char* name) {
+    QLabel* const made = label(name);
+    made->setFont(theme::valueFont());
+    made->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    return made;
 }
 
-QLineEdit* entryRow(QGridLayout& grid, int row, const char* labelName, const QString& caption,
-                    const char* fieldName, const QString& tip, const char* unitName, const QString& unit) {
-    QLineEdit* const field = edit(fieldName, tip);
-    QLabel* const what = label(labelName, caption);
-    buddy(*what, *field);
-    grid.addWidget(what, row, 0);
-    grid.addWidget(field, row, 1);
-    grid.addWidget(label(unitName, unit), row, 2);
-    return field;
+QGroupBox* labelFrame(const char* name, const QString& caption, std::initializer_list<QLabel*> labels,
+                      const QString& tip) {
+    QGroupBox* const made = frame(name, caption);
+    made->setToolTip(tip);
+    auto* const column = theme::spaced(new QVBoxLayout(made));
+    for (QLabel* const label : labels)
+        column->addWidget(label);
+    column->addStretch();
+    return made;
 }
 
-void layOutEntry(QWidget& form, const EntryPage& page) {
-    auto* const buttons = theme::spaced(new QHBoxLayout, 0);
-    buttons->addWidget(page.mainMenu);
-    buttons->addStretch();
-    buttons->addWidget(page.previous);
-    buttons->addWidget(page.proceed);
-    auto* const column = theme::spaced(new QVBoxLayout(&form));
-    column->addWidget(page.picture, 1);
-    column->addLayout(page.fields);
-    column->addLayout(buttons);
-    QWidget::setTabOrder(page.lastField, page.proceed);
-    QWidget::setTabOrder(page.proceed, page.previous);
-    QWidget::setTabOrder(page.previous, page.mainMenu);
+QVBoxLayout& columnOf(QGroupBox& frame) {
+    return static_cast<QVBoxLayout&>(*frame.layout());
+}
+
+QToolButton* pictureButton(const char* name, const QString& caption, const QString& tip,
+                           const QPixmap& picture) {
+    QToolButton* const made = named<QToolButton>(new PictureButton, name, tip, spokenCaption(caption));
+    made->setText(caption);
+    made->setIcon(picture);
+    made->setIconSize(kStylePicture);
+    made->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    made->setCheckable(true);
+    made->setFocusPolicy(Qt::StrongFocus);
+    made->setPalette(theme::paper());
+    made->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    return made;
+}
+
+void layOutEntry(QVBoxLayout& page, Picture& picture, std::initializer_list<EntryRow> rows) {
+    auto* const grid = theme::spaced(new QGridLayout, 0);
+    int row = 0;
+    for (const auto& [label, field] : rows) {
+        buddy(*label, *field);
+        grid->addWidget(label, row, 0);
+        grid->addWidget(field, row, 1);
+        ++row;
+    }
+    page.addWidget(&picture, 1);
+    page.addLayout(grid);
 }
 
 }  // namespace norlaplan::build

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -9,14 +8,22 @@
 #include <QRadioButton>
 
 class QGridLayout;
+class QToolButton;
+class QVBoxLayout;
+
+namespace norlaplan {
+class Picture;
+}  // namespace norlaplan
 
 /// One call for each control: name, caption with its accelerator ("&Save"), tip, and what a screen reader
 /// says. The caller places the control in a layout, which takes it over.
 namespace norlaplan::build {
 
+/// What a caption says without its accelerator marks, arrows and filling blanks.
+QString spokenCaption(const QString& caption);
+
 QPushButton* button(const char* name, const QString& caption, const QString& tip = {});
 QRadioButton* option(const char* name, const QString& caption, const QString& tip = {});
-QCheckBox* check(const char* name, const QString& caption, const QString& tip = {});
 QLabel* label(const char* name, const QString& caption = {});
 QLabel* heading(const char* name, const QString& caption);
 QGroupBox* frame(const char* name, const QString& caption);
@@ -27,25 +34,27 @@ QComboBox* choice(const char* name, const QString& tip = {}, const QString& spok
 /// The label leads to the field: accelerator, screen reader.
 void buddy(QLabel& label, QWidget& field);
 
-/// A row of a grid: what it is on the left, the value on the right in figures that line up, selectable.
-/// Gives the value's label, named `valueName`.
-QLabel* valueRow(QGridLayout& grid, int row, const char* labelName, const QString& caption,
-                 const char* valueName);
+/// A label for a value: in figures that line up, selectable by mouse and keyboard.
+QLabel* valueLabel(const char* name);
 
-/// A row of a grid: label, field (its buddy) and unit.
-QLineEdit* entryRow(QGridLayout& grid, int row, const char* labelName, const QString& caption,
-                    const char* fieldName, const QString& tip, const char* unitName, const QString& unit);
+/// A frame with labels under each other.
+QGroupBox* labelFrame(const char* name, const QString& caption, std::initializer_list<QLabel*> labels,
+                      const QString& tip = {});
 
-/// The controls of a screen that asks for values under a picture.
-struct EntryPage {
-    QWidget* picture;
-    QGridLayout* fields;
-    QWidget* lastField;
-    QPushButton *proceed, *previous, *mainMenu;
+/// The layout of a frame made above, to add more.
+QVBoxLayout& columnOf(QGroupBox& frame);
+
+/// A picture that is chosen by a click, with its name under it.
+QToolButton* pictureButton(const char* name, const QString& caption, const QString& tip,
+                           const QPixmap& picture);
+
+/// A row of a page that asks for values: the label that says what, and the field.
+struct EntryRow {
+    QLabel* label;
+    QLineEdit* field;
 };
 
-/// Lays such a screen out: picture, fields, buttons; tabs go on from the last field to proceed, previous,
-/// main menu.
-void layOutEntry(QWidget& form, const EntryPage& page);
+/// A page that asks for values under a picture.
+void layOutEntry(QVBoxLayout& page, Picture& picture, std::initializer_list<EntryRow> rows);
 
 }  // namespace norlaplan::build

@@ -5,6 +5,16 @@
 
 namespace norlaplan {
 
+void PlainEdit::keyPressEvent(QKeyEvent* event) {
+    // Alt Gr counts as Ctrl and Alt and does type.
+    const auto held = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    const bool letter = event->text().size() == 1 && event->text()[0].isPrint();
+    if (held == Qt::AltModifier && letter)
+        event->ignore();
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
 NumberField::NumberField(const char* name, const QString& tip, std::string& text) : text_(text) {
     setObjectName(QString::fromUtf8(name));
     setToolTip(tip);
@@ -24,9 +34,14 @@ void NumberField::keyPressEvent(QKeyEvent* event) {
     const bool command = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     const bool letter = typed.size() == 1 && typed[0].isPrint();
     if (letter && !command && !QStringLiteral("0123456789+-.,eE").contains(typed)) return;
-    QLineEdit::keyPressEvent(event);
+    PlainEdit::keyPressEvent(event);
     // Enter has moved on to the next control; it must not press that one as well.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) event->accept();
+}
+
+void askAgain(QLineEdit& field) {
+    field.setFocus(Qt::OtherFocusReason);
+    field.selectAll();
 }
 
 void enterMovesTo(QLineEdit& field, std::function<QWidget*()> next) {

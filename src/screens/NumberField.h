@@ -6,14 +6,24 @@
 
 namespace norlaplan {
 
+/// A field that leaves Alt with a letter to whatever that presses, in place of typing the letter.
+class PlainEdit : public QLineEdit {
+  public:
+    using QLineEdit::QLineEdit;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
 /// A field for one number: its keys are digits, sign, point, comma and exponent. What stands in it goes to a
 /// text of the state at every change.
-class NumberField : public QLineEdit {
+class NumberField : public PlainEdit {
   public:
     NumberField(const char* name, const QString& tip, std::string& text);
 
     /// Shows the text of the state again.
     void refresh();
+    bool shows(const std::string& text) const { return &text == &text_; }  ///< whether it is that very text
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -21,6 +31,9 @@ class NumberField : public QLineEdit {
   private:
     std::string& text_;
 };
+
+/// Moves the focus to the field and selects what stands in it.
+void askAgain(QLineEdit& field);
 
 /// Enter in `field` moves on to `next`.
 void enterMovesTo(QLineEdit& field, std::function<QWidget*()> next);

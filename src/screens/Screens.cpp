@@ -19,7 +19,9 @@ void centre(Form& form) {
     const QSize own = form.frameGeometry().size();
     const Single left = static_cast<double>(screen.width() - own.width()) / 2.0;
     const Single top = static_cast<double>(screen.height() - own.height()) / 2.0;
-    form.move(screen.x() + static_cast<int>(left), screen.y() + static_cast<int>(top));
+    const QRect room = form.screen()->availableGeometry();
+    form.move(std::max(room.left(), screen.x() + static_cast<int>(left)),
+              std::max(room.top(), screen.y() + static_cast<int>(top)));
 }
 
 /// The pile with `wanted` on top: what lay over it goes.
@@ -81,7 +83,7 @@ void Screens::bringToFront(Pile pile) {
     open_ = std::move(pile);
     Form* const now = current();
     if (now != nullptr && !now->isVisible()) {
-        now->fitToScreen(now->screen()->availableGeometry());
+        now->prepareToShow(now->screen()->availableGeometry());
         centre(*now);
         now->show();
     }

@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <QWidget>
 
+#include "screens/BearingIcon.h"
+
 namespace norlaplan::theme {
 namespace {
 
@@ -22,6 +24,12 @@ QFont programFont(double points, QFont::Weight weight = QFont::Normal) {
 
 bool isDark(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() < 128;
+}
+
+/// The control with the focus is framed in the highlight colour, too.
+void setAccent(QPalette& palette) {
+    palette.setColor(QPalette::Highlight, accent());
+    palette.setColor(QPalette::HighlightedText, Qt::white);
 }
 
 /// Fusion with room around the writing of buttons and fields. Colours come from the desktop's palette.
@@ -59,6 +67,10 @@ class Panel : public QWidget {
 
 void apply() {
     QApplication::setStyle(new ProgramStyle);
+    QPalette colours;
+    setAccent(colours);
+    QApplication::setPalette(colours);
+    QApplication::setWindowIcon(bearingIcon());
     QApplication::setFont(programFont(kTextPoints));
     QApplication::setFont(programFont(kTextPoints, QFont::Bold), "QGroupBox");
     // What stands in a group doesn't take over the bold type of its title.
@@ -109,9 +121,7 @@ QPalette onFixedBackground(const QColor& background) {
     palette.setColor(QPalette::Midlight, QColor(232, 234, 242));
     palette.setColor(QPalette::Mid, QColor(170, 174, 194));
     palette.setColor(QPalette::Dark, QColor(120, 124, 148));
-    // The control with the focus is framed in this colour.
-    palette.setColor(QPalette::Highlight, QColor(206, 96, 0));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
+    setAccent(palette);
     palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(120, 124, 148));
     return palette;
 }
@@ -130,6 +140,10 @@ QColor badColour(const QPalette& palette) {
 
 QColor deskColour() {
     return {0xA8, 0xAD, 0xB3};
+}
+
+QColor accent() {
+    return {190, 84, 0};
 }
 
 QColor frameColour() {

@@ -42,6 +42,7 @@ QColor goodColour(const QPalette& palette);  ///< within the limit
 QColor badColour(const QPalette& palette);   ///< over the limit
 
 QColor deskColour();   ///< around a page that is looked at
+QColor accent();       ///< marks the control with the focus and what is selected, in every window
 QColor frameColour();  ///< of a frame drawn over white paper
 
 void makeHeading(QLabel& label);

@@ -65,8 +65,8 @@ void prepareLoadEntry(ProgramState& state) {
     }
 }
 
-std::optional<Message> enterLoads(ProgramState& state) {
-    std::optional<Message> wrong;
+std::optional<FieldMessage> enterLoads(ProgramState& state) {
+    std::optional<FieldMessage> wrong;
     LoadCase loads = state.loads;
     state.loadsEntered = false;
     for (const LoadField& field : kFields) {
@@ -77,7 +77,7 @@ std::optional<Message> enterLoads(ProgramState& state) {
             loads.*field.load = *value;
         } else {
             // The later fields are told of first, so the last one met wins.
-            wrong = Message{field.title, field.prompt};
+            wrong = FieldMessage{{field.title, field.prompt}, field.text};
         }
     }
     loads.speed = std::fabs(loads.speed);
@@ -87,10 +87,10 @@ std::optional<Message> enterLoads(ProgramState& state) {
     if (wrong) return wrong;
     const bool radialSearch = !state.knownBearingLoadInput && state.style.searchStyleCaption == kRadialStyle;
     if (radialSearch && loads.radialLoadDisplay == 0.0) {
-        return Message{"Missing Load", "You must enter a Radial Load"};
+        return FieldMessage{{"Missing Load", "You must enter a Radial Load"}, &EntryTexts::radial};
     }
     if (!hasLoad(loads)) {
-        return Message{"Missing Loads", "At least one load must be entered!"};
+        return FieldMessage{{"Missing Loads", "At least one load must be entered!"}, &EntryTexts::radial};
     }
     state.loadsEntered = true;
     return std::nullopt;

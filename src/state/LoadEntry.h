@@ -2,8 +2,7 @@
 
 #include <optional>
 
-#include "state/Ports.h"
-#include "state/ProgramState.h"
+#include "state/FieldMessage.h"
 
 namespace norlaplan {
 
@@ -23,7 +22,7 @@ bool takesSpeed(const ProgramState& state);
 /// and a text that is no number leaves its load as it was. The loads then stand in pounds and pound-inches as
 /// well. Gives the message for the user, or nothing when the loads are complete: only then they count as
 /// entered.
-std::optional<Message> enterLoads(ProgramState& state);
+std::optional<FieldMessage> enterLoads(ProgramState& state);
 
 /// Pounds and pound-inches of the loads as displayed in these units.
 void convertLoads(LoadCase& loads, const UnitMode& units);

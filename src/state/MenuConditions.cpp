@@ -50,4 +50,22 @@ std::optional<Message> thermalFitsRefusal(const ProgramState& state) {
     return Message{"Missing bearing data", "Please select a bearing first"};
 }
 
+std::optional<StepRefusal> sizesRefusal(const ProgramState& state) {
+    if (state.styleChosen) return std::nullopt;
+    return StepRefusal{{"STYLE OF BEARING UNKNOWN", "BEARING STYLE MUST BE CHOSEN BEFORE SIZES"},
+                       SearchStep::Style};
+}
+
+std::optional<StepRefusal> searchLoadsRefusal(const ProgramState& state) {
+    if (const auto refusal = sizesRefusal(state)) return refusal;
+    if (state.sizesChosen) return std::nullopt;
+    return StepRefusal{{"Missing Bearing Size", "Size of bearing must be known"}, SearchStep::Sizes};
+}
+
+std::optional<StepRefusal> resultsRefusal(const ProgramState& state) {
+    if (const auto refusal = searchLoadsRefusal(state)) return refusal;
+    if (state.loadsEntered) return std::nullopt;
+    return StepRefusal{{"Missing Load Data", "Bearing Loads Must be known"}, SearchStep::Loads};
+}
+
 }  // namespace norlaplan

@@ -20,4 +20,21 @@ std::optional<Message> preloadTorqueRefusal(const ProgramState& state);
 std::optional<Message> axialPlayRefusal(const ProgramState& state);
 std::optional<Message> thermalFitsRefusal(const ProgramState& state);
 
+/// A step of the search path.
+enum class SearchStep { Style, Sizes, Loads };
+
+/// What the menu says when a step of the search path is asked for before its turn, and the step that comes
+/// first.
+struct StepRefusal {
+    Message message;
+    SearchStep missing;
+};
+
+/// For the size screen: the style must be chosen.
+std::optional<StepRefusal> sizesRefusal(const ProgramState& state);
+/// For the load screen of a search: the style and the sizes.
+std::optional<StepRefusal> searchLoadsRefusal(const ProgramState& state);
+/// For the results of a search: the style, the sizes and the loads.
+std::optional<StepRefusal> resultsRefusal(const ProgramState& state);
+
 }  // namespace norlaplan

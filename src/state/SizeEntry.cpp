@@ -33,12 +33,17 @@ void showSizesAgain(ProgramState& state) {
     }
 }
 
-std::optional<Message> enterSizes(ProgramState& state) {
+std::optional<FieldMessage> enterSizes(ProgramState& state) {
     SearchCriteria& criteria = state.criteria;
     for (const SizeField& field : kFields) {
-        if (wholeNumberText(state.entries.*field.text)) continue;
-        state.sizeInputPending = true;
-        return Message{"Missing Data", field.missing, Icon::Critical};
+        const std::string& text = state.entries.*field.text;
+        if (wholeNumberText(text)) continue;
+        std::string prompt = field.missing;
+        if (trimmed(text).empty())
+            state.sizeInputPending = true;
+        else
+            prompt += "\n\n\"" + text + "\" is not a number.";
+        return FieldMessage{{"Missing Data", prompt, Icon::Critical}, field.text};
     }
     for (const SizeField& field : kFields)
         criteria.*field.size = *wholeNumberText(state.entries.*field.text);

@@ -2,8 +2,7 @@
 
 #include <optional>
 
-#include "state/Ports.h"
-#include "state/ProgramState.h"
+#include "state/FieldMessage.h"
 
 namespace norlaplan {
 
@@ -11,9 +10,9 @@ namespace norlaplan {
 void showSizesAgain(ProgramState& state);
 
 /// Reads the size texts into the search criteria. Sizes in the wrong order are swapped without a word, in the
-/// texts too. Gives the message for the first size that is missing or no number, or nothing when all four
-/// stand, in inches as well, and count as chosen.
-std::optional<Message> enterSizes(ProgramState& state);
+/// texts too. Gives the message for the first size that is missing or no number (then it quotes the text), or
+/// nothing when all four stand, in inches as well, and count as chosen.
+std::optional<FieldMessage> enterSizes(ProgramState& state);
 
 /// Inches of the sizes as displayed.
 void convertSizes(ProgramState& state);

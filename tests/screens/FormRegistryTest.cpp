@@ -1,3 +1,7 @@
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <regex>
 #include <set>
 
 #include "screens/FormRegistry.h"
@@ -39,6 +43,36 @@ class FormRegistryTest : public QObject {
             QVERIFY2(names.insert(entry.name).second, entry.name.text);
             QVERIFY2(plainNames.insert(entry.plainName).second, entry.plainName);
         }
+    }
+
+    void theTableOfFormsForReadersIsTheRegistry() {
+        std::ifstream guide(sourceFolder() / "CONTRIBUTING.md");
+        std::vector<std::string> rows;
+        bool inTable = false;
+        for (std::string line; std::getline(guide, line);) {
+            if (line.starts_with("## ")) inTable = line == "## Forms and actions";
+            if (inTable && line.starts_with("| `")) rows.push_back(line);
+        }
+        QCOMPARE(rows.size(), formRegistry().size());
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            const FormEntry& entry = formRegistry()[i];
+            const std::string name = "| `" + std::string(entry.name) + "` | `k";
+            const std::string file = "`src/screens/" + std::string(entry.name) + ".h` |";
+            const std::string end = "` | " + std::string(entry.plainName) + " | " +
+                                    (entry.make == nullptr ? "not built |" : file);
+            QVERIFY2(rows[i].starts_with(name), rows[i].c_str());
+            QVERIFY2(rows[i].ends_with(end), rows[i].c_str());
+        }
+    }
+
+    void everyFileThatTheGuideNamesIsThere() {
+        std::ifstream guide(sourceFolder() / "CONTRIBUTING.md");
+        const std::string text{std::istreambuf_iterator<char>(guide), {}};
+        const std::regex file("`(src/[^`]+\\.(h|cpp))`");
+        int found = 0;
+        for (std::sregex_iterator each(text.begin(), text.end(), file), end; each != end; ++each, ++found)
+            QVERIFY2(std::filesystem::exists(sourceFolder() / (*each)[1].str()), (*each)[1].str().c_str());
+        QVERIFY(found > 20);
     }
 
     void everyFormBearsItsName() {

@@ -1,6 +1,8 @@
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTimer>
 
 #include "screens/Program.h"
@@ -34,19 +36,59 @@ class PortsTest : public QObject {
 
   private slots:
     void a_message_has_its_title_its_prompt_as_plain_text_and_its_icon() {
-        QString title, text;
+        QString title, heading, text;
+        bool bold = false;
         QMessageBox::Icon icon = QMessageBox::NoIcon;
         whenOpen<QMessageBox>([&](QMessageBox& box) {
             title = box.windowTitle();
-            text = box.text();
+            heading = box.text();
+            text = box.informativeText();
             icon = box.icon();
-            QCOMPARE(box.textFormat(), Qt::PlainText);
+            bold = box.findChild<QLabel*>("qt_msgbox_label")->font().bold();
+            for (const char* const name : {"qt_msgbox_label", "qt_msgbox_informativelabel"})
+                QCOMPARE(box.findChild<QLabel*>(name)->textFormat(), Qt::PlainText);
             box.button(QMessageBox::Ok)->click();
         });
         QtMessages().show({"Missing Data", "<b>not bold</b>", Icon::Critical});
         QCOMPARE(title, QString("Missing Data"));
+        QCOMPARE(heading, QString("Missing Data"));
+        QVERIFY(bold);
         QCOMPARE(text, QString("<b>not bold</b>"));
         QCOMPARE(icon, QMessageBox::Critical);
+    }
+
+    void a_box_is_as_wide_as_its_title_in_bold_and_stays_on_the_screen() {
+        const std::string titles[] = {"Please choose an internal fitup that the catalogue has for this style",
+                                      std::string(400, 'W')};
+        for (const std::string& title : titles) {
+            int width = 0, wanted = 0, room = 0, height = 0;
+            whenOpen<QMessageBox>([&](QMessageBox& box) {
+                QFont bold = box.font();
+                bold.setBold(true);
+                width = box.width();
+                height = box.height();
+                room = box.screen()->availableSize().width();
+                wanted = QFontMetrics(bold).horizontalAdvance(QString::fromStdString(title));
+                box.button(QMessageBox::Ok)->click();
+            });
+            QtMessages().show({title, "One short line.", Icon::Information});
+            QVERIFY2(width >= std::min(wanted, room * 3 / 4), title.c_str());
+            QVERIFY2(width <= room && height > 0, title.c_str());
+        }
+    }
+
+    void a_warning_is_answered_no_by_enter_and_by_escape() {
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+            whenOpen<QMessageBox>([key](QMessageBox& box) { QTest::keyClick(&box, key); });
+            QCOMPARE(QtMessages().ask({"Warning", "Quit?", Icon::Warning}, Buttons::YesNo), Answer::No);
+        }
+    }
+
+    void a_plain_question_is_answered_yes_by_enter_and_left_by_escape() {
+        whenOpen<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
+        QCOMPARE(QtMessages().ask({"Program Help", "Known?"}, Buttons::YesNoCancel), Answer::Yes);
+        whenOpen<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+        QCOMPARE(QtMessages().ask({"Program Help", "Known?"}, Buttons::YesNoCancel), Answer::Cancel);
     }
 
     void a_question_gives_the_users_answer() {
@@ -63,11 +105,7 @@ class PortsTest : public QObject {
     void closing_a_question_changes_nothing() {
         whenOpen<QMessageBox>([](QMessageBox& box) { box.reject(); });
         QCOMPARE(QtMessages().ask({"Program Help", "Known?"}, Buttons::YesNoCancel), Answer::Cancel);
-        whenOpen<QMessageBox>([](QMessageBox& box) {
-            QTest::keyClick(&box, Qt::Key_Escape);
-            // A box of Yes and No has no way out but these two.
-            if (box.isVisible()) box.button(QMessageBox::No)->click();
-        });
+        whenOpen<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
         QCOMPARE(QtMessages().ask({"Warning", "Quit?"}, Buttons::YesNo), Answer::No);
     }
 

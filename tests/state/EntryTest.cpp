@@ -170,6 +170,38 @@ TEST(EnterSizes, TellsOfTheFirstMissingSizeInTheStatedOrder) {
     EXPECT_TRUE(state.sizesChosen);
 }
 
+TEST(EnterSizes, QuotesATextThatIsNoNumberAndDoesNotCallItMissing) {
+    ProgramState state = usState();
+    state.entries = {"5", "5.5e", "0.2", "1", "", "", "", ""};
+    const auto message = enterSizes(state);
+    ASSERT_TRUE(message.has_value());
+    EXPECT_EQ(*message,
+              (Message{"Missing Data", "Please Enter Maximum Outer Diameter\n\n\"5.5e\" is not a number.",
+                       Icon::Critical}));
+    EXPECT_FALSE(state.sizeInputPending);
+    EXPECT_FALSE(state.sizesChosen);
+}
+
+TEST(EnterSizes, NamesTheTextThatTheMessageIsAbout) {
+    ProgramState state = usState();
+    state.entries = {"5", "9", "", "1", "", "", "", ""};
+    EXPECT_EQ(enterSizes(state)->field, &EntryTexts::minHeight);
+    state.entries = {"", "9", "", "1", "", "", "", ""};
+    EXPECT_EQ(enterSizes(state)->field, &EntryTexts::minBore);
+}
+
+TEST(EnterLoads, NamesTheTextThatTheMessageIsAbout) {
+    ProgramState state = usState();
+    state.entries.radial = "abc";
+    state.entries.moment = "1";
+    EXPECT_EQ(enterLoads(state)->field, &EntryTexts::radial);
+    state.entries.radial = "1";
+    state.entries.speed = "fast";
+    EXPECT_EQ(enterLoads(state)->field, &EntryTexts::speed);
+    state.entries = {};
+    EXPECT_EQ(enterLoads(state)->field, &EntryTexts::radial);
+}
+
 TEST(EnterSizes, TakesNoneOfTheSizesWhenOneIsMissing) {
     ProgramState state = usState();
     state.entries = {"5", "9", "0.2", "1", "", "", "", ""};

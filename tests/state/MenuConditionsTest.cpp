@@ -91,5 +91,37 @@ TEST(MenuConditions, TakeNoTwoLettersForAStyle) {
     EXPECT_TRUE(axialPlayRefusal(bearingOfStyle("")).has_value());
 }
 
+TEST(MenuConditions, OfASearchNameTheFirstStepThatIsMissing) {
+    ProgramState state;
+    for (const auto& refusal : {sizesRefusal(state), searchLoadsRefusal(state), resultsRefusal(state)}) {
+        ASSERT_TRUE(refusal.has_value());
+        EXPECT_EQ(refusal->message,
+                  (Message{"STYLE OF BEARING UNKNOWN", "BEARING STYLE MUST BE CHOSEN BEFORE SIZES"}));
+        EXPECT_EQ(refusal->missing, SearchStep::Style);
+    }
+    state.styleChosen = true;
+    EXPECT_FALSE(sizesRefusal(state).has_value());
+    for (const auto& refusal : {searchLoadsRefusal(state), resultsRefusal(state)}) {
+        ASSERT_TRUE(refusal.has_value());
+        EXPECT_EQ(refusal->message, (Message{"Missing Bearing Size", "Size of bearing must be known"}));
+        EXPECT_EQ(refusal->missing, SearchStep::Sizes);
+    }
+    state.sizesChosen = true;
+    EXPECT_FALSE(searchLoadsRefusal(state).has_value());
+    EXPECT_EQ(resultsRefusal(state)->message.title, "Missing Load Data");
+    EXPECT_EQ(resultsRefusal(state)->message.prompt, "Bearing Loads Must be known");
+    EXPECT_EQ(resultsRefusal(state)->missing, SearchStep::Loads);
+    state.loadsEntered = true;
+    EXPECT_FALSE(resultsRefusal(state).has_value());
+}
+
+TEST(MenuConditions, OfASearchWantTheStyleAlsoWhenSizesAndLoadsStand) {
+    ProgramState state;
+    state.sizesChosen = true;
+    state.loadsEntered = true;
+    EXPECT_EQ(searchLoadsRefusal(state)->missing, SearchStep::Style);
+    EXPECT_EQ(resultsRefusal(state)->missing, SearchStep::Style);
+}
+
 }  // namespace
 }  // namespace norlaplan

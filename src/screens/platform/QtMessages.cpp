@@ -1,10 +1,16 @@
 #include <QApplication>
+#include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
+#include <QSpacerItem>
 
 #include "screens/platform/QtPorts.h"
 
 namespace norlaplan {
 namespace {
+
+constexpr int kTitleBarButtons = 140;
 
 QMessageBox::Icon iconOf(Icon icon) {
     switch (icon) {
@@ -22,13 +28,47 @@ QMessageBox::Icon iconOf(Icon icon) {
     return QMessageBox::NoIcon;
 }
 
+/// Whether the answer that changes nothing is the one that Enter gives.
+bool isDangerous(const Message& message) {
+    return message.icon == Icon::Warning || message.icon == Icon::Critical;
+}
+
+/// Here the title often is the message: it stands in bold above the prompt, too, and the box is wide enough
+/// for it in its title bar.
+void layOut(QMessageBox& box, const Message& message) {
+    const QString title = QString::fromStdString(message.title);
+    box.setWindowTitle(title);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(title);
+    box.setInformativeText(QString::fromStdString(message.prompt));
+    QFont bold = box.font();
+    bold.setBold(true);
+    const QSize room = box.screen()->availableSize();
+    const int titleBar = QFontMetrics(bold).horizontalAdvance(title) + kTitleBarButtons;
+    auto* const grid = qobject_cast<QGridLayout*>(box.layout());
+    grid->addItem(new QSpacerItem(std::min(titleBar, room.width() * 3 / 4), 0), grid->rowCount(), 0, 1,
+                  grid->columnCount());
+    for (QLabel* const label : box.findChildren<QLabel*>()) {
+        const bool heading = label->objectName() == QLatin1String("qt_msgbox_label");
+        if (heading) label->setFont(bold);
+        if (heading || label->objectName() == QLatin1String("qt_msgbox_informativelabel")) {
+            label->setTextFormat(Qt::PlainText);
+            label->setWordWrap(true);
+            label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        }
+    }
+}
+
 QMessageBox::StandardButton showBox(const Message& message, QMessageBox::StandardButtons buttons) {
     // A message of a long calculation comes up under the busy pointer; the box itself isn't busy.
     const bool busy = QApplication::overrideCursor() != nullptr;
     if (busy) QApplication::setOverrideCursor(Qt::ArrowCursor);
-    QMessageBox box(iconOf(message.icon), QString::fromStdString(message.title),
-                    QString::fromStdString(message.prompt), buttons, QApplication::activeWindow());
-    box.setTextFormat(Qt::PlainText);
+    QMessageBox box(iconOf(message.icon), {}, {}, buttons, QApplication::activeWindow());
+    layOut(box, message);
+    const bool no = buttons.testFlag(QMessageBox::No);
+    if (no && isDangerous(message)) box.setDefaultButton(QMessageBox::No);
+    if (no)
+        box.setEscapeButton(buttons.testFlag(QMessageBox::Cancel) ? QMessageBox::Cancel : QMessageBox::No);
     box.exec();
     if (busy) QApplication::restoreOverrideCursor();
     return box.standardButton(box.clickedButton());

@@ -1,0 +1,117 @@
+#include <QLineEdit>
+
+#include "screens/Program.h"
+#include "state/LoadEntry.h"
+#include "state/SizeEntry.h"
+
+namespace norlaplan::testing {
+namespace {
+
+struct Keys : Program {
+    Keys() {
+        useUnits("US");
+        enterNumber("K19013XP0");
+        state.style = {"4-POINT CONTACT", "X"};
+        state.styleChosen = true;
+        state.entries = {"5", "9", ".2", "1.2", "500", "200", "100", "400"};
+        enterSizes(state);
+        enterLoads(state);
+    }
+    Form& open(FormName name) {
+        screens.showAlone(forms::kMainMenu);
+        screens.show(name);
+        return *screens.current();
+    }
+    QLineEdit& field(FormName form, const char* name) { return control<QLineEdit>(form, name); }
+};
+
+class KeysTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void escapeGoesBackFromEveryFormToTheOneBeneath() {
+        for (const FormEntry& entry : formRegistry()) {
+            const std::string name = entry.name;
+            if (entry.make == nullptr || name == "Form1" || name == "Form3") continue;
+            Keys program;
+            Form& form = program.open(entry.name);
+            QCOMPARE(program.inFront(), name);
+            QWidget* const focus = form.focusWidget();
+            QTest::keyClick(focus == nullptr ? &form : focus, Qt::Key_Escape);
+            QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
+        }
+    }
+
+    void escapeEndsNothingOnTheMainMenu() {
+        Keys program;
+        Form& menu = program.open(forms::kMainMenu);
+        QTest::keyClick(&menu, Qt::Key_Escape);
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
+        QVERIFY(program.messages.asked.empty());
+    }
+
+    void enterPressesTheMainButtonWhenTheFocusIsOnNoOther() {
+        Keys program;
+        Form& units = program.open(forms::kUnits);
+        QTest::keyClick(&program.control<QWidget>(forms::kUnits, "Option1"), Qt::Key_Return);
+        QVERIFY(!units.isVisible());
+        Form& sizes = program.open(forms::kSizes);
+        QTest::keyClick(&sizes, Qt::Key_Return);
+        QCOMPARE(program.inFront(), std::string(forms::kLoads));
+    }
+
+    void enterPressesTheButtonWithTheFocus() {
+        Keys program;
+        program.open(forms::kSizes);
+        auto& menu = program.control<QWidget>(forms::kSizes, "Command3");
+        menu.setFocus();
+        QTest::keyClick(&menu, Qt::Key_Return);
+        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
+    }
+
+    void altWithALetterTypesNothing() {
+        Keys program;
+        program.open(forms::kSizes);
+        QLineEdit& bore = program.field(forms::kSizes, "Text1");
+        bore.clear();
+        QTest::keyClick(&bore, Qt::Key_E, Qt::AltModifier);
+        QTest::keyClick(&bore, Qt::Key_5, Qt::AltModifier);
+        QCOMPARE(bore.text(), QString());
+        QTest::keyClicks(&bore, "5e1");
+        QCOMPARE(bore.text(), QString("5e1"));
+        program.open(forms::kPartNumber);
+        QLineEdit& number = program.field(forms::kPartNumber, "Text1");
+        number.clear();
+        QTest::keyClick(&number, Qt::Key_Z, Qt::AltModifier);
+        QCOMPARE(number.text(), QString());
+    }
+
+    void theSizeThatAMessageIsAboutHasTheFocusAndIsSelected() {
+        Keys program;
+        program.open(forms::kSizes);
+        program.type(forms::kSizes, "Text4", "1.2e");
+        program.click(forms::kSizes, "Command2");
+        QCOMPARE(program.lastMessage().prompt,
+                 std::string("Please Enter Maximum Height\n\n\"1.2e\" is not a number."));
+        QLineEdit& height = program.field(forms::kSizes, "Text4");
+        QCOMPARE(program.screens.current()->focusWidget(), &height);
+        QCOMPARE(height.selectedText(), QString("1.2e"));
+    }
+
+    void theLoadThatAMessageIsAboutHasTheFocusAndIsSelected() {
+        Keys program;
+        program.open(forms::kLoads);
+        program.field(forms::kLoads, "Text3").setText("much");
+        program.click(forms::kLoads, "Command1");
+        QCOMPARE(program.lastMessage().prompt, std::string("Moment Load input error"));
+        QLineEdit& moment = program.field(forms::kLoads, "Text3");
+        QCOMPARE(program.screens.current()->focusWidget(), &moment);
+        QCOMPARE(moment.selectedText(), QString("much"));
+    }
+};
+
+}  // namespace
+}  // namespace norlaplan::testing
+
+QTEST_MAIN(norlaplan::testing::KeysTest)
+#include "KeysTest.moc"
