@@ -7,9 +7,9 @@
 
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
-#include "loaddist/LubeFilm.h"
 #include "cli/OutputFile.h"
 #include "cli/Reports.h"
+#include "loaddist/LubeFilm.h"
 
 namespace norlaplan::cli {
 namespace {

@@ -50,8 +50,7 @@ CommandResult playCommand(Session& session, const PartNumberOption& number);
 CommandResult fitsCommand(Session& session, const PartNumberOption& number, const FitOptions& options);
 CommandResult searchCommand(Session& session, const SearchOptions& options, const LoadOptions& loads);
 
-// The calculations of the commands that also have a report. Errors as theirs.
-void calculateLife(Session& session, const PartNumberOption& number, const LoadOptions& loads);
+/// The calculation of `search`, which also has a report. Errors as its.
 void runSearch(Session& session, const SearchOptions& options, const LoadOptions& loads);
 
 }  // namespace norlaplan::cli

@@ -82,15 +82,6 @@ std::string lifeText(const ProgramState& state) {
 
 }  // namespace
 
-void calculateLife(Session& session, const PartNumberOption& number, const LoadOptions& loads) {
-    session.decode(number);
-    // As on the menu: the load screen opens only for a bearing that can be loaded.
-    refuse(loadableBearingRefusal(session.state()));
-    session.enter(loads);
-    refuse(lifeRefusal(session.state()));
-    if (!computeLoadLife(session.state(), session.messages())) session.failWithLastMessage();
-}
-
 CommandResult lifeCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads) {
     calculateLife(session, number, loads);
     return {lifeJson(session.state()), lifeText(session.state())};

@@ -1,5 +1,6 @@
 #include "cli/Reports.h"
 
+#include "cli/LoadedBearing.h"
 #include "documents/DataSheet.h"
 #include "documents/LoadLifeReport.h"
 #include "documents/SearchReport.h"

@@ -20,7 +20,7 @@
 namespace norlaplan {
 namespace {
 
-constexpr int kProgramWidth = 900;
+constexpr int kProgramWidth = 940;
 /// Room for the title bar and the borders of a window that the desktop hasn't framed yet.
 constexpr QSize kUsualFrame(8, 40);
 
@@ -114,6 +114,7 @@ QSize Form::sizeFor(const QSize& room) const {
 void Form::prepareToShow(const QRect& room) {
     if (!fitted_.isValid()) orderTabs();
     accelerators::assign(*this, menus_);
+    room_ = room;
     fitTo(room.size() - (frameGeometry().size() - size()).expandedTo(kUsualFrame));
 }
 
@@ -125,10 +126,9 @@ void Form::fitTo(const QSize& room) {
 
 void Form::followContents() {
     if (!isVisible() || isMaximized() || size() != fitted_) return;
-    const QRect room = screen()->availableGeometry();
-    fitTo(room.size() - (frameGeometry().size() - size()).expandedTo(kUsualFrame));
+    fitTo(room_.size() - (frameGeometry().size() - size()).expandedTo(kUsualFrame));
     const QRect own = frameGeometry();
-    if (own.bottom() > room.bottom()) move(x(), std::max(room.top(), room.bottom() - own.height()));
+    if (own.bottom() > room_.bottom()) move(x(), std::max(room_.top(), room_.bottom() - own.height()));
 }
 
 void Form::orderTabs() {

@@ -102,6 +102,7 @@ class Form : public QWidget {
     QPushButton* main_ = nullptr;
     std::vector<QPushButton*> footerTabs_;
     Width width_ = Width::Program;
+    QRect room_;    ///< of the screen, when it appeared
     QSize fitted_;  ///< the size that the form gave itself; any other is the user's
 };
 

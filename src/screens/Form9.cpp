@@ -78,6 +78,7 @@ QGroupBox* Form9::makeSeparators(const char* name, const std::vector<std::array<
            [this, choice = letter] { state().zSeparatorEntered = choice; });
         row->addWidget(option);
     }
+    row->addStretch();
     frame->hide();
     return frame;
 }

@@ -67,7 +67,10 @@ QPushButton* button(const char* name, const QString& caption, const QString& tip
 }
 
 QRadioButton* option(const char* name, const QString& caption, const QString& tip) {
-    return named<QRadioButton>(new Option(caption), name, tip, spokenCaption(caption));
+    QRadioButton* const control = named<QRadioButton>(new Option(caption), name, tip, spokenCaption(caption));
+    // As wide as its words: only they and the mark take a click.
+    control->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    return control;
 }
 
 QLabel* label(const char* name, const QString& caption) {

@@ -35,6 +35,8 @@ struct Program {
         return *found;
     }
     void click(const std::string& form, const char* name) {
+        // What has just come into view takes its place first, as before any user's click.
+        QCoreApplication::processEvents();
         QTest::mouseClick(&control<QAbstractButton>(form, name), Qt::LeftButton);
     }
     /// Fails the test unless the button has this caption and tip.

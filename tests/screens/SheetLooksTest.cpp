@@ -49,10 +49,10 @@ PageBox inkOf(const RecordingCanvas::Text& text) {
                    QImage::Format_Grayscale8);
     picture.fill(Qt::white);
     QPainter painter(&picture);
-    painter.translate(-left * kDotsPerInch, -(kPageHeightInches - top) * kDotsPerInch);
+    painter.translate(-left * kDotsPerInch, -(papers::kLetter.height - top) * kDotsPerInch);
     TextLook look = text.look;
     look.colour = colours::kBlack;
-    PainterCanvas(painter, kDotsPerInch).text(text.box, text.text, look);
+    PainterCanvas(painter, papers::kLetter, kDotsPerInch).text(text.box, text.text, look);
     painter.end();
     int west = picture.width(), east = -1, north = picture.height(), south = -1;
     for (int y = 0; y < picture.height(); ++y) {
@@ -252,7 +252,7 @@ class SheetLooksTest : public QObject {
         picture.fill(Qt::white);
         QPainter painter(&picture);
         // A tenth of an inch wide, then one and a half points; the page's upper left corner is in view.
-        PainterCanvas canvas(painter, 200.0);
+        PainterCanvas canvas(painter, papers::kLetter, 200.0);
         canvas.line({0.5, 10.5}, {1.5, 10.5}, {colours::kRed, 91440.0, 0});
         canvas.line({0.5, 10.0}, {1.5, 10.0}, {colours::kRed, 38099.0, 0});
         painter.end();
