@@ -18,12 +18,28 @@ constexpr double kStockLeft = 6.2;
 constexpr double kMarkLeft = 6.8;
 
 std::string sortedBy(const SearchResults& results) {
-    const std::string column = results.sortColumn == 5   ? "BORE SIZE"
-                               : results.sortColumn == 6 ? "O.D. SIZE"
-                               : results.sortColumn == 3 ? "L10 LIFE"
-                                                         : "AVAILABILITY";
+    const auto column = [&]() -> const char* {
+        switch (static_cast<int>(results.sortColumn)) {
+            case kSortByName:
+                return "BEARING NUMBER";
+            case kSortByLimitSpeed:
+                return "LIMIT SPEED";
+            case kSortByLife:
+                return "L10 LIFE";
+            case kSortByHours:
+                return "L10 LIFE IN HOURS";
+            case kSortByBore:
+                return "BORE SIZE";
+            case kSortByOd:
+                return "O.D. SIZE";
+            case kSortByHeight:
+                return "HEIGHT";
+            default:
+                return "AVAILABILITY";
+        }
+    };
     return std::string("BEARINGS SORTED IN ") +
-           (results.sortDirection == "UP" ? "ASCENDING " : "DESCENDING ") + "ORDER BY " + column;
+           (results.sortDirection == "UP" ? "ASCENDING " : "DESCENDING ") + "ORDER BY " + column();
 }
 
 void printHead(Canvas& canvas, PageWriter& page, const ProgramState& state) {

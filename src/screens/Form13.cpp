@@ -15,19 +15,19 @@
 namespace norlaplan {
 
 Form13::Form13(Screens& screens) : Form(screens, forms::kSort, "List Sort Options") {
-    bore_ = build::option("Option1", "Bore Diameter");
-    od_ = build::option("Option2", "Outer Diameter");
-    life_ = build::option("Option3", "L10 Life");
-    availability_ = build::option("Option4", "Availability");
+    columns_ = {{{build::option("Option1", "Bore Diameter"), kSortByBore},
+                 {build::option("Option2", "Outer Diameter"), kSortByOd},
+                 {build::option("Option3", "L10 Life"), kSortByLife},
+                 {build::option("Option4", "Availability"), kSortByAvailability}}};
     ascending_ = build::option("Option5", "Ascending");
     descending_ = build::option("Option6", "Decending");
     process_ = button("Command1", "Process", "Sort the list and go back to it", [this] { process(); });
-    bore_->setChecked(true);
+    columns_.front().option->setChecked(true);
     ascending_->setChecked(true);
 
     QGroupBox* const columns = build::frame("Frame1", "Sort by");
     auto* const columnBox = theme::spaced(new QVBoxLayout(columns));
-    for (QRadioButton* const option : {bore_, od_, life_, availability_})
+    for (const auto& [option, column] : columns_)
         columnBox->addWidget(option);
     QGroupBox* const order = build::frame("Frame2", "Order");
     auto* const orderBox = theme::spaced(new QVBoxLayout(order));
@@ -43,16 +43,23 @@ Form13::Form13(Screens& screens) : Form(screens, forms::kSort, "List Sort Option
 }
 
 void Form13::opened() {
+    // The marks say how the list stands, also where it was sorted by a click on a head.
+    const SearchResults& results = state().search;
+    if (results.sorted) {
+        for (const auto& [option, column] : columns_) {
+            if (column == results.sortColumn) option->setChecked(true);
+        }
+        (results.sortDirection == "UP" ? ascending_ : descending_)->setChecked(true);
+    }
     process_->setFocus();
 }
 
 void Form13::process() {
     const BusyPointer busy;
     SearchResults& results = state().search;
-    results.sortColumn = od_->isChecked()             ? kSortByOd
-                         : life_->isChecked()         ? kSortByLife
-                         : availability_->isChecked() ? kSortByAvailability
-                                                      : kSortByBore;
+    for (const auto& [option, column] : columns_) {
+        if (option->isChecked()) results.sortColumn = column;
+    }
     results.sortDirection = ascending_->isChecked() ? "UP" : "DOWN";
     sortHits(results);
     screens().hide(*this);

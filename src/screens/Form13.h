@@ -1,6 +1,9 @@
 #pragma once
 
+#include <array>
+
 #include "screens/Form.h"
+#include "state/SearchRecords.h"
 
 class QPushButton;
 class QRadioButton;
@@ -17,7 +20,12 @@ class Form13 : public Form {
   private:
     void process();
 
-    QRadioButton *bore_, *od_, *life_, *availability_;
+    struct Column {
+        QRadioButton* option;
+        SortColumn sort;
+    };
+
+    std::array<Column, 4> columns_;
     QRadioButton *ascending_, *descending_;
     QPushButton* process_;
 };

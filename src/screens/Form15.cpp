@@ -1,14 +1,15 @@
 #include "screens/Form15.h"
 
 #include <QComboBox>
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QSignalBlocker>
-#include <QTreeView>
+#include <QStandardItemModel>
+#include <QVBoxLayout>
 
 #include "documents/SearchReport.h"
 #include "numbers/Text.h"
@@ -17,11 +18,13 @@
 #include "screens/DocumentOutput.h"
 #include "screens/FormBuilder.h"
 #include "screens/HitModel.h"
+#include "screens/HitTable.h"
 #include "screens/Picture.h"
 #include "screens/Screens.h"
 #include "screens/SearchProgress.h"
 #include "screens/Theme.h"
 #include "search/HitChoice.h"
+#include "search/HitSort.h"
 #include "search/SearchEngine.h"
 #include "state/StyleTable.h"
 
@@ -60,7 +63,7 @@ QGroupBox* Form15::loadsFrame() {
 QGroupBox* Form15::styleFrame() {
     styleGroup_ =
         build::labelFrame("Frame4", "BEARING STYLE", {}, "Image of bearing style chosen for analysis");
-    picture_ = new Picture("Image1", "Section of the chosen style", {200, 130});
+    picture_ = new Picture("Image1", "Section of the chosen style", {180, 104});
     picture_->setToolTip("Image of bearing style chosen for analysis");
     build::columnOf(*styleGroup_).insertWidget(0, picture_, 1);
     return styleGroup_;
@@ -68,49 +71,54 @@ QGroupBox* Form15::styleFrame() {
 
 QGroupBox* Form15::resultsFrame() {
     QGroupBox* const frame = build::frame("Frame3", "RESULTS OF SEARCH");
-    QLabel* const head = build::label("Label9", "BEARING         L10  LIFE              L10  LIFE");
-    head->setFont(theme::valueFont());
+    listHead_ = build::label("Label9", "BEARING         L10  LIFE              L10  LIFE");
     list_ = build::choice("Combo1", "Bearings that fit, with their life", "Bearings that fit");
+    // The names of one list are longer than those of another; the window keeps its width.
+    list_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     rows_ = new QStandardItemModel(this);
     list_->setModel(rows_);
-    table_ = new QTreeView;
-    table_->setObjectName("List1");
-    table_->setAccessibleName("Bearings that fit, in columns");
+    table_ = new HitTable("List1");
     table_->setModel(rows_);
-    table_->setRootIsDecorated(false);
-    table_->setUniformRowHeights(true);
-    table_->setAlternatingRowColors(true);
-    table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table_->setMinimumSize(600, 200);
-    auto* const column = theme::spaced(new QVBoxLayout(frame));
-    column->addWidget(head);
+    auto* const column = theme::spaced(new QVBoxLayout(frame), theme::kGap);
+    column->setSpacing(2);
+    column->addWidget(listHead_);
     column->addWidget(list_);
+    column->addSpacing(theme::kGap);
     column->addWidget(table_, 1);
     return frame;
 }
 
 QGroupBox* Form15::chosenFrame() {
+    chosenGroup_ = build::frame("Frame5", "CHOSEN BEARING");
+    chosenGroup_->setToolTip("Envelope size of selected bearing");
     hint_ = build::label("Label14");
+    // The blanks that once broke the hint into lines are passed over; it stays the stated text.
+    hint_->setTextFormat(Qt::RichText);
     hint_->setWordWrap(true);
-    hint_->setMinimumWidth(180);
-    chosenGroup_ = build::labelFrame(
-        "Frame5", "CHOSEN BEARING",
-        {chosenBore_ = build::valueLabel("Label11"), chosenOd_ = build::valueLabel("Label12"),
-         chosenHeight_ = build::valueLabel("Label13"), hint_},
-        "Envelope size of selected bearing");
+    auto* const row = theme::spaced(new QHBoxLayout(chosenGroup_), theme::kGap);
+    row->setSpacing(theme::kWideGap);
+    for (QLabel* const label :
+         {chosenBore_ = build::valueLabel("Label11"), chosenOd_ = build::valueLabel("Label12"),
+         chosenHeight_ = build::valueLabel("Label13")})
+        row->addWidget(label);
+    row->addWidget(hint_, 1);
+    row->addStretch();
+    // The list stays where it is when a choice appears.
+    QSizePolicy held = chosenGroup_->sizePolicy();
+    held.setRetainSizeWhenHidden(true);
+    chosenGroup_->setSizePolicy(held);
     return chosenGroup_;
 }
 
 void Form15::layOut() {
     auto* const top = theme::spaced(new QHBoxLayout, 0);
-    top->addWidget(requirementsFrame(), 2);
-    top->addWidget(loadsFrame(), 2);
-    top->addWidget(styleFrame(), 2);
-    auto* const middle = theme::spaced(new QHBoxLayout, 0);
-    middle->addWidget(resultsFrame(), 5);
-    middle->addWidget(chosenFrame(), 2);
+    for (QGroupBox* const frame : {requirementsFrame(), loadsFrame(), styleFrame()}) {
+        frame->layout()->setContentsMargins(theme::kGap, theme::kGap, theme::kGap, theme::kGap);
+        top->addWidget(frame, 1);
+    }
     page().addLayout(top);
-    page().addLayout(middle, 1);
+    page().addWidget(resultsFrame(), 1);
+    page().addWidget(chosenFrame());
     shortCut_ = button("Command4", "&Short-cut to Data Sheet", "Create data sheet for chosen bearing",
                        [this] { showDataSheet(); });
     setFooter(
@@ -127,6 +135,9 @@ void Form15::connectChoice() {
             [this](int index) { run("Choose bearing", [this, index] { choose(index); }); });
     connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& row) { list_->setCurrentIndex(row.row()); });
+    connect(table_->header(), &QHeaderView::sectionClicked, this,
+            [this](int column) { run("Sort List", [this, column] { sortByHead(column); }); });
+    on(table_, &QTreeView::doubleClicked, "Short-cut to Data Sheet", [this] { showDataSheet(); });
 }
 
 void Form15::opened() {
@@ -145,7 +156,7 @@ void Form15::cameBack() {
 bool Form15::takeSortedList() {
     if (!state().search.listOnlyFlag) return false;
     state().search.listOnlyFlag = false;
-    fillList(false);
+    fillList(false, 1);
     return true;
 }
 
@@ -158,7 +169,7 @@ void Form15::keepLow() {
 
 void Form15::search() {
     chosenGroup_->hide();
-    rows_->clear();
+    rows_->setRowCount(0);
     showRequirements();
     SearchEnd end = SearchEnd::Stopped;
     try {
@@ -169,7 +180,7 @@ void Form15::search() {
         throw;
     }
     if (end == SearchEnd::Found) {
-        fillList(true);
+        fillList(true, std::max(1, entryOf(state().search, state().search.chosenName)));
         return;
     }
     screens().showInstead(*this, end == SearchEnd::NoneFound ? forms::kSizes : forms::kLoads);
@@ -194,28 +205,32 @@ void Form15::showRequirements() {
     speed_->setText(text("SPEED =  " + plainText(now.loads.speed) + " RPM"));
     speed_->setVisible(now.loads.speed > 0.0);
     styleGroup_->setTitle(text(caption));
-    list_->setFont(theme::listFont(hasSpacers(caption)));
+    for (QWidget* const widget : {static_cast<QWidget*>(listHead_), static_cast<QWidget*>(list_)})
+        widget->setFont(theme::listFont(hasSpacers(caption)));
     if (const StyleRow* const style = styleByCaption(caption)) {
         picture_->showFile(services().folder, stylePicture(*style, 'T'));
     }
 }
 
-void Form15::fillList(bool fresh) {
+void Form15::fillList(bool fresh, int entry) {
     {
         const QSignalBlocker quietList(list_);
         const QSignalBlocker quietTable(table_->selectionModel());
         fillHitModel(*rows_, state(), fresh);
-        layOutHitTable(*table_, state());
+        // The widths that the user gave the columns are kept as long as the rows are the same.
+        if (fresh) table_->layOutColumns(state().loads.speed != 0.0);
+        table_->showOrder(state().search);
         list_->setCurrentIndex(-1);
     }
-    list_->setCurrentIndex(0);
+    list_->setCurrentIndex(entry - 1);
     shortCut_->setEnabled(true);
-    list_->setFocus();
+    table_->setFocus();
 }
 
 void Form15::choose(int index) {
     const std::optional<ChosenBearing> chosen = chosenHit(state(), index + 1);
     if (!chosen) return;
+    state().search.chosenName = chosen->caption;
     table_->setCurrentIndex(rows_->index(index, kNameColumn));
     chosenGroup_->setTitle(text(chosen->caption));
     chosenBore_->setText(text(chosen->boreLine));
@@ -243,10 +258,25 @@ void Form15::sort() {
     screens().show(forms::kSort);
 }
 
+void Form15::sortByHead(int column) {
+    SearchResults& results = state().search;
+    if (const int wanted = sortColumnOf(column); wanted != 0) {
+        const bool upward = results.sorted && results.sortColumn == wanted && results.sortDirection == "UP";
+        results.sortColumn = wanted;
+        results.sortDirection = upward ? "DOWN" : "UP";
+        sortHits(results);
+        results.listOnlyFlag = false;
+        fillList(false, std::max(1, entryOf(results, results.chosenName)));
+    }
+    // A click moves the arrow by itself, also on a head that nothing is sorted by.
+    table_->showOrder(results);
+}
+
 void Form15::showDataSheet() {
     // The sheet on show is that of the last decode, so the chosen bearing is decoded first.
     if (list_->currentIndex() < 0 || decodeChosen() != DecodeEnd::Decoded) return;
-    screens().showInstead(*this, forms::kDataSheet);
+    // The list stays open beneath: who closes the sheet is back at the choice.
+    screens().show(forms::kDataSheet);
 }
 
 void Form15::print() {

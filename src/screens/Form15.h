@@ -7,11 +7,11 @@ class QComboBox;
 class QGroupBox;
 class QLabel;
 class QPushButton;
-class QTreeView;
 class QStandardItemModel;
 
 namespace norlaplan {
 
+class HitTable;
 class Picture;
 
 /// Life calculation results: the list of bearings that fit, and the one that is chosen.
@@ -35,8 +35,9 @@ class Form15 : public Form {
     bool takeSortedList();
     void search();
     void showRequirements();
-    /// Fills the list from the rows; freshly computed ones carry their over-speed marks.
-    void fillList(bool fresh);
+    /// Fills the list from the rows and chooses one of them, counted from 1; the lines of freshly computed
+    /// ones carry their over-speed marks.
+    void fillList(bool fresh, int entry);
     void choose(int index);
     void keepLow();
     DecodeEnd decodeChosen();
@@ -44,6 +45,8 @@ class Form15 : public Form {
     void goToMainMenu();
     void goToPrevious();
     void sort();
+    /// Sorts by the column whose head was clicked: upward, by a second click downward.
+    void sortByHead(int column);
     void showDataSheet();
     void print();
     void save();
@@ -52,8 +55,9 @@ class Form15 : public Form {
     QLabel *radial_, *axial_, *moment_, *speed_;
     QGroupBox *styleGroup_, *chosenGroup_;
     Picture* picture_;
+    QLabel* listHead_;
     QComboBox* list_;
-    QTreeView* table_;
+    HitTable* table_;
     QStandardItemModel* rows_;
     QLabel *chosenBore_, *chosenOd_, *chosenHeight_, *hint_;
     QPushButton* shortCut_;

@@ -1,53 +1,106 @@
 #include "screens/HitModel.h"
 
-#include <QHeaderView>
-#include <QTreeView>
+#include <QGuiApplication>
 
 #include "numbers/FormatNumber.h"
 #include "numbers/Text.h"
+#include "screens/Theme.h"
 #include "search/HitLine.h"
 
 namespace norlaplan {
 namespace {
 
-QStandardItem* item(const std::string& text, Qt::Alignment alignment = Qt::AlignLeft) {
-    auto* const made = new QStandardItem(QString::fromStdString(text));
+std::string asItIs(const std::string& text) {
+    return trimmed(text);
+}
+std::string grouped(const std::string& text) {
+    return FormatNumber(leadingNumber(text), "#,##0");
+}
+/// With the digits that a life is worth, as the line has it.
+std::string inPowersOfTen(const std::string& text) {
+    return FormatNumber(Single(leadingNumber(text)), "0.00E+00");
+}
+
+struct Column {
+    HitColumn column;
+    SortColumn sort;
+    const char* head;  ///< in two lines, for the figures are narrow; %1 is the unit of length
+    std::string SearchHit::*text;
+    std::string (*shown)(const std::string& text);
+    Qt::Alignment alignment;
+};
+
+const Column kColumns[] = {
+    {kNameColumn, kSortByName, "Bearing", &SearchHit::name, asItIs, Qt::AlignLeft},
+    {kBoreColumn, kSortByBore, "Bore\n(%1)", &SearchHit::boreText, asItIs, Qt::AlignRight},
+    {kOdColumn, kSortByOd, "O.D.\n(%1)", &SearchHit::odText, asItIs, Qt::AlignRight},
+    {kHeightColumn, kSortByHeight, "Height\n(%1)", &SearchHit::heightText, asItIs, Qt::AlignRight},
+    {kLifeColumn, kSortByLife, "L10 life\n(rev.)", &SearchHit::l10Revolutions, inPowersOfTen, Qt::AlignRight},
+    {kHoursColumn, kSortByHours, "L10 life\n(hours)", &SearchHit::l10Hours, grouped, Qt::AlignRight},
+    {kLimitSpeedColumn, kSortByLimitSpeed, "Limit speed\n(rpm)", &SearchHit::speedLimit, grouped,
+     Qt::AlignRight},
+    {kStockColumn, kSortByAvailability, "Stock", &SearchHit::stock, asItIs, Qt::AlignLeft},
+};
+constexpr const char* kMarkHead = "Speed\ncheck";
+
+void setHead(QStandardItemModel& model, int column, const QString& text, Qt::Alignment alignment) {
+    auto* const head = new QStandardItem(text);
+    head->setTextAlignment(alignment | Qt::AlignVCenter);
+    model.setHorizontalHeaderItem(column, head);
+}
+
+QStandardItem* item(const std::string& shown, const std::string& plain, Qt::Alignment alignment) {
+    auto* const made = new QStandardItem(QString::fromStdString(shown));
+    made->setData(QString::fromStdString(plain), kPlainTextRole);
     made->setTextAlignment(alignment | Qt::AlignVCenter);
     made->setEditable(false);
     return made;
 }
 
-std::string shownLife(const std::string& text) {
-    return FormatNumber(Single(leadingNumber(text)), "0.00E+00");
+QList<QStandardItem*> rowOf(const ProgramState& state, const SearchHit& hit, bool fresh) {
+    const bool speed = state.loads.speed != 0.0;
+    const std::string mark = speed ? overSpeedMark(state, hit) : "";
+    const std::string line = FormatHitLine(state, hit, fresh ? mark : "");
+    QList<QStandardItem*> row = {item(line, line, Qt::AlignLeft)};
+    for (const Column& column : kColumns) {
+        const std::string& text = hit.*column.text;
+        const bool empty = column.column == kHoursColumn && !speed;
+        row.append(empty ? item("", "", column.alignment)
+                         : item(column.shown(text), trimmed(text), column.alignment));
+    }
+    row.append(item(trimmed(mark), trimmed(mark), Qt::AlignLeft));
+    row.last()->setForeground(theme::badColour(QGuiApplication::palette()));
+    return row;
 }
 
 }  // namespace
 
 void fillHitModel(QStandardItemModel& model, const ProgramState& state, bool fresh) {
-    model.clear();
-    model.setHorizontalHeaderLabels({"", "Bearing", "L10 (rev.)", "L10 (hours)", "Stock", "Speed"});
-    const bool speed = state.loads.speed != 0.0;
-    for (const SearchHit& hit : state.search.rows) {
-        const std::string mark = fresh && speed ? overSpeedMark(state, hit) : "";
-        model.appendRow({item(FormatHitLine(state, hit, mark)), item(hit.name),
-                         item(shownLife(hit.l10Revolutions), Qt::AlignRight),
-                         item(speed ? shownLife(hit.l10Hours) : "", Qt::AlignRight), item(trimmed(hit.stock)),
-                         item(trimmed(mark))});
+    model.setRowCount(0);
+    model.setColumnCount(kHitColumns);
+    const QString unit = QString::fromStdString(state.units.lengthUnit);
+    for (const Column& column : kColumns) {
+        const QString head = QString::fromUtf8(column.head);
+        setHead(model, column.column, head.contains(QLatin1String("%1")) ? head.arg(unit) : head,
+                column.alignment);
     }
+    setHead(model, kMarkColumn, QString::fromUtf8(kMarkHead), Qt::AlignLeft);
+    for (const SearchHit& hit : state.search.rows)
+        model.appendRow(rowOf(state, hit, fresh));
 }
 
-void layOutHitTable(QTreeView& table, const ProgramState& state) {
-    const bool speed = state.loads.speed != 0.0;
-    table.setColumnHidden(kLineColumn, true);
-    table.setColumnHidden(kHoursColumn, !speed);
-    table.setColumnHidden(kMarkColumn, !speed);
-    // The last column takes what is left; a width of its own would push it out of view.
-    const int last = speed ? kMarkColumn : kStockColumn;
-    for (int column = kNameColumn; column < last; ++column) {
-        table.resizeColumnToContents(column);
-        table.setColumnWidth(column, table.columnWidth(column) + 16);
+int sortColumnOf(int column) {
+    for (const Column& known : kColumns) {
+        if (known.column == column) return known.sort;
     }
-    table.header()->setStretchLastSection(true);
+    return 0;
+}
+
+int columnSortedBy(int sortColumn) {
+    for (const Column& known : kColumns) {
+        if (known.sort == sortColumn) return known.column;
+    }
+    return -1;
 }
 
 }  // namespace norlaplan

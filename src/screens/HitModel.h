@@ -4,17 +4,33 @@
 
 #include "state/ProgramState.h"
 
-class QTreeView;
-
 namespace norlaplan {
 
-/// The columns of the results model: the whole line for the drop-down list, then its parts.
-enum HitColumn { kLineColumn, kNameColumn, kLifeColumn, kHoursColumn, kStockColumn, kMarkColumn };
+/// The columns of the results model: the whole line for the drop-down list, then what a row says, one by one.
+enum HitColumn {
+    kLineColumn,
+    kNameColumn,
+    kBoreColumn,
+    kOdColumn,
+    kHeightColumn,
+    kLifeColumn,
+    kHoursColumn,
+    kLimitSpeedColumn,
+    kStockColumn,
+    kMarkColumn,
+    kHitColumns
+};
 
-/// Fills the model from the rows of the state. Only freshly computed rows carry their over-speed marks.
+/// What a cell gives to other programs: a number with all the digits that the row holds, ungrouped.
+constexpr int kPlainTextRole = Qt::UserRole;
+
+/// Fills the model from the rows of the state. Only the lines of freshly computed rows carry their over-speed
+/// marks; the column of the marks has them always. With no speed there are no hours and no marks.
 void fillHitModel(QStandardItemModel& model, const ProgramState& state, bool fresh);
 
-/// Shows the model's parts as columns that stand in line.
-void layOutHitTable(QTreeView& table, const ProgramState& state);
+/// The `SortColumn` that a column of the model shows; 0 for the line and the mark.
+int sortColumnOf(int column);
+/// The column of the model that shows a `SortColumn`; -1 when there is none.
+int columnSortedBy(int sortColumn);
 
 }  // namespace norlaplan

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QProxyStyle>
 #include <QPushButton>
+#include <QStyleOption>
 #include <QWidget>
 
 #include "screens/BearingIcon.h"
@@ -14,6 +15,8 @@ namespace {
 
 constexpr double kTextPoints = 10.0;
 constexpr double kPanelRadius = 10.0;
+constexpr int kBesideCellText = 6;
+constexpr QSize kArrow(12, 6);
 
 QFont programFont(double points, QFont::Weight weight = QFont::Normal) {
     QFont font(QStringLiteral("Liberation Sans"));
@@ -46,9 +49,46 @@ class ProgramStyle : public QProxyStyle {
             case CT_LineEdit:
             case CT_ComboBox:
                 return size + QSize(6, 8);
+            case CT_HeaderSection:
+                return headSize(*option, contents, widget);
             default:
                 return size;
         }
+    }
+
+    QRect subElementRect(SubElement element, const QStyleOption* option,
+                         const QWidget* widget) const override {
+        const QRect& head = option->rect;
+        switch (element) {
+            case SE_HeaderArrow:
+                return {head.center().x() - kArrow.width() / 2, head.top() + 1, kArrow.width(),
+                        kArrow.height()};
+            case SE_HeaderLabel:
+                return head.adjusted(kBesideCellText, kBesideCellText, -kBesideCellText, -kBesideCellText);
+            default:
+                return QProxyStyle::subElementRect(element, option, widget);
+        }
+    }
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        switch (metric) {
+            // A table's texts stand off their columns' edges, and its heads in line with them.
+            case PM_HeaderMargin:
+                return kBesideCellText;
+            case PM_FocusFrameHMargin:
+                return kBesideCellText - 1;
+            default:
+                return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
+
+  private:
+    /// The arrow of a sorted column stands above its head, where it takes no room beside the text.
+    QSize headSize(const QStyleOption& option, const QSize& contents, const QWidget* widget) const {
+        const auto* const head = qstyleoption_cast<const QStyleOptionHeader*>(&option);
+        QStyleOptionHeader withoutArrow(head == nullptr ? QStyleOptionHeader() : *head);
+        withoutArrow.sortIndicator = QStyleOptionHeader::None;
+        return QProxyStyle::sizeFromContents(CT_HeaderSection, &withoutArrow, contents, widget);
     }
 };
 

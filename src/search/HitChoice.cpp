@@ -3,6 +3,11 @@
 #include "numbers/Text.h"
 
 namespace norlaplan {
+namespace {
+
+constexpr std::size_t kNumberLength = 10;  ///< of a set's part number; its spacers stand behind it
+
+}  // namespace
 
 bool hasSpacers(const std::string& searchStyleCaption) {
     return searchStyleCaption.ends_with("SPACERS");
@@ -24,6 +29,19 @@ std::optional<ChosenBearing> chosenHit(const ProgramState& state, int entry) {
                             "                      without Spacers Only!";
     }
     return chosen;
+}
+
+int entryOf(const SearchResults& results, const std::string& name) {
+    const std::string wanted = trimmed(name);
+    if (wanted.empty()) return 0;
+    const auto bearing = [](const std::string& text) { return trimmed(text.substr(0, kNumberLength)); };
+    int same = 0, entry = 0;
+    for (const SearchHit& hit : results.rows) {
+        ++entry;
+        if (trimmed(hit.name) == wanted) return entry;
+        if (same == 0 && bearing(hit.name) == bearing(wanted)) same = entry;
+    }
+    return same;
 }
 
 }  // namespace norlaplan

@@ -22,4 +22,8 @@ bool hasSpacers(const std::string& searchStyleCaption);
 /// of its own, that of the set without them. Nothing for entry 0 or one beyond the list.
 std::optional<ChosenBearing> chosenHit(const ProgramState& state, int entry);
 
+/// The row (counted from 1) with this name; where there is none, the first with the same bearing in front of
+/// it, since a spacer's width in the name follows the sizes and units. 0 when there is neither.
+int entryOf(const SearchResults& results, const std::string& name);
+
 }  // namespace norlaplan

@@ -1,6 +1,7 @@
 #include "search/HitSort.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -39,18 +40,11 @@ void ranksToStock(SearchResults& results) {
 }
 
 std::string SearchHit::*columnOf(int number) {
-    switch (number) {
-        case kSortByLife:
-            return &SearchHit::l10Revolutions;
-        case kSortByBore:
-            return &SearchHit::boreText;
-        case kSortByOd:
-            return &SearchHit::odText;
-        case kSortByAvailability:
-            return &SearchHit::stock;
-        default:
-            raise(fault::kSubscript);
-    }
+    constexpr std::array kColumns = {
+        &SearchHit::name,     &SearchHit::speedLimit, &SearchHit::l10Revolutions, &SearchHit::l10Hours,
+        &SearchHit::boreText, &SearchHit::odText,     &SearchHit::heightText,     &SearchHit::stock};
+    if (number < kSortByName || number > kSortByAvailability) raise(fault::kSubscript);
+    return kColumns[static_cast<std::size_t>(number) - 1];
 }
 
 }  // namespace
@@ -60,11 +54,14 @@ void sortHits(SearchResults& results) {
     const bool byStock = results.sortColumn == kSortByAvailability;
     if (byStock) stockToRanks(results);
     const auto value = [&](const SearchHit& hit) { return Single(leadingNumber(hit.*column)).stored(); };
+    const bool byName = results.sortColumn == kSortByName;
+    const auto less = [&](const SearchHit& a, const SearchHit& b) {
+        return byName ? a.name < b.name : value(a) < value(b);
+    };
     const bool up = results.sortDirection == "UP";
     // Exchanging wrong neighbours until none is left is a stable sort; this one gives the same rows sooner.
-    std::stable_sort(results.rows.begin(), results.rows.end(), [&](const SearchHit& a, const SearchHit& b) {
-        return up ? value(a) < value(b) : value(a) > value(b);
-    });
+    std::stable_sort(results.rows.begin(), results.rows.end(),
+                     [&](const SearchHit& a, const SearchHit& b) { return up ? less(a, b) : less(b, a); });
     if (byStock) ranksToStock(results);
     results.sorted = true;
     results.listOnlyFlag = true;

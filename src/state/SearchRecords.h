@@ -27,6 +27,18 @@ struct SearchHit {
     bool operator==(const SearchHit&) const = default;
 };
 
+/// The columns of a row as a sort names them: by their places, counted from 1.
+enum SortColumn {
+    kSortByName = 1,
+    kSortByLimitSpeed,
+    kSortByLife,
+    kSortByHours,
+    kSortByBore,
+    kSortByOd,
+    kSortByHeight,
+    kSortByAvailability
+};
+
 /// The rows of the last search and how they stand.
 struct SearchResults {
     std::vector<SearchHit> rows;
@@ -35,8 +47,9 @@ struct SearchResults {
     bool noResultFlag = false;
     bool listOnlyFlag = false;  ///< the list is to be rebuilt from the rows, nothing computed
     bool sorted = false;
-    Int16 sortColumn = 5;
+    Int16 sortColumn = kSortByBore;
     std::string sortDirection = "UP";
+    std::string chosenName;  ///< of the row chosen last, also in the list before: it is found again
 };
 
 }  // namespace norlaplan

@@ -195,7 +195,9 @@ TEST(SearchPrint, NamesTheSortOfASortedListOnly) {
     state.search.sorted = true;
     EXPECT_TRUE(printed(state).hasText("BEARINGS SORTED IN ASCENDING ORDER BY BORE SIZE"));
     state.search.sortDirection = "DOWN";
-    const std::pair<int, const char*> columns[] = {{3, "L10 LIFE"}, {6, "O.D. SIZE"}, {8, "AVAILABILITY"}};
+    const std::pair<int, const char*> columns[] = {
+        {1, "BEARING NUMBER"}, {2, "LIMIT SPEED"}, {3, "L10 LIFE"},    {4, "L10 LIFE IN HOURS"},
+        {6, "O.D. SIZE"},      {7, "HEIGHT"},      {8, "AVAILABILITY"}};
     for (const auto& [column, name] : columns) {
         state.search.sortColumn = column;
         EXPECT_TRUE(printed(state).hasText(std::string("BEARINGS SORTED IN DESCENDING ORDER BY ") + name));

@@ -7,6 +7,7 @@
 #include "numbers/Text.h"
 #include "search/HitChoice.h"
 #include "search/HitSort.h"
+#include "support/FaultOf.h"
 
 namespace norlaplan {
 namespace {
@@ -49,6 +50,32 @@ TEST(HitSort, ByAvailabilityPutsStockFirstAndNoLastWithTextsOneBlankApart) {
     EXPECT_EQ(results.rows[0].stock, "YES ");
     EXPECT_EQ(results.rows[2].stock, "CALL ");
     EXPECT_EQ(results.rows[3].stock, "NO ");
+}
+
+SearchResults sortedByOther(int column, const std::string& direction) {
+    SearchResults results;
+    // Name, limit speed, life, hours, bore, O.D., height, stock.
+    results.rows = {{"K2", "900", "1", "70", "1", "1", "0.5118", "YES "},
+                    {"K10", "1000", "1", "8", "1", "1", "0.315", "YES "},
+                    {"K1", "900", "1", "600", "1", "1", "1.0", "YES "}};
+    results.sortColumn = column;
+    results.sortDirection = direction;
+    sortHits(results);
+    return results;
+}
+
+TEST(HitSort, TakesEveryOtherColumnByItsValueAndNamesByTheirLetters) {
+    EXPECT_EQ(names(sortedByOther(kSortByName, "UP")), "K1K10K2");
+    EXPECT_EQ(names(sortedByOther(kSortByName, "DOWN")), "K2K10K1");
+    EXPECT_EQ(names(sortedByOther(kSortByLimitSpeed, "UP")), "K2K1K10");
+    EXPECT_EQ(names(sortedByOther(kSortByLimitSpeed, "DOWN")), "K10K2K1");
+    EXPECT_EQ(names(sortedByOther(kSortByHours, "UP")), "K10K2K1");
+    EXPECT_EQ(names(sortedByOther(kSortByHeight, "DOWN")), "K1K2K10");
+}
+
+TEST(HitSort, KnowsNoColumnBeforeTheFirstAndNoneBehindTheLast) {
+    for (const int column : {0, 9})
+        EXPECT_EQ(testing::faultOf([&] { sortedByOther(column, "UP"); }), fault::kSubscript) << column;
 }
 
 TEST(HitSort, MarksTheListToBeRebuilt) {
@@ -112,6 +139,29 @@ TEST(HitChoice, TakesTheSetWithoutSpacersForOneWithThem) {
     EXPECT_EQ(
         chosen->spacerHint,
         "   Data Sheet Available for                K10013BR0A                      without Spacers Only!");
+}
+
+SearchResults listOf(const std::vector<std::string>& named) {
+    SearchResults results;
+    for (const std::string& name : named)
+        results.rows.push_back(hit(name, "1", "1", "YES "));
+    return results;
+}
+
+TEST(HitChoice, IsFoundAgainByItsName) {
+    const SearchResults results = listOf({"K10013XP0", "K11013XP0 ", "K11013XP0"});
+    EXPECT_EQ(entryOf(results, "K11013XP0"), 2);
+    EXPECT_EQ(entryOf(results, "K10013XP0 "), 1);
+    EXPECT_EQ(entryOf(results, "K12013XP0"), 0);
+    EXPECT_EQ(entryOf(results, ""), 0);
+    EXPECT_EQ(entryOf(listOf({""}), ""), 0);
+}
+
+TEST(HitChoice, IsFoundAgainWhereItsSpacersHaveAnotherWidth) {
+    const std::string inches = "K11013BR0A W/ 0.1764 spacers", millimetres = "K11013BR0A W/ 4.480 spacers";
+    EXPECT_EQ(entryOf(listOf({"K10013BR0A W/ 0.1764 spacers", inches}), millimetres), 2);
+    EXPECT_EQ(entryOf(listOf({inches, millimetres}), millimetres), 2) << "its own name goes before";
+    EXPECT_EQ(entryOf(listOf({"K11013FR0A"}), "K11013BR0A"), 0);
 }
 
 TEST(HitChoice, DoesNothingForNoEntry) {
