@@ -74,9 +74,12 @@ void FlowRow::setGeometry(const QRect& rect) {
     QLayout::setGeometry(rect);
     int top = rect.top();
     for (const Row& row : rowsFor(rect.width())) {
-        int left = rect.right() + 1 - widthOf(row);
+        const int spare = std::max(0, rect.width() - widthOf(row));
+        const int more = filled_ ? spare / std::max(1, static_cast<int>(row.size())) : 0;
+        int left = rect.left() + (filled_ ? 0 : spare);
         for (QLayoutItem* const item : row) {
-            const QSize size = item->sizeHint();
+            QSize size = item->sizeHint();
+            if (filled_) size = {std::min(size.width() + more, rect.width()), heightOf(row)};
             const bool apart = firstApart_ && item == items_.constFirst();
             item->setGeometry(QRect(QPoint(apart ? rect.left() : left, top), size));
             left += size.width() + spacing();

@@ -5,7 +5,7 @@
 namespace norlaplan {
 
 /// A row of buttons: the first at the left end, the others together at the right. Where they don't fit beside
-/// each other they go on in further rows, flush right.
+/// each other they go on in further rows, flush right. Or a row of frames, which share the whole width.
 class FlowRow : public QLayout {
   public:
     FlowRow();
@@ -13,6 +13,9 @@ class FlowRow : public QLayout {
 
     /// Whether the first item stands apart from the others, at the left.
     void setFirstApart(bool apart) { firstApart_ = apart; }
+
+    /// Whether the items of a row are made as high as each other and so wide that they fill it.
+    void setFilled(bool filled) { filled_ = filled; }
 
     void addItem(QLayoutItem* item) override { items_.append(item); }
     int count() const override { return static_cast<int>(items_.size()); }
@@ -32,6 +35,7 @@ class FlowRow : public QLayout {
 
     Row items_;
     bool firstApart_ = false;
+    bool filled_ = false;
 };
 
 }  // namespace norlaplan

@@ -2,7 +2,6 @@
 
 #include <QComboBox>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
@@ -16,6 +15,7 @@
 #include "screens/BusyPointer.h"
 #include "screens/Decoding.h"
 #include "screens/DocumentOutput.h"
+#include "screens/FlowRow.h"
 #include "screens/FormBuilder.h"
 #include "screens/HitModel.h"
 #include "screens/HitTable.h"
@@ -95,14 +95,15 @@ QGroupBox* Form15::chosenFrame() {
     // The blanks that once broke the hint into lines are passed over; it stays the stated text.
     hint_->setTextFormat(Qt::RichText);
     hint_->setWordWrap(true);
-    auto* const row = theme::spaced(new QHBoxLayout(chosenGroup_), theme::kGap);
-    row->setSpacing(theme::kWideGap);
+    auto* const sizes = new FlowRow;
+    sizes->setFilled(true);
     for (QLabel* const label :
          {chosenBore_ = build::valueLabel("Label11"), chosenOd_ = build::valueLabel("Label12"),
          chosenHeight_ = build::valueLabel("Label13")})
-        row->addWidget(label);
-    row->addWidget(hint_, 1);
-    row->addStretch();
+        sizes->addWidget(label);
+    auto* const column = theme::spaced(new QVBoxLayout(chosenGroup_), theme::kGap);
+    column->addLayout(sizes);
+    column->addWidget(hint_);
     // The list stays where it is when a choice appears.
     QSizePolicy held = chosenGroup_->sizePolicy();
     held.setRetainSizeWhenHidden(true);
@@ -111,10 +112,11 @@ QGroupBox* Form15::chosenFrame() {
 }
 
 void Form15::layOut() {
-    auto* const top = theme::spaced(new QHBoxLayout, 0);
+    auto* const top = new FlowRow;
+    top->setFilled(true);
     for (QGroupBox* const frame : {requirementsFrame(), loadsFrame(), styleFrame()}) {
         frame->layout()->setContentsMargins(theme::kGap, theme::kGap, theme::kGap, theme::kGap);
-        top->addWidget(frame, 1);
+        top->addWidget(frame);
     }
     page().addLayout(top);
     page().addWidget(resultsFrame(), 1);

@@ -61,14 +61,15 @@ void HitTable::layOutColumns(bool withSpeed) {
     // Columns stand apart where there is room. The last one takes what is left.
     const QList<int> columns = shownColumns();
     QList<int> widths;
-    int spare = viewport()->width();
+    // The scroll bar comes and goes with the rows; its room is never given away.
+    int spare = width() - 2 * frameWidth() - style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     for (const int column : columns) {
         widths.append(std::max(sizeHintForColumn(column), header()->sectionSizeHint(column)));
         spare -= widths.last();
     }
     const int more = std::clamp(spare / static_cast<int>(columns.size()), 0, kMostBetween);
-    for (qsizetype i = 0; i + 1 < columns.size(); ++i)
-        setColumnWidth(columns[i], widths[i] + more);
+    for (qsizetype i = 0; i < columns.size(); ++i)
+        setColumnWidth(columns[i], widths[i] + (i + 1 < columns.size() ? more : 0));
 }
 
 void HitTable::showOrder(const SearchResults& results) {

@@ -5,6 +5,8 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 
 #include "screens/HitModel.h"
 #include "screens/HitTable.h"
@@ -18,11 +20,13 @@ namespace {
 
 /// A search for 4-point contact bearings with a handful of results, opened from the main menu.
 struct Results : Program {
-    explicit Results(const char* speed = "3000") {
-        useUnits("US");
-        state.style = {"4-POINT CONTACT", "X"};
+    explicit Results(const char* speed = "3000")
+        : Results("US", {"4-POINT CONTACT", "X"}, {"5", "7", ".2", "1.2", "500", "200", "100", speed}) {}
+    Results(const char* units, const BearingStyle& style, const EntryTexts& entries) {
+        useUnits(units);
+        state.style = style;
         state.styleChosen = true;
-        state.entries = {"5", "7", ".2", "1.2", "500", "200", "100", speed};
+        state.entries = entries;
         enterSizes(state);
         enterLoads(state);
         screens.showAlone(forms::kMainMenu);
@@ -44,6 +48,15 @@ struct Results : Program {
         control<QRadioButton>(forms::kSort, column).setChecked(true);
         control<QRadioButton>(forms::kSort, direction).setChecked(true);
         click(forms::kSort, "Command1");
+    }
+    /// The form in front, in a room of this size.
+    Form& inRoom(int width, int height) {
+        Form& form = *screens.current();
+        // What has grown since the form appeared has been followed before it moves to another room.
+        QApplication::processEvents();
+        form.prepareToShow(QRect(0, 0, width, height));
+        QApplication::processEvents();
+        return form;
     }
     bool isMarked(const char* option) { return control<QRadioButton>(forms::kSort, option).isChecked(); }
 };
@@ -289,6 +302,45 @@ class ResultsListTest : public QObject {
             if (action->text() == "&Copy") action->trigger();
         }
         QCOMPARE(QApplication::clipboard()->text(), copied);
+    }
+
+    void theLongestNamesLeaveEveryColumnInSight() {
+        Results program("METRIC", {"BACK-TO-BACK SET WITH SPACERS", "A"},
+                        {"100", "228.6", "5", "30.48", "2224", "0", "0", "3000"});
+        Form& form = *program.screens.current();
+        QApplication::processEvents();
+        // The width that the program's windows share, and what a screen of 1024x768 leaves below a title bar.
+        QCOMPARE(form.sizeHint().width(), 900);
+        QVERIFY2(form.sizeHint().height() <= 700, qPrintable(QString::number(form.sizeHint().height())));
+        form.resize(form.sizeHint());
+        QApplication::processEvents();
+        QVERIFY(program.list().itemText(0).contains("W/ 14.480 spacers"));
+        QCOMPARE(program.table().horizontalScrollBar()->maximum(), 0);
+    }
+
+    void onASmallScreenThePageGoesOnDownwardAndNotSideways() {
+        Results program;
+        const Form& form = program.inRoom(512, 384);
+        QVERIFY(form.width() <= 512);
+        const auto* const page = form.findChild<QScrollArea*>();
+        QCOMPARE(page->horizontalScrollBar()->maximum(), 0);
+        QVERIFY(page->verticalScrollBar()->maximum() > 0);
+        const QWidget& sizes = program.control<QWidget>(forms::kResults, "Frame1");
+        const QWidget& loads = program.control<QWidget>(forms::kResults, "Frame2");
+        QVERIFY(loads.y() > sizes.y() + sizes.height() - 1);
+        QCOMPARE(loads.x(), sizes.x());
+    }
+
+    void theFramesShareTheWidth() {
+        Results program;
+        program.inRoom(1024, 740);
+        const QWidget& sizes = program.control<QWidget>(forms::kResults, "Frame1");
+        const QWidget& style = program.control<QWidget>(forms::kResults, "Frame4");
+        const QWidget& results = program.control<QWidget>(forms::kResults, "Frame3");
+        QCOMPARE(style.y(), sizes.y());
+        QCOMPARE(style.height(), sizes.height());
+        QCOMPARE(sizes.x(), results.x());
+        QVERIFY(results.geometry().right() - style.geometry().right() < 3);
     }
 
     void theChosenBearingMakesNothingJump() {
