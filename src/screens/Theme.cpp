@@ -16,7 +16,7 @@ namespace {
 constexpr double kTextPoints = 10.0;
 constexpr double kPanelRadius = 10.0;
 constexpr int kBesideCellText = 6;
-constexpr QSize kArrow(12, 6);
+constexpr QSize kArrow(14, 10);
 
 QFont programFont(double points, QFont::Weight weight = QFont::Normal) {
     QFont font(QStringLiteral("Liberation Sans"));
@@ -56,18 +56,13 @@ class ProgramStyle : public QProxyStyle {
         }
     }
 
-    QRect subElementRect(SubElement element, const QStyleOption* option,
-                         const QWidget* widget) const override {
-        const QRect& head = option->rect;
-        switch (element) {
-            case SE_HeaderArrow:
-                return {head.center().x() - kArrow.width() / 2, head.top() + 1, kArrow.width(),
-                        kArrow.height()};
-            case SE_HeaderLabel:
-                return head.adjusted(kBesideCellText, kBesideCellText, -kBesideCellText, -kBesideCellText);
-            default:
-                return QProxyStyle::subElementRect(element, option, widget);
-        }
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        const auto* const head = qstyleoption_cast<const QStyleOptionHeader*>(option);
+        if (element == CE_Header && head != nullptr)
+            drawHead(*head, painter, widget);
+        else
+            QProxyStyle::drawControl(element, option, painter, widget);
     }
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
@@ -83,7 +78,21 @@ class ProgramStyle : public QProxyStyle {
     }
 
   private:
-    /// The arrow of a sorted column stands above its head, where it takes no room beside the text.
+    /// The head of a column. The arrow of a sorted one stands above its text, where it takes no room beside
+    /// it, and points up for rising values, as in spreadsheets.
+    void drawHead(const QStyleOptionHeader& head, QPainter* painter, const QWidget* widget) const {
+        constexpr int kMargin = kBesideCellText;
+        drawControl(CE_HeaderSection, &head, painter, widget);
+        QStyleOptionHeader part(head);
+        part.rect = head.rect.adjusted(kMargin, kMargin, -kMargin, -kMargin);
+        drawControl(CE_HeaderLabel, &part, painter, widget);
+        if (head.sortIndicator == QStyleOptionHeader::None) return;
+        part.rect = QRect(QPoint(head.rect.center().x() - kArrow.width() / 2, head.rect.top()), kArrow);
+        const bool rising = head.sortIndicator == QStyleOptionHeader::SortDown;
+        part.sortIndicator = rising ? QStyleOptionHeader::SortUp : QStyleOptionHeader::SortDown;
+        drawPrimitive(PE_IndicatorHeaderArrow, &part, painter, widget);
+    }
+
     QSize headSize(const QStyleOption& option, const QSize& contents, const QWidget* widget) const {
         const auto* const head = qstyleoption_cast<const QStyleOptionHeader*>(&option);
         QStyleOptionHeader withoutArrow(head == nullptr ? QStyleOptionHeader() : *head);
