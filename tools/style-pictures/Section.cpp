@@ -1,85 +1,93 @@
 #include "Section.h"
 
 #include <QPainterPath>
-#include <algorithm>
+#include <QTransform>
 #include <cmath>
 
 namespace {
 
-// The section of the middle series in units of its side: ball, groove and ring heights.
+// The section of the middle series in units of its side: ball, the height of the rings, and how far the land
+// of an angular contact's outer ring is cut back on the side that carries nothing.
 constexpr double kBall = 0.25 * 25.4 / 13.0 / 2.0;
-constexpr double kGroove = 0.1325 * 25.4 / 13.0;
 constexpr double kRing = 0.1656 * 25.4 / 13.0;
-constexpr double kHatchGap = 0.085;
+constexpr double kRelief = 0.055;
+constexpr double kRound = 0.05;
 constexpr double kContact = 0.46;
-const QColor kSteel(226, 232, 242);
-const QColor kHatch(90, 110, 160);
-const QColor kContactLine(200, 30, 30);
+
+constexpr double kHatchGap = 6.0;  // pixels, the same in every picture
+const QColor kSteel(232, 237, 246);
+const QColor kSpacer(247, 240, 220);
+const QColor kHatch(116, 134, 176);
 
 double radians(double degrees) {
     return degrees * 3.14159265358979323846 / 180.0;
 }
 
-/// A ring's outline: a block less the groove around the ball.
-QPainterPath ring(double x, double top, double side, double from, double to) {
+QPainterPath roundedBlock(double left, double top, double width, double height, double round) {
     QPainterPath block;
-    block.addRoundedRect(QRectF(x - side / 2.0, top + from * side, side, (to - from) * side), side * 0.03,
-                         side * 0.03);
-    QPainterPath groove;
-    groove.addEllipse(QPointF(x, top + side / 2.0), kGroove * side, kGroove * side);
-    return block.subtracted(groove);
+    block.addRoundedRect(QRectF(left, top, width, height), round, round);
+    return block;
 }
 
-void fillRing(QPainter& painter, const QPainterPath& path, double side, bool rising) {
-    painter.fillPath(path, kSteel);
+/// A cut surface: tinted, hatched under 45 degrees and outlined.
+void fillSection(QPainter& painter, const QPainterPath& path, const QColor& tint, bool rising) {
+    painter.fillPath(path, tint);
     painter.save();
     painter.setClipPath(path);
-    painter.setPen(QPen(kHatch, side * 0.006));
+    painter.setPen(QPen(kHatch, lines::kThin));
     const QRectF area = path.boundingRect();
-    const double reach = area.width() + area.height();
-    for (double at = -reach; at < reach; at += kHatchGap * side) {
-        const double slope = rising ? -1.0 : 1.0;
-        painter.drawLine(
-            QPointF(area.left() + at, rising ? area.bottom() : area.top()),
-            QPointF(area.left() + at + reach, (rising ? area.bottom() : area.top()) + slope * reach));
-    }
+    const double start = rising ? area.bottom() : area.top();
+    const double reach = rising ? -area.height() : area.height();
+    for (double at = area.left() - area.height(); at < area.right(); at += kHatchGap * std::sqrt(2.0))
+        painter.drawLine(QPointF(at, start), QPointF(at + area.height(), start + reach));
     painter.restore();
-    painter.strokePath(path, QPen(Qt::black, side * 0.014));
+    painter.strokePath(path, QPen(Qt::black, lines::kOutline));
 }
 
-void drawBall(QPainter& painter, QPointF centre, double radius) {
-    QRadialGradient shine(centre - QPointF(radius, radius) * 0.35, radius * 1.5);
-    shine.setColorAt(0.0, Qt::white);
-    shine.setColorAt(1.0, QColor(150, 165, 190));
-    painter.setBrush(shine);
-    painter.setPen(QPen(Qt::black, radius * 0.06));
-    painter.drawEllipse(centre, radius, radius);
+/// The rings of a row whose middle is the origin, outer ring above. `relieved` is the side, left (-1) or
+/// right (1), where the outer ring's land is cut back; 0 for neither.
+void drawRings(QPainter& painter, double side, int relieved) {
+    QPainterPath groove;
+    groove.addEllipse(QPointF(0.0, 0.0), kBall * side, kBall * side);
+    const double half = side / 2.0;
+    const double height = kRing * side;
+    QPainterPath outer = roundedBlock(-half, -half, side, height, kRound * side).subtracted(groove);
+    if (relieved != 0) {
+        QPainterPath cut;
+        cut.addRect(QRectF(relieved < 0 ? -side : 0.0, -half + height - kRelief * side, side, side));
+        outer = outer.subtracted(cut);
+    }
+    fillSection(painter, outer, kSteel, true);
+    fillSection(painter, roundedBlock(-half, half - height, side, height, kRound * side).subtracted(groove),
+                kSteel, false);
+}
+
+void drawRow(QPainter& painter, const Row& row, double side) {
+    const bool angular = row.angles.size() == 1 && row.angles.front() != 0.0;
+    drawRings(painter, side, !angular ? 0 : row.angles.front() > 0.0 ? -1 : 1);
+    painter.setPen(QPen(Qt::black, lines::kOutline));
+    painter.setBrush(Qt::white);
+    painter.drawEllipse(QPointF(0.0, 0.0), kBall * side, kBall * side);
     painter.setBrush(Qt::NoBrush);
-}
-
-void drawRow(QPainter& painter, const Row& row, double x, double top, double side, bool mirrored) {
-    fillRing(painter, ring(x, top, side, 0.0, kRing), side, true);
-    fillRing(painter, ring(x, top, side, 1.0 - kRing, 1.0), side, false);
-    const QPointF centre(x, top + side / 2.0);
-    drawBall(painter, centre, kBall * side);
-    painter.setPen(QPen(kContactLine, side * 0.012, Qt::DashDotLine));
+    painter.setPen(QPen(lines::centreColour(), lines::kCentre, Qt::DashDotLine));
     for (const double angle : row.angles) {
-        const double turned = radians(90.0 - angle) * (mirrored ? -1.0 : 1.0);
+        const double turned = radians(90.0 - angle);
         const QPointF reach(kContact * side * std::cos(turned), -kContact * side * std::sin(turned));
-        painter.drawLine(centre - reach, centre + reach);
+        painter.drawLine(-reach, reach);
     }
 }
 
-void drawSpacer(QPainter& painter, double left, double width, double top, double side) {
-    for (const double from : {0.0, 1.0 - kRing}) {
-        const QRectF block(left, top + from * side, width, kRing * side);
-        painter.fillRect(block, QColor(245, 236, 214));
-        painter.setPen(QPen(Qt::black, side * 0.014));
-        painter.drawRect(block);
-    }
+void drawSpacers(QPainter& painter, double width, double side) {
+    const double height = kRing * side;
+    for (const double top : {-side / 2.0, side / 2.0 - height})
+        fillSection(painter, roundedBlock(-width / 2.0, top, width, height, 0.0), kSpacer, top > 0.0);
 }
 
 }  // namespace
+
+QColor lines::centreColour() {
+    return {200, 30, 30};
+}
 
 const std::vector<Style>& styles() {
     static const std::vector<Style> kStyles = {
@@ -87,22 +95,26 @@ const std::vector<Style>& styles() {
         {"X", {{0.0, {30.0, -30.0}}}},
         {"DB", {{-0.5, {30.0}}, {0.5, {-30.0}}}},
         {"DF", {{-0.5, {-30.0}}, {0.5, {30.0}}}},
-        {"DBWS", {{-0.5, {30.0}}, {0.5, {-30.0}}}, 0.45},
-        {"DFWS", {{-0.5, {-30.0}}, {0.5, {30.0}}}, 0.45},
+        {"DBWS", {{-0.5, {30.0}}, {0.5, {-30.0}}}, 0.35},
+        {"DFWS", {{-0.5, {-30.0}}, {0.5, {30.0}}}, 0.35},
     };
     return kStyles;
 }
 
 Placement drawSection(QPainter& painter, const Style& style, QPointF middle, double side, bool mirrored) {
-    const double top = middle.y() - side / 2.0;
+    painter.save();
+    painter.translate(middle);
+    if (mirrored) painter.scale(1.0, -1.0);
     const double spread = style.spacer / 2.0;
     for (const Row& row : style.rows) {
         const double shift = row.x < 0.0 ? -spread : row.x > 0.0 ? spread : 0.0;
-        drawRow(painter, row, middle.x() + (row.x + shift) * side, top, side, mirrored);
+        painter.save();
+        painter.translate((row.x + shift) * side, 0.0);
+        drawRow(painter, row, side);
+        painter.restore();
     }
-    if (style.spacer > 0.0) {
-        drawSpacer(painter, middle.x() - spread * side, style.spacer * side, top, side);
-    }
+    if (style.spacer > 0.0) drawSpacers(painter, style.spacer * side, side);
+    painter.restore();
     const double half = (static_cast<double>(style.rows.size()) / 2.0 + spread) * side;
-    return {middle.x() - half, middle.x() + half, top, side};
+    return {middle.x() - half, middle.x() + half, middle.y() - side / 2.0, side};
 }

@@ -1,8 +1,17 @@
 #pragma once
 
+#include <QColor>
 #include <QPainter>
 #include <QPointF>
 #include <vector>
+
+/// The line weights of all pictures, in their logical pixels.
+namespace lines {
+constexpr double kOutline = 1.7;
+constexpr double kThin = 0.8;
+constexpr double kCentre = 1.2;
+QColor centreColour();  ///< of axes and contact lines
+}  // namespace lines
 
 /// One row of a bearing's section: its centre in picture units and how its contact lines run.
 struct Row {

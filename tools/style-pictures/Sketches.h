@@ -9,7 +9,6 @@
 constexpr QSize kTypeSize(240, 160);
 constexpr QSize kSketchSize(480, 320);
 constexpr QSize kStartSize(960, 600);
-constexpr QSize kIconSize(256, 256);
 
 /// The section alone.
 void drawType(QPainter& painter, const Style& style);
@@ -19,5 +18,3 @@ void drawLoads(QPainter& painter, const Style& style);
 void drawSizes(QPainter& painter, const Style& style);
 /// A thin-section bearing seen along its axis, for the start screen.
 void drawStart(QPainter& painter);
-/// The program's icon.
-void drawIcon(QPainter& painter);

@@ -51,6 +51,5 @@ int main(int argc, char** argv) {
     for (const Style& style : styles())
         whole = saveStyle(folder, style) && whole;
     whole = save(folder.filePath("start.png"), kStartSize, Qt::white, drawStart, 1) && whole;
-    whole = save(folder.filePath("norlaplan.png"), kIconSize, Qt::transparent, drawIcon, 1) && whole;
     return whole ? 0 : 1;
 }
