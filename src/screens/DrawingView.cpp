@@ -40,11 +40,15 @@ DrawingView::DrawingView(const char* name, const char* what) {
 }
 
 void DrawingView::makeFrameLines() {
+    QPalette colours;
+    colours.setColor(QPalette::Window, theme::frameColour());
     for (std::size_t i = 0; i < lines_.size(); ++i) {
         auto* const line = new QFrame(viewport());
         line->setObjectName(QStringLiteral("Line%1").arg(i + 1));
         line->setAutoFillBackground(true);
-        line->setPalette(QPalette(theme::frameColour()));
+        // Not that of the paper, which it would take over.
+        line->setBackgroundRole(QPalette::Window);
+        line->setPalette(colours);
         line->setAttribute(Qt::WA_TransparentForMouseEvents);
         line->hide();
         lines_[i] = line;

@@ -44,6 +44,8 @@ Form1::Form1(Screens& screens) : Form(screens, forms::kStart, "Form1") {
     name->setAlignment(Qt::AlignCenter);
     purpose_ = build::heading("Label3", "Bearing Design Program");
     purpose_->setAlignment(Qt::AlignCenter);
+    // One line: so the picture gives way on a low screen before anything scrolls.
+    purpose_->setWordWrap(false);
 
     QVBoxLayout* const page = &this->page();
     page->addWidget(logo_, 1);

@@ -26,11 +26,11 @@ Form13::Form13(Screens& screens) : Form(screens, forms::kSort, "List Sort Option
     ascending_->setChecked(true);
 
     QGroupBox* const columns = build::frame("Frame1", "Sort by");
-    auto* const columnBox = theme::spaced(new QVBoxLayout(columns));
+    auto* const columnBox = theme::spaced(new QVBoxLayout(columns), theme::kFrameMargin);
     for (const auto& [option, column] : columns_)
         columnBox->addWidget(option);
     QGroupBox* const order = build::frame("Frame2", "Order");
-    auto* const orderBox = theme::spaced(new QVBoxLayout(order));
+    auto* const orderBox = theme::spaced(new QVBoxLayout(order), theme::kFrameMargin);
     for (QRadioButton* const option : {ascending_, descending_})
         orderBox->addWidget(option);
     orderBox->addStretch();

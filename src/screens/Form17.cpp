@@ -8,6 +8,7 @@
 #include "documents/DataSheet.h"
 #include "documents/SheetRecords.h"
 #include "numbers/RuntimeError.h"
+#include "screens/Decoding.h"
 #include "screens/DocumentOutput.h"
 #include "screens/DrawingView.h"
 #include "screens/FormBuilder.h"
@@ -97,7 +98,16 @@ std::optional<Document> Form17::document() {
                              [this] { return services().folder.read(kSheetFile); });
 }
 
+bool Form17::sheetInHand() {
+    const bool stands = state().decoded.holds(state().bearing, state().units.system);
+    if (!bearingInHand(screens())) return false;
+    // Decoded anew, the bearing has a new sheet.
+    if (!stands) redraw();
+    return true;
+}
+
 void Form17::save() {
+    if (!sheetInHand()) return;
     shown_.pictureArea = sheet_->area();
     saveDocument(services(), shown_, [this](const std::filesystem::path& path) { moveSheet(path); });
 }
@@ -116,6 +126,7 @@ void Form17::moveSheet(const std::filesystem::path& path) {
 }
 
 void Form17::print() {
+    if (!sheetInHand()) return;
     if (const auto sheet = document()) printDocument(services(), *sheet);
 }
 

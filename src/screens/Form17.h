@@ -23,6 +23,9 @@ class Form17 : public Form {
   private:
     /// Reads the drawing afresh and shows the page from its top.
     void redraw();
+    /// Whether the sheet is that of the bearing in hand, decoded again where it isn't; a refusal leads to the
+    /// entry screen.
+    bool sheetInHand();
     void save();
     void print();
     /// The sheet is moved, not copied: the program keeps one only until it has been saved. Error 53 with the

@@ -1,10 +1,10 @@
 #include "screens/Form19.h"
 
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <vector>
 
 #include "capacity/LoadLife.h"
 #include "documents/LoadLifeReport.h"
@@ -13,6 +13,7 @@
 #include "screens/BusyPointer.h"
 #include "screens/Decoding.h"
 #include "screens/DocumentOutput.h"
+#include "screens/EqualSigns.h"
 #include "screens/FormBuilder.h"
 #include "screens/Picture.h"
 #include "screens/Screens.h"
@@ -24,10 +25,27 @@ namespace {
 
 constexpr int kWithinLimit = 2;
 
+constexpr QSize kSectionSize(264, 104);
+constexpr QSize kSketchSize(264, 176);
+
 QLabel* noteLabel(const char* name, const char* text) {
     QLabel* const label = build::label(name, QString::fromUtf8(text));
     label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return label;
+}
+
+void makeBold(QLabel& label) {
+    QFont font = label.font();
+    font.setBold(true);
+    label.setFont(font);
+}
+
+/// A label that is hidden leaves its place free, so that its frame keeps its size.
+void keepRoom(QLabel& label) {
+    QSizePolicy policy = label.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    label.setSizePolicy(policy);
 }
 
 QString text(const std::string& utf8) {
@@ -55,18 +73,23 @@ QGroupBox* Form19::sizeFrame() {
 }
 
 QGroupBox* Form19::loadFrame() {
-    return build::labelFrame("Frame2", "LOADS",
-                             {radial_ = build::valueLabel("Label4"), axial_ = build::valueLabel("Label5"),
-                              moment_ = build::valueLabel("Label6"), speed_ = build::valueLabel("Label7")});
+    QGroupBox* const frame =
+        build::labelFrame("Frame2", "LOADS",
+                          {radial_ = build::valueLabel("Label4"), axial_ = build::valueLabel("Label5"),
+                           moment_ = build::valueLabel("Label6"), speed_ = build::valueLabel("Label7")});
+    keepRoom(*speed_);
+    return frame;
 }
 
 QGroupBox* Form19::styleFrame() {
     styleGroup_ = build::frame("Frame3", "BEARING STYLE");
-    stylePicture_ = new Picture("Image1", "Section of the bearing's style", {180, 120});
-    loadSketch_ = new Picture("Picture1", "Directions of the loads", {240, 160});
-    auto* const row = theme::spaced(new QHBoxLayout(styleGroup_));
-    row->addWidget(stylePicture_, 3);
-    row->addWidget(loadSketch_, 4);
+    stylePicture_ = new Picture("Image1", "Section of the bearing's style", kSectionSize);
+    loadSketch_ = new Picture("Picture1", "Directions of the loads", kSketchSize);
+    auto* const column = theme::spaced(new QVBoxLayout(styleGroup_), theme::kFrameMargin);
+    for (Picture* const picture : {stylePicture_, loadSketch_}) {
+        picture->setFixedSize(picture->sizeHint());
+        column->addWidget(picture);
+    }
     return styleGroup_;
 }
 
@@ -74,38 +97,31 @@ QGroupBox* Form19::resultFrame() {
     const std::initializer_list<QLabel*> results = {
         life_ = build::valueLabel("Label8"), hours_ = build::valueLabel("Label9"),
         safety_ = build::valueLabel("Label10"), torque_ = build::valueLabel("Label13")};
-    for (QLabel* const label : results) {
-        QFont font = label->font();
-        font.setBold(true);
-        label->setFont(font);
-    }
+    for (QLabel* const label : results)
+        makeBold(*label);
     return build::labelFrame("Frame4", "LOAD AND LIFE RESULTS", results);
 }
 
 QGroupBox* Form19::commentFrame() {
-    QGroupBox* const frame = build::frame("Frame5", "COMMENTS");
-    verdict_ = build::label("Label11");
-    verdict_->setWordWrap(true);
-    auto* const column = theme::spaced(new QVBoxLayout(frame));
-    column->addWidget(verdict_);
-    column->addWidget(
+    verdict_ = noteLabel("Label11", "");
+    QLabel* const safetyNote =
         noteLabel("Label12",
                   "The STATIC SAFETY FACTOR is based on non-detrimental permanent deformation, and the "
                   "assumption that the inner and outer bearing races are radially restrained by a rigid "
-                  "shaft and housing."));
-    column->addWidget(
+                  "shaft and housing.");
+    QLabel* const torqueNote =
         noteLabel("Label14",
                   "Starting Torque is based on typical aplications.  Actual measurements may vary by 50% "
                   "of the values listed.  If specific values are required, they must be noted before "
-                  "ordering."));
+                  "ordering.");
     warnings_ = {noteLabel("Warning1", ""), noteLabel("Warning2", "")};
-    for (QLabel* const label : warnings_) {
-        QFont bold = label->font();
-        bold.setBold(true);
-        label->setFont(bold);
-        column->addWidget(label);
+    for (QLabel* const label : {verdict_, warnings_[0], warnings_[1]}) {
+        makeBold(*label);
+        label->setMinimumHeight(label->fontMetrics().height());
+        keepRoom(*label);
     }
-    return frame;
+    return build::labelFrame("Frame5", "COMMENTS",
+                             {verdict_, safetyNote, torqueNote, warnings_[0], warnings_[1]});
 }
 
 void Form19::makeButtons() {
@@ -128,14 +144,19 @@ void Form19::makeButtons() {
 }
 
 void Form19::layOut() {
-    auto* const grid = theme::spaced(new QGridLayout, 0);
-    grid->addWidget(sizeFrame(), 0, 0);
-    grid->addWidget(loadFrame(), 0, 1);
-    grid->addWidget(styleFrame(), 0, 2);
-    grid->addWidget(resultFrame(), 1, 0, 1, 3);
-    grid->addWidget(commentFrame(), 2, 0, 1, 3);
-    grid->setColumnStretch(2, 1);
-    page().addLayout(grid, 1);
+    auto* const inputs = theme::spaced(new QHBoxLayout, 0);
+    inputs->addWidget(sizeFrame());
+    inputs->addWidget(loadFrame());
+    auto* const numbers = theme::spaced(new QVBoxLayout, 0);
+    numbers->addLayout(inputs);
+    numbers->addWidget(resultFrame());
+    numbers->addStretch();
+    auto* const above = theme::spaced(new QHBoxLayout, 0);
+    above->addLayout(numbers, 1);
+    above->addWidget(styleFrame(), 0, Qt::AlignTop);
+    page().addLayout(above);
+    page().addWidget(commentFrame());
+    page().addStretch();
 }
 
 void Form19::opened() {
@@ -206,6 +227,8 @@ void Form19::showInputs() {
     moment_->setText(text("MOMENT = " + load(now.loads.momentLoadDisplay, units.momentUnitWord)));
     speed_->setText(text("SPEED =  " + plainText(now.loads.speed) + " RPM"));
     speed_->setVisible(now.loads.speed != 0.0);
+    for (const auto& frame : {std::vector{bore_, od_, height_}, {radial_, axial_, moment_, speed_}})
+        alignEqualSigns(frame);
 }
 
 void Form19::showStyle() {
@@ -232,6 +255,7 @@ void Form19::showResults() {
     hours_->setText(text(hoursLine(now)));
     safety_->setText(text(safetyLine(now)));
     torque_->setText(text(torqueLine(now)));
+    alignEqualSigns(std::vector{life_, hours_, safety_, torque_});
     showWarnings();
     if (now.loads.speed == 0.0) return;
     const bool within = now.life.speedVerdictColor == kWithinLimit;

@@ -23,7 +23,7 @@ Form6::Form6(Screens& screens) : Form(screens, forms::kUnits, "Measurement") {
                                 [this] { this->screens().hide(*this); });
 
     auto* const frame = build::frame("Frame1", "Units of Measurement");
-    auto* const choices = theme::spaced(new QVBoxLayout(frame));
+    auto* const choices = theme::spaced(new QVBoxLayout(frame), theme::kFrameMargin);
     choices->addWidget(us_);
     choices->addWidget(metric_);
 

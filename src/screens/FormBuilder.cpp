@@ -14,6 +14,7 @@ namespace norlaplan::build {
 namespace {
 
 constexpr QSize kStylePicture(240, 160);
+constexpr int kFieldDigits = 20;
 
 /// A button that is drawn with the letter that presses it underlined, and without the filling blanks with
 /// which some captions were once broken into lines. Its text stays the stated caption.
@@ -113,7 +114,7 @@ QGroupBox* labelFrame(const char* name, const QString& caption, std::initializer
                       const QString& tip) {
     QGroupBox* const made = frame(name, caption);
     made->setToolTip(tip);
-    auto* const column = theme::spaced(new QVBoxLayout(made));
+    auto* const column = theme::spaced(new QVBoxLayout(made), theme::kFrameMargin);
     for (QLabel* const label : labels)
         column->addWidget(label);
     column->addStretch();
@@ -143,10 +144,14 @@ void layOutEntry(QVBoxLayout& page, Picture& picture, std::initializer_list<Entr
     int row = 0;
     for (const auto& [label, field] : rows) {
         buddy(*label, *field);
-        grid->addWidget(label, row, 0);
-        grid->addWidget(field, row, 1);
+        // A number is short: the field stands by its label, and both under the middle of the picture.
+        field->setFixedWidth(field->fontMetrics().horizontalAdvance(QString(kFieldDigits, QLatin1Char('0'))));
+        grid->addWidget(label, row, 1);
+        grid->addWidget(field, row, 2);
         ++row;
     }
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(3, 1);
     page.addWidget(&picture, 1);
     page.addLayout(grid);
 }

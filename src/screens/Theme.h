@@ -13,9 +13,10 @@ class QWidget;
 /// The look of the program, defined here once and used by every form.
 namespace norlaplan::theme {
 
-constexpr int kMargin = 20;   ///< between a window's edge and its contents
-constexpr int kGap = 10;      ///< between controls that belong together
-constexpr int kWideGap = 22;  ///< between groups
+constexpr int kMargin = 20;       ///< between a window's edge and its contents
+constexpr int kFrameMargin = 14;  ///< between a frame and what it holds
+constexpr int kGap = 10;          ///< between controls that belong together
+constexpr int kWideGap = 22;      ///< between groups
 
 /// Sets the style and the type of the whole program. Colours stay those of the desktop, light or dark.
 void apply();

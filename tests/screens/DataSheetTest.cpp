@@ -155,6 +155,42 @@ class DataSheetTest : public QObject {
         QCOMPARE(sheet.printer.canvas.texts.back().text, expected.texts.back().text);
     }
 
+    void save_and_print_first_make_the_sheet_that_of_the_bearing_in_hand_data() {
+        QTest::addColumn<QString>("button");
+        QTest::newRow("save as text") << "Command3";
+        QTest::newRow("print") << "Command4";
+    }
+    void save_and_print_first_make_the_sheet_that_of_the_bearing_in_hand() {
+        QFETCH(QString, button);
+        Sheet sheet;
+        // Something else has written into the record since, and the files are another bearing's.
+        const std::string own = sheet.files.read("CONDENSED.DAT");
+        sheet.state.bearing.partNumber = "K20013XP0";
+        sheet.state.decoded.takeOff();
+        sheet.saveDialog.choice = SaveChoice{sheet.file("mine.rtf"), 1};
+        sheet.click(forms::kDataSheet, qPrintable(button));
+        QVERIFY(sheet.files.read("CONDENSED.DAT") != own);
+        if (button == "Command3") {
+            QVERIFY(sheet.files.read("mine.rtf").find("K20013XP0") != std::string::npos);
+            QCOMPARE(sheet.saveDialog.requests.at(0).name, std::string("K20013XP0"));
+        } else {
+            QVERIFY(sheet.printer.canvas.hasText("K20013XP0"));
+            QCOMPARE(sheet.printer.documents.at(0), std::string("Data sheet K20013XP0"));
+        }
+    }
+
+    void a_refused_number_leads_to_the_entry_screen_and_nothing_is_saved_or_printed() {
+        for (const char* const button : {"Command3", "Command4"}) {
+            Sheet sheet;
+            sheet.state.bearing.partNumber = "K19013QP0";
+            sheet.state.decoded.takeOff();
+            sheet.click(forms::kDataSheet, button);
+            QCOMPARE(sheet.inFront(), std::string(forms::kPartNumber));
+            QVERIFY(sheet.saveDialog.requests.empty());
+            QVERIFY(sheet.printer.documents.empty());
+        }
+    }
+
     void a_frame_becomes_the_zoom_in_the_shape_of_the_page_and_redraw_shows_it_whole() {
         Sheet sheet;
         const int width = sheet.picture().width();
@@ -189,6 +225,11 @@ class DataSheetTest : public QObject {
         QTest::mouseMove(&sheet.picture(), {250, 200});
         for (const char* const line : {"Line1", "Line2", "Line3", "Line4"})
             QVERIFY(sheet.control<QWidget>(forms::kDataSheet, line).isVisible());
+        const QImage picture = sheet.picture().grab().toImage();
+        const QColor red(200, 30, 30);
+        for (const QPoint corner : {QPoint(51, 51), QPoint(249, 51), QPoint(51, 200), QPoint(249, 200)})
+            QCOMPARE(picture.pixelColor(corner), red);
+        QVERIFY(picture.pixelColor(60, 60) != red);
         QTest::mouseRelease(&sheet.picture(), Qt::LeftButton, {}, {250, 200});
         for (const char* const line : {"Line1", "Line2", "Line3", "Line4"})
             QVERIFY(!sheet.control<QWidget>(forms::kDataSheet, line).isVisible());
@@ -255,6 +296,7 @@ class DataSheetTest : public QObject {
 
     void the_page_is_shown_whole_or_as_wide_as_the_view() {
         Sheet sheet;
+        sheet.screens.form(forms::kDataSheet).resize(1000, 600);
         for (const char* const way : {"button", "key"}) {
             if (way == std::string("button"))
                 sheet.click(forms::kDataSheet, "WholePage");
