@@ -296,7 +296,6 @@ class DataSheetTest : public QObject {
 
     void the_page_is_shown_whole_or_as_wide_as_the_view() {
         Sheet sheet;
-        sheet.screens.form(forms::kDataSheet).resize(1000, 600);
         for (const char* const way : {"button", "key"}) {
             if (way == std::string("button"))
                 sheet.click(forms::kDataSheet, "WholePage");
