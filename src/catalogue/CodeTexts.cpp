@@ -40,6 +40,14 @@ std::string textOf(const CodeText (&table)[N], const std::string& code) {
     return found == std::end(table) ? std::string() : found->text;
 }
 
+template <std::size_t N>
+std::string codesOf(const CodeText (&table)[N]) {
+    std::string list = table[0].code;
+    for (std::size_t i = 1; i < N; ++i)
+        list += (i + 1 < N ? ", " : " or ") + std::string(table[i].code);
+    return list;
+}
+
 }  // namespace
 
 std::string materialTextOf(const std::string& code) {
@@ -50,6 +58,16 @@ std::string styleTextOf(const std::string& letter) {
 }
 std::string precisionTextOf(const std::string& code) {
     return textOf(kPrecisions, code);
+}
+
+std::string materialCodes() {
+    return codesOf(kMaterials);
+}
+std::string styleLetters() {
+    return codesOf(kStyles);
+}
+std::string precisionCodes() {
+    return codesOf(kPrecisions);
 }
 
 std::string familyOf(const std::string& styleLetter) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "state/BearingSpec.h"
@@ -11,6 +12,9 @@ namespace norlaplan {
 struct Refusal {
     Message message;
 };
+
+/// Throws `Refusal` when there is a fault.
+void refuseFor(const std::optional<Message>& fault);
 
 /// Upper-cases and repairs the number (letter O for the digit 0 in positions 2 to 6 and 9) and takes its
 /// codes into the bearing, position by position; the first that isn't valid throws `Refusal`. A fit letter on

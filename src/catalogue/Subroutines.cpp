@@ -1,34 +1,17 @@
 #include "catalogue/Subroutines.h"
 
-#include "catalogue/CatalogueLookup.h"
 #include "catalogue/CodeTexts.h"
 #include "catalogue/DerivedData.h"
+#include "catalogue/FitRangeText.h"
 #include "catalogue/PartNumberChecks.h"
+#include "catalogue/PartNumberTables.h"
 #include "catalogue/SectionConstants.h"
 #include "documents/DataSheet.h"
-#include "numbers/Arithmetic.h"
-#include "numbers/FormatNumber.h"
 #include "numbers/RuntimeError.h"
 #include "state/Patience.h"
 
 namespace norlaplan {
 namespace {
-
-[[noreturn]] void refuse(const char* title, const char* prompt, Icon icon = Icon::None) {
-    throw Refusal{{title, prompt, icon}};
-}
-
-void readTables(BearingSpec& bearing, const ProgramFolder& folder) {
-    if (!lookUpCrossSection(folder, bearing)) refuse("Retry Data Entry", "Bore size not found");
-    if (!lookUpPrecision(folder, bearing)) refuse("Bore data not found", "Error in precision tables");
-    if (bearing.separatorCode == "Z" && bearing.zSeparatorChoice.empty()) {
-        refuse("Missing Data", "Please specify which Z separator");
-    }
-    bearing.separatorCode += bearing.zSeparatorChoice;
-    if (!lookUpSeparator(folder, bearing)) {
-        refuse("WRONG SEPARATOR CODE", "SEPARATOR NOT PERMITTED FOR THIS BEARING");
-    }
-}
 
 /// Whatever the table says, a bearing is told as limited: availability is settled with the maker.
 void setAvailability(BearingSpec& bearing) {
@@ -42,35 +25,21 @@ void setMaterial(BearingSpec& bearing) {
     bearing.bearingExpansion = bearing.materialCode == "K" ? 7.0e-6 : 5.6e-6;
 }
 
-void setFitTexts(BearingSpec& bearing, const UnitMode& units, const ProgramFolder& folder) {
-    const auto shown = [&](double inches) { return FormatNumber(inches, units.clearancePicture); };
-    if (bearing.fitLetter == " ") {
-        bearing.fitRangeText = "Standard " + shown(units.lengthFactor * bearing.stdClearanceLow) + "-" +
-                               shown(units.lengthFactor * bearing.stdClearanceHigh) + " Clearance";
-        return;
-    }
-    if (!lookUpFit(folder, bearing)) {
-        refuse("Please correct Part Number", "Unavailable fitup", Icon::Critical);
-    }
-    // These limits are divided by the length factor where every other length is multiplied by it.
-    bearing.fitRangeText = bearing.fitLetter + "= " + shown(divide(bearing.fitLow, units.lengthFactor)) +
-                           "-" + shown(divide(bearing.fitHigh, units.lengthFactor)) + " " +
-                           bearing.clearanceKind;
-    if (bearing.styleLetter == "F" || bearing.styleLetter == "B") bearing.fitRangeText += " (AXIAL)";
-}
-
 void decode(ProgramState& state, std::string& number, DecodeServices& services) {
     BearingSpec& bearing = state.bearing;
     state.decoded.takeOff();
     checkPartNumber(number, bearing, services.messages);
     bearing.partNumber = number;
-    readTables(bearing, services.folder);
+    refuseFor(readCrossSection(services.folder, bearing));
+    refuseFor(readPrecision(services.folder, bearing));
+    refuseFor(readSeparator(services.folder, bearing));
     setAvailability(bearing);
     setMaterial(bearing);
     setSectionConstants(bearing, state.units);
     bearing.styleText = styleTextOf(bearing.styleLetter);
     bearing.precisionText = precisionTextOf(bearing.precisionCode);
-    setFitTexts(bearing, state.units, services.folder);
+    refuseFor(readFit(services.folder, bearing));
+    bearing.fitRangeText = fitRangeTextOf(bearing, state.units);
     deriveBearingData(state, services.folder, services.messages);
     services.sheets.store(makeDataSheet(state, services.folder, services.clock));
     state.decoded.set(bearing, state.units.system);

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "catalogue/PartNumberRules.h"
+#include "state/BearingSpec.h"
+#include "state/ProgramFolder.h"
+
+namespace norlaplan {
+
+// What the catalogue says to the codes of a bearing: its table's row goes into the bearing, or the message
+// that refuses the number comes back. Errors as those of the tables.
+
+/// By section, family and bore.
+Fault readCrossSection(const ProgramFolder& folder, BearingSpec& bearing);
+/// By precision class and bore.
+Fault readPrecision(const ProgramFolder& folder, BearingSpec& bearing);
+/// By family and separator code, to which the letter of a "Z" separator is added first.
+Fault readSeparator(const ProgramFolder& folder, BearingSpec& bearing);
+/// By fit letter; nothing is read for a bearing without one.
+Fault readFit(const ProgramFolder& folder, BearingSpec& bearing);
+
+}  // namespace norlaplan
