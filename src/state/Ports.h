@@ -84,4 +84,14 @@ class SheetStorePort {
     virtual void store(const SheetFiles& sheet) = 0;
 };
 
+/// Small texts of the user's own, kept from one run of the program to the next.
+class UserFilesPort {
+  public:
+    virtual ~UserFilesPort() = default;
+    /// The text that is kept under the name. Error 53 when there is none, else as `readWholeFile`.
+    virtual std::string read(const std::string& name) = 0;
+    /// Replaces it, whole or not at all. Errors as `writeWholeFile`.
+    virtual void write(const std::string& name, const std::string& content) = 0;
+};
+
 }  // namespace norlaplan

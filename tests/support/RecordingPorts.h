@@ -5,10 +5,12 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "numbers/RuntimeError.h"
 #include "state/Canvas.h"
 #include "state/Ports.h"
 
@@ -43,6 +45,23 @@ class MemorySheets : public SheetStorePort {
   public:
     std::vector<SheetFiles> stored;
     void store(const SheetFiles& sheet) override { stored.push_back(sheet); }
+};
+
+/// The user's own texts in memory, or a store that can be neither read nor written.
+class MemoryUserFiles : public UserFilesPort {
+  public:
+    std::map<std::string, std::string> texts;
+    bool broken = false;
+    std::string read(const std::string& name) override {
+        if (broken) raise(fault::kPermissionDenied);
+        const auto found = texts.find(name);
+        if (found == texts.end()) raise(fault::kFileNotFound);
+        return found->second;
+    }
+    void write(const std::string& name, const std::string& content) override {
+        if (broken) raise(fault::kDiskFull);
+        texts[name] = content;
+    }
 };
 
 class PresetSaveDialog : public SaveDialogPort {
