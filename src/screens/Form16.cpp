@@ -4,9 +4,11 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPixmap>
 #include <QPushButton>
 #include <QToolButton>
+#include <algorithm>
 
 #include "screens/FormBuilder.h"
 #include "screens/Screens.h"
@@ -22,6 +24,7 @@ Form16::Form16(Screens& screens) : Form(screens, forms::kStyle, "Bearing Style S
             qPrintable(QStringLiteral("Image%1").arg(row + 1)), QString::fromUtf8(style.label),
             QString::fromUtf8(style.description),
             QPixmap(QString::fromStdString(services().folder.find(stylePicture(style, 'T')).string())));
+        pictures_[row]->installEventFilter(this);
         group->addButton(pictures_[row]);
     }
     description_ = build::heading("Label1", "");
@@ -40,6 +43,17 @@ Form16::Form16(Screens& screens) : Form(screens, forms::kStyle, "Bearing Style S
     page().addLayout(grid, 1);
     page().addWidget(description_);
     setFooter({.mainMenu = mainMenu_, .main = proceed_});
+}
+
+bool Form16::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonDblClick &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton &&
+        std::find(pictures_.begin(), pictures_.end(), watched) != pictures_.end()) {
+        // Its first click has chosen the style.
+        proceed_->click();
+        return true;
+    }
+    return Form::eventFilter(watched, event);
 }
 
 void Form16::opened() {

@@ -10,12 +10,16 @@ class QToolButton;
 
 namespace norlaplan {
 
-/// Bearing style selection: six pictures, of which one is chosen.
+/// Bearing style selection: six pictures, of which one is chosen by a click.
 class Form16 : public Form {
   public:
     explicit Form16(Screens& screens);
 
     void opened() override;
+
+  protected:
+    /// A double click on a picture chooses it and goes on.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void chooseStyle(std::size_t row);

@@ -5,12 +5,15 @@
 #include <QPushButton>
 #include <filesystem>
 
+#include "capacity/LoadLife.h"
 #include "screens/Decoding.h"
 #include "screens/Form2.h"
 #include "screens/Screens.h"
+#include "screens/StepMark.h"
 #include "screens/Theme.h"
 #include "state/MenuConditions.h"
 #include "state/NewBearing.h"
+#include "state/StepValues.h"
 
 namespace norlaplan {
 
@@ -26,6 +29,23 @@ void Form3::refresh() {
     thermalFits_->setVisible(options.tempFitsOption);
     export_->setVisible(options.qlxOption);
     partNumber_->setText(QString::fromStdString(state().bearing.partNumber));
+    units_->setText(QString::fromStdString(unitsValue(state())));
+    showSteps();
+}
+
+void Form3::showSteps() {
+    const auto show = [](const Step& step, const std::string& value, bool done) {
+        step.value->setText(QString::fromStdString(value.empty() ? " " : value));
+        step.mark->setDone(done);
+    };
+    const ProgramState& now = state();
+    const std::string bearing = bearingValue(now), style = styleValue(now), sizes = sizesValue(now),
+                      loads = loadsValue(now);
+    show(bearingStep_, bearing, !bearing.empty());
+    show(lifeStep_, loads, hasLife(now));
+    show(styleStep_, style, !style.empty());
+    show(sizesStep_, sizes, !sizes.empty());
+    show(loadsStep_, loads, !loads.empty());
 }
 
 void Form3::closed() {

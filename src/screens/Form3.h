@@ -11,6 +11,8 @@ class QPushButton;
 
 namespace norlaplan {
 
+class StepMark;
+
 /// The main menu: the hub from which every screen is opened and to which every one returns.
 class Form3 : public Form {
   public:
@@ -73,7 +75,15 @@ class Form3 : public Form {
     /// Shows what a step of the search misses, opens that step, and says whether there was one.
     bool misses(const std::optional<StepRefusal>& refusal);
 
-    QLabel* partNumber_;
+    /// A step of a path: its mark and, under its buttons, what was set there.
+    struct Step {
+        StepMark* mark = nullptr;
+        QLabel* value = nullptr;
+    };
+    void showSteps();
+
+    QLabel *partNumber_, *units_;
+    Step bearingStep_, lifeStep_, styleStep_, sizesStep_, loadsStep_;
     QLabel* knownMark_;
     QLabel* searchMark_;
     QPushButton *modelNumber_, *style_, *thermalFits_, *faxCover_, *nedsPictures_;

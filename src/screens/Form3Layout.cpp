@@ -3,18 +3,24 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <vector>
 
 #include "screens/Accelerators.h"
 #include "screens/Form2.h"
 #include "screens/Form3.h"
 #include "screens/FormBuilder.h"
 #include "screens/Screens.h"
+#include "screens/StepMark.h"
 #include "screens/Theme.h"
 
 namespace norlaplan {
 namespace {
 
-constexpr int kStepWidth = 380;
+constexpr int kHubWidth = 860;
+constexpr int kStepWidth = 330;
+constexpr int kHalfStepWidth = (kStepWidth - theme::kGap) / 2;
+constexpr int kStepGap = 14;
+constexpr int kValueGap = 3;
 constexpr int kStepHeight = 42;
 
 /// A light panel for one path: its name, the mark that shows when the user has chosen it, its steps.
@@ -37,6 +43,7 @@ PathPanel makePathPanel(const char* panelName, const QString& caption, const cha
     head->addWidget(build::heading("", caption), 1);
     head->addWidget(mark);
     auto* const grid = theme::spaced(new QGridLayout, 0);
+    grid->setVerticalSpacing(kStepGap);
     grid->setColumnStretch(1, 1);
     auto* const layout = theme::spaced(new QVBoxLayout(panel));
     layout->addLayout(head);
@@ -45,44 +52,71 @@ PathPanel makePathPanel(const char* panelName, const QString& caption, const cha
     return {panel, grid, mark};
 }
 
-/// A row of a path: its number, if it has one, and its buttons, all of one width.
-void addStep(QGridLayout& grid, int row, const QString& number, std::initializer_list<QPushButton*> buttons) {
-    if (!number.isEmpty()) {
-        QLabel* const label = build::label("", number);
-        theme::makeStep(*label);
-        grid.addWidget(label, row, 0);
+using Buttons = std::vector<QPushButton*>;
+
+/// What was set at a step, under its buttons; the line is kept free for it.
+QLabel* makeValue(const char* name) {
+    QLabel* const value = build::label(name, QStringLiteral(" "));
+    value->setFont(theme::noteFont());
+    value->setWordWrap(true);
+    return value;
+}
+
+/// A step of a path: its mark, rows of buttons that share the width, and what was set there, if it shows
+/// that.
+void addStep(QGridLayout& grid, StepMark& mark, const std::vector<Buttons>& rows, QLabel* value = nullptr) {
+    auto* const column = new QVBoxLayout;
+    column->setSpacing(theme::kGap);
+    for (const Buttons& buttons : rows) {
+        auto* const together = theme::spaced(new QHBoxLayout, 0);
+        for (QPushButton* const button : buttons) {
+            button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+            button->setMinimumWidth(buttons.size() == 1 ? kStepWidth : kHalfStepWidth);
+            button->setMinimumHeight(kStepHeight);
+            together->addWidget(button, 1);
+        }
+        column->addLayout(together);
     }
-    auto* const together = theme::spaced(new QHBoxLayout, 0);
-    for (QPushButton* const button : buttons) {
-        button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-        button->setMinimumWidth(kStepWidth / static_cast<int>(buttons.size()));
-        button->setMinimumHeight(kStepHeight);
-        together->addWidget(button, 1);
-    }
-    grid.addLayout(together, row, 1);
+    auto* const cell = new QVBoxLayout;
+    cell->setSpacing(kValueGap);
+    cell->addLayout(column);
+    if (value != nullptr) cell->addWidget(value);
+    const int row = grid.rowCount();
+    grid.addWidget(&mark, row, 0, Qt::AlignTop);
+    grid.addLayout(cell, row, 1);
 }
 
 }  // namespace
 
 Form3::Form3(Screens& screens) : Form(screens, forms::kMainMenu, "Norlaplan MM") {
+    // However large the window, the menu keeps its size and stands in the middle.
+    auto* const hub = new QWidget;
+    hub->setMaximumWidth(kHubWidth);
+    hub->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    auto* const column = new QVBoxLayout(hub);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(theme::kWideGap);
+    // The Tab key goes in the order in which they are made.
+    column->addWidget(makeHead());
     auto* const paths = new QHBoxLayout;
     paths->setSpacing(theme::kWideGap);
-    // The Tab key goes in the order in which they are made.
-    QWidget* const head = makeHead();
     paths->addWidget(makeKnownPath(), 1);
     paths->addWidget(makeSearchPath(), 1);
-    QWidget* const foot = makeFoot();
+    column->addLayout(paths);
+    column->addWidget(makeFoot());
 
     // They come with their options, and the window grows with them.
     for (QPushButton* const button : {thermalFits_, faxCover_, nedsPictures_})
         button->hide();
 
     setMenus(makeMenus());
-    QVBoxLayout* const page = &this->page();
-    page->setSpacing(theme::kWideGap);
-    page->addWidget(head);
-    page->addLayout(paths, 1);
-    page->addWidget(foot);
+    auto* const middle = new QHBoxLayout;
+    middle->addStretch(1);
+    middle->addWidget(hub, kHubWidth);
+    middle->addStretch(1);
+    page().addStretch(1);
+    page().addLayout(middle);
+    page().addStretch(1);
 }
 
 QPushButton* Form3::makeButton(const char* name, const QString& caption, const QString& tip,
@@ -101,7 +135,9 @@ QWidget* Form3::makeHead() {
                                   &Form3::askForPath);
     setMainButton(*help);
     row->addWidget(what);
+    units_ = build::label("Units");
     row->addWidget(partNumber_, 1);
+    row->addWidget(units_);
     row->addWidget(help);
     return head;
 }
@@ -113,23 +149,25 @@ QWidget* Form3::makeKnownPath() {
     modelNumber_ = makeButton("Command8", "Enter Model Number", "Enter 9 or 10 digit model number",
                               &Form3::openModelNumber);
     theme::makeMain(*modelNumber_);
-    addStep(grid, 0, "1", {modelNumber_});
-    addStep(grid, 1, "2",
-            {makeButton("Command9", "Data Sheet", "View Data sheet (drawing)", &Form3::openDataSheet),
-             makeButton("Command12", "Deflection", "Calculate Deflection Characteristics",
-                        &Form3::openDeflection)});
-    addStep(grid, 2, "",
-            {makeButton("Command10", "Preload Torque", "Calculate torque vs. preload curve",
-                        &Form3::openPreloadTorque),
-             makeButton("Command11", "Axial Play", "Calculate axial movement based on radial clearance",
-                        &Form3::openAxialPlay)});
     thermalFits_ = makeButton("Command19", "Temp Fits", "Shaft and Housing Fits at High or Low Temperatures",
                               &Form3::openThermalFits);
-    addStep(grid, 3, "", {thermalFits_});
-    addStep(grid, 4, "3",
-            {makeButton("Command13", "Load Input", "Enter load case", &Form3::openKnownLoads),
-             makeButton("Command14", "Static + Dynamic Life", "Safety factor and L10 life based on load case",
-                        &Form3::openLife)});
+    bearingStep_ = {new StepMark("BearingStep", 1), makeValue("BearingValue")};
+    addStep(grid, *bearingStep_.mark, {{modelNumber_}}, bearingStep_.value);
+    addStep(grid, *new StepMark("SheetStep", 2),
+            {{makeButton("Command9", "Data Sheet", "View Data sheet (drawing)", &Form3::openDataSheet),
+              makeButton("Command12", "Deflection", "Calculate Deflection Characteristics",
+                         &Form3::openDeflection)},
+             {makeButton("Command10", "Preload Torque", "Calculate torque vs. preload curve",
+                         &Form3::openPreloadTorque),
+              makeButton("Command11", "Axial Play", "Calculate axial movement based on radial clearance",
+                         &Form3::openAxialPlay)},
+             {thermalFits_}});
+    lifeStep_ = {new StepMark("LifeStep", 3), makeValue("LifeValue")};
+    addStep(grid, *lifeStep_.mark,
+            {{makeButton("Command13", "Load Input", "Enter load case", &Form3::openKnownLoads),
+              makeButton("Command14", "Static + Dynamic Life",
+                         "Safety factor and L10 life based on load case", &Form3::openLife)}},
+            lifeStep_.value);
     return path.panel;
 }
 
@@ -139,15 +177,20 @@ QWidget* Form3::makeSearchPath() {
     QGridLayout& grid = *path.grid;
     style_ = makeButton("Command4", "Set Style", "Select any of 6 bearing styles", &Form3::openStyle);
     theme::makeMain(*style_);
-    addStep(grid, 0, "1", {style_});
+    styleStep_ = {new StepMark("StyleStep", 1), makeValue("StyleValue")};
+    addStep(grid, *styleStep_.mark, {{style_}}, styleStep_.value);
+    sizesStep_ = {new StepMark("SizesStep", 2), makeValue("SizesValue")};
     addStep(
-        grid, 1, "2",
-        {makeButton("Command5", "Set Sizes", "Set minimum and maximum envelope sizes", &Form3::openSizes)});
-    addStep(grid, 2, "3",
-            {makeButton("Command6", "Load Input", "Enter Load condition", &Form3::openSearchLoads)});
-    addStep(grid, 3, "4",
-            {makeButton("Command7", "Search Results", "Create and see list of possible bearings",
-                        &Form3::openResults)});
+        grid, *sizesStep_.mark,
+        {{makeButton("Command5", "Set Sizes", "Set minimum and maximum envelope sizes", &Form3::openSizes)}},
+        sizesStep_.value);
+    loadsStep_ = {new StepMark("LoadsStep", 3), makeValue("LoadsValue")};
+    addStep(grid, *loadsStep_.mark,
+            {{makeButton("Command6", "Load Input", "Enter Load condition", &Form3::openSearchLoads)}},
+            loadsStep_.value);
+    addStep(grid, *new StepMark("ResultsStep", 4),
+            {{makeButton("Command7", "Search Results", "Create and see list of possible bearings",
+                         &Form3::openResults)}});
     return path.panel;
 }
 

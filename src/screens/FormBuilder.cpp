@@ -1,6 +1,7 @@
 #include "screens/FormBuilder.h"
 
 #include <QGridLayout>
+#include <QPainter>
 #include <QStyleOptionButton>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -43,7 +44,20 @@ class Marked : public Base {
 
 using Button = Marked<QPushButton, QStyleOptionButton>;
 using Option = Marked<QRadioButton, QStyleOptionButton>;
-using PictureButton = Marked<QToolButton, QStyleOptionToolButton>;
+
+/// The chosen one of several pictures has a strong frame and a tick.
+class PictureButton : public Marked<QToolButton, QStyleOptionToolButton> {
+  protected:
+    void paintEvent(QPaintEvent* event) override {
+        Marked::paintEvent(event);
+        if (!isChecked()) return;
+        QPainter painter(this);
+        constexpr int kFrame = 4, kTick = 28;
+        painter.setPen(QPen(theme::accent(), kFrame, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(rect().adjusted(kFrame / 2, kFrame / 2, -kFrame / 2, -kFrame / 2));
+        theme::drawTick(painter, QRectF(width() - kTick - 2 * kFrame, 2 * kFrame, kTick, kTick));
+    }
+};
 
 template <typename Control>
 Control* named(Control* control, const char* name, const QString& tip, const QString& spoken) {

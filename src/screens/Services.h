@@ -16,6 +16,7 @@ struct Services {
     PrinterPort& printer;
     ClockPort& clock;
     SheetStorePort& sheets;
+    UserFilesPort& userFiles;
 };
 
 }  // namespace norlaplan

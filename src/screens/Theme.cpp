@@ -153,6 +153,10 @@ QFont listFont(bool longLines) {
     return font;
 }
 
+QFont noteFont() {
+    return programFont(kTextPoints - 1.0);
+}
+
 QColor menuBackground(const std::string& unitSystem) {
     return unitSystem == "METRIC" ? QColor(192, 255, 192) : QColor(128, 128, 255);
 }
@@ -215,10 +219,18 @@ void makeMain(QPushButton& button) {
     button.setFont(programFont(kTextPoints, QFont::Bold));
 }
 
-void makeStep(QLabel& label) {
-    label.setAlignment(Qt::AlignCenter);
-    label.setFont(headingFont());
-    label.setMinimumWidth(label.fontMetrics().horizontalAdvance(QLatin1Char('0')) * 2);
+void drawTick(QPainter& painter, const QRectF& square) {
+    const QColor green(0, 122, 42);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(green);
+    painter.drawEllipse(square);
+    const auto at = [&](double x, double y) {
+        return QPointF(square.left() + x * square.width(), square.top() + y * square.height());
+    };
+    painter.setPen(QPen(Qt::white, square.width() * 0.12, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPolyline(QPolygonF({at(0.27, 0.53), at(0.44, 0.70), at(0.74, 0.33)}));
 }
 
 QWidget* makePanel(const char* name) {

@@ -7,7 +7,9 @@
 #include "state/ProgramState.h"
 
 class QLabel;
+class QPainter;
 class QPushButton;
+class QRectF;
 class QWidget;
 
 /// The look of the program, defined here once and used by every form.
@@ -25,6 +27,7 @@ QFont headingFont();  ///< names the window or a section
 QFont titleFont();    ///< the product's name on the start screen
 QFont numberFont();   ///< the part number in hand
 QFont valueFont();    ///< figures that stand under each other
+QFont noteFont();     ///< what stands under something and says more about it
 
 /// The list of search results: the usual one, and a smaller one for the long lines of sets with spacers.
 QFont listFont(bool longLines);
@@ -51,8 +54,8 @@ void makeHeading(QLabel& label);
 void makeMark(QLabel& label);
 /// The button that leads on.
 void makeMain(QPushButton& button);
-/// The number of a step on a path.
-void makeStep(QLabel& label);
+/// A white tick on a green disc in this square: done, or chosen.
+void drawTick(QPainter& painter, const QRectF& square);
 /// A light panel with a quiet border, for groups on a coloured background.
 QWidget* makePanel(const char* name);
 

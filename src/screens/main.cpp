@@ -20,8 +20,9 @@ int main(int count, char** arguments) {
     QtPrinter printer;
     LocalClock clock;
     FolderSheets sheets(folder);
+    UserFiles userFiles(UserFiles::usualFolder());
 
-    Screens screens({state, folder, messages, saveDialog, printer, clock, sheets});
+    Screens screens({state, folder, messages, saveDialog, printer, clock, sheets, userFiles});
     addForms(screens);
     ShowStartScreen(screens);
     return QApplication::exec();

@@ -22,6 +22,8 @@ struct Entry : Program {
     void type(const char* text) {
         field().clear();
         QTest::keyClicks(&field(), text);
+        // The window makes room for what has come up.
+        QApplication::processEvents();
     }
     bool shows(const char* frame) { return !control<QWidget>(forms::kPartNumber, frame).isHidden(); }
 };

@@ -93,7 +93,8 @@ struct Program {
     PrinterPort* paper;
     FixedClock clock;
     FolderSheets sheets{folder};
-    Screens screens{{state, folder, messages, saveDialog, *paper, clock, sheets}};
+    MemoryUserFiles userFiles;
+    Screens screens{{state, folder, messages, saveDialog, *paper, clock, sheets, userFiles}};
 };
 
 }  // namespace norlaplan::testing

@@ -5,7 +5,9 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include "numbers/RuntimeError.h"
 #include "screens/Program.h"
+#include "state/NumberHistory.h"
 
 namespace norlaplan::testing {
 namespace {
@@ -94,6 +96,54 @@ class StorageTest : public QObject {
 
     void aReadOnlyProgramFolderKeepsTheOldSheetAndTheNewBearingOut() {
         refusesTheSheet<ReadOnlyFolder>({"Please contact Varden with 70", "Permission denied"});
+    }
+
+    void theUsersOwnTextsAreKeptInAFolderThatIsMadeForThem() {
+        const TemporaryFolder home;
+        const std::filesystem::path folder = home.path() / "new" / "folder";
+        UserFiles files(folder);
+        rememberNumber(files, "K19013XP0");
+        rememberNumber(files, "K10008XP0");
+        UserFiles later(folder);
+        QCOMPARE(enteredNumbers(later), (std::vector<std::string>{"K10008XP0", "K19013XP0"}));
+    }
+
+    void theUsersOwnTextsStayWholeOnAFullDisk() {
+        const TemporaryFolder home;
+        UserFiles files(home.path());
+        files.write("notes", "old");
+        {
+            const FullDisk disk(home.path());
+            QVERIFY_EXCEPTION_THROWN(files.write("notes", std::string(2000, 'x')), RuntimeError);
+        }
+        QCOMPARE(files.read("notes"), std::string("old"));
+        QCOMPARE(std::distance(std::filesystem::directory_iterator(home.path()), {}), 1);
+    }
+
+    void whatIsNoFileOfTheUsersOwnHoldsNoNumbers() {
+        const TemporaryFolder home;
+        UserFiles files(home.path());
+        rememberNumber(files, "K19013XP0");
+        const std::filesystem::path file = std::filesystem::directory_iterator(home.path())->path();
+        std::filesystem::resize_file(file, 5'000'000);
+        QVERIFY(enteredNumbers(files).empty());
+        std::filesystem::remove(file);
+        std::filesystem::create_directory(file);
+        QVERIFY(enteredNumbers(files).empty());
+        rememberNumber(files, "K19013XP0");
+        QVERIFY(std::filesystem::is_directory(file));
+        // A file where the folder should be.
+        UserFiles blocked("/dev/null/folder");
+        rememberNumber(blocked, "K19013XP0");
+        QVERIFY(enteredNumbers(blocked).empty());
+    }
+
+    void theUsersFolderFollowsTheDesktopsSetting() {
+        const TemporaryFolder home;
+        qputenv("XDG_CONFIG_HOME", home.path().c_str());
+        const std::filesystem::path folder = UserFiles::usualFolder();
+        qunsetenv("XDG_CONFIG_HOME");
+        QCOMPARE(folder.parent_path(), home.path());
     }
 
     void everySaveOntoAFullDiskLeavesWhatStoodThere_data() {

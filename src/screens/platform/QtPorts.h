@@ -1,5 +1,8 @@
 #pragma once
 
+#include <filesystem>
+#include <utility>
+
 #include "state/Ports.h"
 #include "state/ProgramFolder.h"
 
@@ -41,6 +44,21 @@ class FolderSheets : public SheetStorePort {
 
   private:
     const ProgramFolder& folder_;
+};
+
+/// The user's own texts, in a folder that is made when the first of them is written. A file too large to be
+/// one of them is error 75.
+class UserFiles : public UserFilesPort {
+  public:
+    explicit UserFiles(std::filesystem::path folder) : folder_(std::move(folder)) {}
+    /// This program's folder in the user's configuration, as the desktop has it.
+    static std::filesystem::path usualFolder();
+
+    std::string read(const std::string& name) override;
+    void write(const std::string& name, const std::string& content) override;
+
+  private:
+    std::filesystem::path folder_;
 };
 
 }  // namespace norlaplan
