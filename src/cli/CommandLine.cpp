@@ -100,14 +100,21 @@ class Builder {
     }
 
     void addReport(CLI::App& parent, const Report& report) {
-        CLI::App* const writer = command(
-            parent, report.name, report.description,
-            [&report](Session& s, Arguments& a) { return writeDocument(report.make(s, a), a.output); });
+        CLI::App* const writer =
+            command(parent, report.name, report.description, [&report](Session& s, Arguments& a) {
+                requireOutputKind(a.output, report.kinds);
+                return writeDocument(report.make(s, a), a.output);
+            });
         if (report.options & kNumber) addNumber(writer);
         if (report.options & kSearch) addSearch(writer);
         if (report.options & kLoads) addLoads(writer);
-        if (report.options & kDeflection) addDeflection(writer);
-        addOutput(writer);
+        if (report.options & kRow) addRow(writer);
+        if (report.options & kDeflection) {
+            addDeflection(writer);
+            addGraph(writer);
+        }
+        if (report.options & kFits) addFitOptions(writer);
+        addOutput(writer, report.kinds);
     }
 
     void addNumber(CLI::App* command) {
@@ -165,6 +172,12 @@ class Builder {
         command->add_option("--max-moment", deflection.maxMoment, "End of the moment curve" + proposed);
     }
 
+    void addGraph(CLI::App* command) {
+        command->add_option("--graph", arguments_->deflection.graph, "Which of the curves")
+            ->required()
+            ->check(CLI::IsMember({kRadialGraph, kAxialGraph, kMomentGraph}));
+    }
+
     void addFitOptions(CLI::App* command) {
         FitOptions& fits = arguments_->fits;
         const char* const expansion = "Thermal expansion per degree, or a material such as \"440C steel\"";
@@ -174,8 +187,9 @@ class Builder {
         command->add_option("--housing", fits.housing, expansion)->required();
     }
 
-    void addOutput(CLI::App* command) {
-        command->add_option("--output", arguments_->output, "File to write: .rtf, .pdf, .png or .bmp")
+    void addOutput(CLI::App* command, OutputKinds kinds) {
+        command
+            ->add_option("--output", arguments_->output, std::string("File to write: ") + extensionsOf(kinds))
             ->required();
     }
 

@@ -27,7 +27,13 @@ struct SearchOptions {
 struct DeflectionOptions {
     double preload = 0.0;
     std::optional<double> maxRadial, maxAxial, maxMoment;
+    std::string graph;  ///< of the report: one of the names below
 };
+
+/// The curves of `report deflection --graph`.
+constexpr const char* kRadialGraph = "radial";
+constexpr const char* kAxialGraph = "axial";
+constexpr const char* kMomentGraph = "moment";
 
 /// What the fits command takes: temperatures in display units, a coefficient in them or a material's name.
 struct FitOptions {
@@ -50,7 +56,11 @@ CommandResult playCommand(Session& session, const PartNumberOption& number);
 CommandResult fitsCommand(Session& session, const PartNumberOption& number, const FitOptions& options);
 CommandResult searchCommand(Session& session, const SearchOptions& options, const LoadOptions& loads);
 
-/// The calculation of `search`, which also has a report. Errors as its.
+// The calculations of the commands that also have a report. Errors as theirs.
+void calculateDeflection(Session& session, const PartNumberOption& number, const DeflectionOptions& options);
+void calculateTorque(Session& session, const PartNumberOption& number);
+void calculatePlay(Session& session, const PartNumberOption& number);
+void calculateFits(Session& session, const PartNumberOption& number, const FitOptions& options);
 void runSearch(Session& session, const SearchOptions& options, const LoadOptions& loads);
 
 }  // namespace norlaplan::cli

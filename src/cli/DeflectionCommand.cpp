@@ -13,19 +13,6 @@ namespace {
 
 using Row = std::vector<std::string>;
 
-void calculate(Session& session, const PartNumberOption& number, const DeflectionOptions& options) {
-    session.decode(number);
-    ProgramState& state = session.state();
-    refuse(loadableBearingRefusal(state));
-    DeflectionEntry entry = proposedDeflectionEntry(state.bearing, state.units);
-    entry.preload = options.preload;
-    entry.maxRadialLoad = options.maxRadial.value_or(entry.maxRadialLoad);
-    entry.maxAxialLoad = options.maxAxial.value_or(entry.maxAxialLoad);
-    entry.maxMomentLoad = options.maxMoment.value_or(entry.maxMomentLoad);
-    state.deflection =
-        computeDeflection(state.bearing, deflectionInput(entry, state.units), Patience(session.messages()));
-}
-
 template <typename Number>
 Json optionalJson(const std::optional<Number>& value) {
     return value ? toJson(*value) : Json(nullptr);
@@ -122,9 +109,22 @@ std::string deflectionText(const DeflectionResult& result, const DeflectionTexts
 
 }  // namespace
 
+void calculateDeflection(Session& session, const PartNumberOption& number, const DeflectionOptions& options) {
+    session.decode(number);
+    ProgramState& state = session.state();
+    refuse(loadableBearingRefusal(state));
+    DeflectionEntry entry = proposedDeflectionEntry(state.bearing, state.units);
+    entry.preload = options.preload;
+    entry.maxRadialLoad = options.maxRadial.value_or(entry.maxRadialLoad);
+    entry.maxAxialLoad = options.maxAxial.value_or(entry.maxAxialLoad);
+    entry.maxMomentLoad = options.maxMoment.value_or(entry.maxMomentLoad);
+    state.deflection =
+        computeDeflection(state.bearing, deflectionInput(entry, state.units), Patience(session.messages()));
+}
+
 CommandResult deflectionCommand(Session& session, const PartNumberOption& number,
                                 const DeflectionOptions& options) {
-    calculate(session, number, options);
+    calculateDeflection(session, number, options);
     const ProgramState& state = session.state();
     const DeflectionTexts texts = deflectionTexts(state.deflection, state.units);
     return {deflectionJson(state.deflection, texts), deflectionText(state.deflection, texts, state.units)};

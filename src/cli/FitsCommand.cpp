@@ -19,19 +19,6 @@ std::string fieldText(const std::string& option, const std::string& given, const
                        option + " is a coefficient or one of" + known.substr(1));
 }
 
-void calculate(Session& session, const PartNumberOption& number, const FitOptions& options) {
-    session.decode(number);
-    ProgramState& state = session.state();
-    refuse(thermalFitsRefusal(state));
-    prepareThermalFits(state);
-    ThermalFits& fits = state.thermalFits;
-    fits.highTempText = shortestText(options.high);
-    fits.lowTempText = shortestText(options.low);
-    fits.shaftExpansionText = fieldText("--shaft", options.shaft, state.units);
-    fits.housingExpansionText = fieldText("--housing", options.housing, state.units);
-    refuse(computeThermalFits(state));
-}
-
 Json fitsJson(const ThermalFits& fits) {
     return {{"highTemp", toJson(fits.highTemp)},
             {"lowTemp", toJson(fits.lowTemp)},
@@ -46,8 +33,21 @@ Json fitsJson(const ThermalFits& fits) {
 
 }  // namespace
 
+void calculateFits(Session& session, const PartNumberOption& number, const FitOptions& options) {
+    session.decode(number);
+    ProgramState& state = session.state();
+    refuse(thermalFitsRefusal(state));
+    prepareThermalFits(state);
+    ThermalFits& fits = state.thermalFits;
+    fits.highTempText = shortestText(options.high);
+    fits.lowTempText = shortestText(options.low);
+    fits.shaftExpansionText = fieldText("--shaft", options.shaft, state.units);
+    fits.housingExpansionText = fieldText("--housing", options.housing, state.units);
+    refuse(computeThermalFits(state));
+}
+
 CommandResult fitsCommand(Session& session, const PartNumberOption& number, const FitOptions& options) {
-    calculate(session, number, options);
+    calculateFits(session, number, options);
     const ThermalFits& fits = session.state().thermalFits;
     return {fitsJson(fits),
             fits.partNumber + "\n" + fits.shaftLine + "\n" + fits.housingLine + "\n" + fits.comment + "\n"};

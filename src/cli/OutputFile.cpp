@@ -53,17 +53,26 @@ void writePicture(const Drawing& drawing, const std::filesystem::path& output) {
 
 }  // namespace
 
+const char* extensionsOf(OutputKinds kinds) {
+    return kinds == OutputKinds::Pictures ? ".pdf, .png or .bmp" : ".rtf, .pdf, .png or .bmp";
+}
+
+void requireOutputKind(const std::filesystem::path& output, OutputKinds kinds) {
+    const std::string extension = lowerCase(output.extension().string());
+    const bool picture = extension == ".pdf" || extension == ".png" || extension == ".bmp";
+    if (picture || (extension == ".rtf" && kinds == OutputKinds::RtfAndPictures)) return;
+    throw CommandError(ErrorKind::Usage, "Unknown format",
+                       std::string("--output takes a file name that ends in ") + extensionsOf(kinds));
+}
+
 CommandResult writeDocument(const Document& document, const std::filesystem::path& output) {
     const std::string extension = lowerCase(output.extension().string());
     if (extension == ".rtf") {
         writeWholeFile(output, document.rtf());
     } else if (extension == ".pdf") {
         writePicture(document.pages, output);
-    } else if (extension == ".png" || extension == ".bmp") {
-        writePicture(document.image(), output);
     } else {
-        throw CommandError(ErrorKind::Usage, "Unknown format",
-                           "--output takes a file name that ends in .rtf, .pdf, .png or .bmp");
+        writePicture(document.image(), output);
     }
     return {{{"file", output.string()}}, output.string() + "\n"};
 }

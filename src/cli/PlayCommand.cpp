@@ -3,20 +3,13 @@
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
 #include "cli/TextTable.h"
-#include "fits/DisplayUnits.h"
 #include "fits/PlayCurve.h"
 #include "numbers/FormatNumber.h"
+#include "state/DisplayUnits.h"
 #include "state/MenuConditions.h"
 
 namespace norlaplan::cli {
 namespace {
-
-void calculate(Session& session, const PartNumberOption& number) {
-    session.decode(number);
-    ProgramState& state = session.state();
-    refuse(axialPlayRefusal(state));
-    computePlayCurve(state.bearing, state.units, state.play);
-}
 
 Json playJson(const PlayCurve& play) {
     Json curve = Json::array();
@@ -67,8 +60,15 @@ std::string rangeText(const ProgramState& state) {
 
 }  // namespace
 
+void calculatePlay(Session& session, const PartNumberOption& number) {
+    session.decode(number);
+    ProgramState& state = session.state();
+    refuse(axialPlayRefusal(state));
+    computePlayCurve(state.bearing, state.units, state.play);
+}
+
 CommandResult playCommand(Session& session, const PartNumberOption& number) {
-    calculate(session, number);
+    calculatePlay(session, number);
     const ProgramState& state = session.state();
     return {playJson(state.play),
             state.bearing.partNumber + "\n" + rangeText(state) + "\n" + curveTable(state)};

@@ -3,21 +3,14 @@
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
 #include "cli/TextTable.h"
-#include "fits/DisplayUnits.h"
 #include "fits/TorqueAxes.h"
 #include "fits/TorqueCurve.h"
 #include "numbers/FormatNumber.h"
+#include "state/DisplayUnits.h"
 #include "state/MenuConditions.h"
 
 namespace norlaplan::cli {
 namespace {
-
-void calculate(Session& session, const PartNumberOption& number) {
-    session.decode(number);
-    ProgramState& state = session.state();
-    refuse(preloadTorqueRefusal(state));
-    computeTorqueCurve(state.bearing, state.torque, session.messages());
-}
 
 Json axesJson(const TorqueAxes& axes) {
     return {{"xMax", axes.xMax}, {"xStep", axes.xStep}, {"yMax", axes.yMax}, {"yStep", axes.yStep},
@@ -39,8 +32,15 @@ std::string curveTable(const ProgramState& state) {
 
 }  // namespace
 
+void calculateTorque(Session& session, const PartNumberOption& number) {
+    session.decode(number);
+    ProgramState& state = session.state();
+    refuse(preloadTorqueRefusal(state));
+    computeTorqueCurve(state.bearing, state.torque, session.messages());
+}
+
 CommandResult torqueCommand(Session& session, const PartNumberOption& number) {
-    calculate(session, number);
+    calculateTorque(session, number);
     const ProgramState& state = session.state();
     CommandResult result;
     Json curve = Json::array();

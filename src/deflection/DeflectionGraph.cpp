@@ -10,17 +10,6 @@ namespace {
 constexpr std::size_t kNumberShown = 9;
 constexpr double kCurveWidth = 19050.0;
 
-/// A text whose first line stands at `top`, centered between left and right.
-GraphText centered(const PageBox& box, const std::string& text, double points, Colour colour) {
-    GraphText placed;
-    placed.box = box;
-    placed.text = text;
-    placed.look.points = points;
-    placed.look.colour = colour;
-    placed.look.alignment = Alignment::Centre;
-    return placed;
-}
-
 /// The y title letter under letter, in the middle of the plot's height.
 GraphText stackedBeside(double left, double middle, const std::string& text, double points) {
     GraphText placed = stackedGraphText({left, 0.0}, text, points, graphcolours::kDarkBlue);
@@ -111,12 +100,13 @@ Graph fullSize(const DeflectionGraphData& data, const GraphSettings& settings, T
     const double left = graph.origin.x;
     const double right = left + graph.width;
     const double top = graph.origin.y + graph.height;
-    graph.number = centered({left, top + 1.45, right, top + 1.15}, data.partNumber.substr(0, kNumberShown),
-                            18.0, graphcolours::kDarkRed);
-    graph.title = centered({left, top + 0.95, right, top + 0.75}, data.title, 13.0, graphcolours::kDarkBlue);
+    graph.number = centredGraphText({left, top + 1.45, right, top + 1.15},
+                                    data.partNumber.substr(0, kNumberShown), 18.0, graphcolours::kDarkRed);
+    graph.title =
+        centredGraphText({left, top + 0.95, right, top + 0.75}, data.title, 13.0, graphcolours::kDarkBlue);
     graph.subtitle =
-        centered({left, top + 0.65, right, top + 0.45}, data.subtitle, 12.0, graphcolours::kDarkBlue);
-    graph.xTitle = centered({left, 0.8, right, 0.6}, data.xTitle, 11.0, graphcolours::kDarkBlue);
+        centredGraphText({left, top + 0.65, right, top + 0.45}, data.subtitle, 12.0, graphcolours::kDarkBlue);
+    graph.xTitle = centredGraphText({left, 0.8, right, 0.6}, data.xTitle, 11.0, graphcolours::kDarkBlue);
     graph.yTitle = stackedBeside(0.1, graph.origin.y + graph.height / 2.0, data.yTitle, 10.0);
     graph.x.label = graph.x.zeroLabel = {-0.4, -0.07, 0.4, -0.2};
     graph.x.labelLook.alignment = Alignment::Centre;
@@ -146,11 +136,11 @@ Graph printedDeflectionGraph(const DeflectionGraphData& data, const GraphSetting
 Graph savedDeflectionGraph(const DeflectionGraphData& data, const GraphSettings& settings) {
     Graph graph = axesOf(settings, {0.9, 4.625}, 6.8, 4.0);
     graph.number =
-        centered({2.0, 9.75, 6.5, 9.0}, data.partNumber.substr(0, kNumberShown), 24.0, colours::kRed);
-    graph.title = centered({1.0, 9.35, 7.5, 9.0}, data.title, 14.0, colours::kBlue);
-    graph.subtitle = centered({1.312, 9.0, 7.312, 8.65}, data.subtitle, 14.0, colours::kBlue);
-    graph.xTitle = centered({1.0, 4.425, 7.5, 4.125}, data.xTitle, 12.0, colours::kBlue);
-    graph.yTitle = centered({0.1, 8.6, 0.5, 5.0}, data.yTitle, 10.0, colours::kBlue);
+        centredGraphText({2.0, 9.75, 6.5, 9.0}, data.partNumber.substr(0, kNumberShown), 24.0, colours::kRed);
+    graph.title = centredGraphText({1.0, 9.35, 7.5, 9.0}, data.title, 14.0, colours::kBlue);
+    graph.subtitle = centredGraphText({1.312, 9.0, 7.312, 8.65}, data.subtitle, 14.0, colours::kBlue);
+    graph.xTitle = centredGraphText({1.0, 4.425, 7.5, 4.125}, data.xTitle, 12.0, colours::kBlue);
+    graph.yTitle = centredGraphText({0.1, 8.6, 0.5, 5.0}, data.yTitle, 10.0, colours::kBlue);
     graph.yTitle.look.vertical = true;
     graph.x.label = {-0.35, 0.0, 0.4, -0.3};
     graph.x.zeroLabel = {-0.16, 0.0, 0.14, -0.3};

@@ -1,6 +1,7 @@
 #include "deflection/DeflectionGraph.h"
 #include "numbers/Arithmetic.h"
 #include "numbers/FormatNumber.h"
+#include "state/DisplayUnits.h"
 
 namespace norlaplan {
 namespace {
@@ -20,10 +21,6 @@ Curve curveOf(const DeflectionResult& result, DeflectionLoad load) {
             break;
     }
     return {result.radialCurve, result.radialReliefLoad};
-}
-
-bool isMetric(const UnitMode& units) {
-    return units.lengthUnit == "mm";
 }
 
 void setTitles(DeflectionGraphData& data, const DeflectionResult& result, DeflectionLoad load,

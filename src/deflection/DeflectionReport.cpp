@@ -64,4 +64,19 @@ std::string deflectionGraphName(const DeflectionGraphData& data) {
     return data.partNumber + (kind == 'R' ? " radial def" : kind == 'A' ? " axial def" : " moment def");
 }
 
+Document deflectionDocument(const DeflectionGraphData& data, const GraphSettings& settings,
+                            const std::string& userName, ClockPort& clock) {
+    Document document;
+    document.title = "Deflection graph of " + data.partNumber;
+    document.fileName = deflectionGraphName(data);
+    document.saveTitle = "Save Deflection Graph As";
+    document.filters = {{"Rich Text File (*.rtf)", "*.rtf"}, {"BitMap File(*.bmp)", "*.bmp"}};
+    document.rtf = [=, &clock] { return deflectionRtf(data, settings, userName, clock); };
+    document.pages = {papers::kLetterLandscape,
+                      [=, &clock](Canvas& canvas) { printDeflectionGraph(data, settings, clock, canvas); }};
+    document.picture = {{8.5, kDeflectionPicture},
+                        [=](Canvas& canvas) { drawGraph(deflectionGraph(data, settings), canvas); }};
+    return document;
+}
+
 }  // namespace norlaplan

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "deflection/DeflectionGraph.h"
+#include "documents/Document.h"
 #include "state/Canvas.h"
 #include "state/Ports.h"
 
@@ -19,5 +20,9 @@ void printDeflectionGraph(const DeflectionGraphData& data, const GraphSettings& 
 
 /// The name under which the graph is proposed to be saved.
 std::string deflectionGraphName(const DeflectionGraphData& data);
+
+/// All as a document of its own, which a bitmap shows as the screen's picture.
+Document deflectionDocument(const DeflectionGraphData& data, const GraphSettings& settings,
+                            const std::string& userName, ClockPort& clock);
 
 }  // namespace norlaplan

@@ -21,8 +21,8 @@ struct Document {
     std::string defaultExtension = ".rtf";
     /// The kinds of file that it can be saved as: "*.rtf", "*.bmp". The first is the usual one.
     std::vector<FileFilter> filters = {{"Rich Text Files (*.rtf)", "*.rtf"}};
-    std::function<std::string()> rtf;
-    Drawing pages;  ///< what is printed, previewed and written as PDF
+    std::function<std::string()> rtf;  ///< none: it is printed and drawn only
+    Drawing pages;                     ///< what is printed, previewed and written as PDF
     /// What a bitmap shows where that isn't the pages, and which part of it; all of it when none is said.
     std::optional<Drawing> picture;
     std::optional<PageBox> pictureArea;

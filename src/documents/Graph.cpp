@@ -62,6 +62,16 @@ Graph pictureGraph() {
     return graph;
 }
 
+GraphText centredGraphText(const PageBox& box, std::string text, double points, Colour colour) {
+    GraphText placed;
+    placed.box = box;
+    placed.text = std::move(text);
+    placed.look.points = points;
+    placed.look.colour = colour;
+    placed.look.alignment = Alignment::Centre;
+    return placed;
+}
+
 GraphText graphText(PagePoint leftTop, std::string text, double points, Colour colour) {
     GraphText placed;
     placed.box = {leftTop.x, leftTop.y, leftTop.x + 6.0, leftTop.y - 1.2 * points / kPointsPerInch};

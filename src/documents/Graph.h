@@ -93,6 +93,8 @@ Graph pictureGraph();
 
 /// A text that begins at a place, in Times.
 GraphText graphText(PagePoint leftTop, std::string text, double points, Colour colour);
+/// A text in the middle between a box's left and right, from its top down, in Times.
+GraphText centredGraphText(const PageBox& box, std::string text, double points, Colour colour);
 /// A column of letters that begins at a place: the title of a y axis.
 GraphText stackedGraphText(PagePoint leftTop, std::string text, double points, Colour colour);
 

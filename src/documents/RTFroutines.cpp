@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "documents/SheetNames.h"
 #include "numbers/Arithmetic.h"
 #include "numbers/Text.h"
 
@@ -50,20 +51,14 @@ std::string property(const char* name, long long value) {
 }
 
 std::string colourWord(const std::string& name) {
-    const std::string upper = upperCase(name);
-    if (upper == "RED") return "\\cf6";
-    if (upper == "BLUE") return "\\cf2";
-    if (upper == "GREEN") return "\\cf4";
-    if (upper == "BLACK") return "\\cf1";
-    if (upper == "PURPLE") return "\\cf5";
-    return "";
+    const SheetColour* const known = sheetColour(name);
+    return known == nullptr ? "" : word("cf", known->number);
 }
 
+/// Times is the document's own font.
 std::string fontWord(const std::string& name) {
-    if (name == "ARIEL") return "\\f1";
-    if (name == "Courier New") return "\\f2";
-    if (name == "Book Antiqua") return "\\f3";
-    return "";
+    const int number = sheetFont(name).number;
+    return number == 0 ? "" : word("f", number);
 }
 
 std::string channels(const char* stem, Colour colour) {

@@ -4,6 +4,7 @@
 
 #include "documents/GraphShapes.h"
 #include "documents/RTFroutines.h"
+#include "documents/SheetNames.h"
 #include "numbers/Arithmetic.h"
 #include "numbers/FormatNumber.h"
 #include "numbers/Text.h"
@@ -23,25 +24,17 @@ const char* yPicture(double e) {
     return e == -4.0 ? "0.00000" : "0.0000";
 }
 
-GraphText centred(const PageBox& box, const std::string& text, double points, Colour colour) {
-    GraphText placed;
-    placed.box = box;
-    placed.text = text;
-    placed.look.points = points;
-    placed.look.colour = colour;
-    placed.look.alignment = Alignment::Centre;
-    return placed;
-}
-
 void setTitles(Graph& graph, const RtfGraphPage& page) {
     const double x = page.origin.x;
     const double bottom = page.origin.y;
     const double top = bottom + page.height;
-    graph.number = centred({x + 1.05, top + 1.25, x + 5.55, top + 0.5}, page.partNumber, 24.0, colours::kRed);
-    graph.title = centred({x + 0.05, top + 0.85, x + 6.55, top + 0.5}, page.title, 14.0, colours::kBlue);
+    graph.number =
+        centredGraphText({x + 1.05, top + 1.25, x + 5.55, top + 0.5}, page.partNumber, 24.0, colours::kRed);
+    graph.title =
+        centredGraphText({x + 0.05, top + 0.85, x + 6.55, top + 0.5}, page.title, 14.0, colours::kBlue);
     graph.xTitle =
-        centred({x + 0.05, bottom - 0.2, x + 6.55, bottom - 0.5}, page.xTitle, 12.0, colours::kBlue);
-    graph.yTitle = centred({x - 0.8, top - 0.4, x - 0.4, bottom}, page.yTitle, 10.0, colours::kBlue);
+        centredGraphText({x + 0.05, bottom - 0.2, x + 6.55, bottom - 0.5}, page.xTitle, 12.0, colours::kBlue);
+    graph.yTitle = centredGraphText({x - 0.8, top - 0.4, x - 0.4, bottom}, page.yTitle, 10.0, colours::kBlue);
     graph.yTitle.look.vertical = true;
 }
 
@@ -66,34 +59,6 @@ void setAxes(Graph& graph, const RtfGraphPage& page) {
     graph.y.labelLook = look;
 }
 
-/// The word of RTF text for a colour; its dark form counts as the same.
-const char* colourName(Colour colour) {
-    static constexpr std::pair<Colour, const char*> kNames[] = {
-        {colours::kRed, "red"},       {graphcolours::kDarkRed, "red"},
-        {colours::kBlue, "blue"},     {graphcolours::kDarkBlue, "blue"},
-        {colours::kGreen, "green"},   {graphcolours::kDarkGreen, "green"},
-        {colours::kPurple, "purple"},
-    };
-    for (const auto& [known, name] : kNames) {
-        if (known == colour) return name;
-    }
-    return "black";
-}
-
-const char* fontName(Typeface typeface) {
-    switch (typeface) {
-        case Typeface::Arial:
-            return "ARIEL";
-        case Typeface::Courier:
-            return "Courier New";
-        case Typeface::Antiqua:
-            return "Book Antiqua";
-        case Typeface::Times:
-            break;
-    }
-    return "TNR";
-}
-
 class IntoDocument : public GraphShapes {
   public:
     explicit IntoDocument(RtfDocument& document) : document_(document) {}
@@ -107,9 +72,10 @@ class IntoDocument : public GraphShapes {
     }
     void text(const GraphText& text) override {
         const TextLook& look = text.look;
-        document_.RtfPlainText({text.box, look.points, colourName(look.colour), text.text, look.bold,
-                                fontName(look.typeface), look.vertical || text.stacked, look.italic},
-                               look.alignment);
+        document_.RtfPlainText(
+            {text.box, look.points, sheetColourNear(look.colour).name, text.text, look.bold,
+             sheetFont(look.typeface).name, look.vertical || text.stacked, look.italic},
+            look.alignment);
     }
 
   private:

@@ -1,8 +1,8 @@
 #include <algorithm>
 
 #include "documents/LogoMetafile.h"
+#include "documents/SheetNames.h"
 #include "documents/SheetRecords.h"
-#include "numbers/Text.h"
 
 namespace norlaplan {
 namespace {
@@ -11,24 +11,13 @@ namespace {
 constexpr double kRightMargin = 8.0;
 
 Colour colourNamed(const std::string& name) {
-    const std::string upper = upperCase(name);
-    if (upper == "BLUE") return colours::kBlue;
-    if (upper == "PURPLE") return colours::kPurple;
-    if (upper == "GREEN") return colours::kGreen;
-    if (upper == "RED") return colours::kRed;
-    return colours::kBlack;
-}
-
-Typeface typefaceNamed(const std::string& name) {
-    if (name == "ARIEL") return Typeface::Arial;
-    if (name == "Courier New") return Typeface::Courier;
-    if (name == "Book Antiqua") return Typeface::Antiqua;
-    return Typeface::Times;
+    const SheetColour* const known = sheetColour(name);
+    return known == nullptr ? colours::kBlack : known->colour;
 }
 
 TextLook lookOf(const SheetText& text) {
     TextLook look;
-    look.typeface = typefaceNamed(text.font);
+    look.typeface = sheetFont(text.font).typeface;
     look.points = text.size;
     look.colour = colourNamed(text.colour);
     look.bold = text.bold;

@@ -1,8 +1,8 @@
 #include "fits/FitMaterials.h"
 
-#include "fits/DisplayUnits.h"
 #include "numbers/FormatNumber.h"
 #include "numbers/Text.h"
+#include "state/DisplayUnits.h"
 
 namespace norlaplan {
 

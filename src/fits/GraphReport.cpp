@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "documents/DataSheet.h"
+#include "documents/LogoMetafile.h"
 
 namespace norlaplan {
 namespace {
@@ -12,6 +13,9 @@ constexpr double kPrintedNotes = 11.0;
 constexpr double kMarginLeft = 0.24;
 constexpr double kMarginBottom = 0.29;
 constexpr double kDeep = 0.35;
+/// Upper right, clear of the graph's title.
+constexpr PagePoint kLogoPlace{6.07, 10.35};
+constexpr double kLogoWidth = 1.99;
 /// From the head of a document's page to the notes beneath its graph, twips.
 constexpr const char* kSpaceForGraph = "\\sb8450";
 
@@ -41,10 +45,7 @@ void printLine(Canvas& canvas, PageWriter& page, const NoteLine& line) {
 
 void printGraphPage(const Graph& graph, const std::vector<NoteLine>& notes, ClockPort& clock,
                     Canvas& canvas) {
-    TextLook maker = timesLook(9.0, true, rgb(0, 40, 110));
-    maker.typeface = Typeface::Arial;
-    maker.alignment = Alignment::Right;
-    canvas.text({kPageLeft, 10.38, kPageRight, 10.2}, "VARDEN", maker);
+    drawLogo(canvas, kLogoPlace, kLogoWidth);
     // The graph's places count from the corner of what a printer reaches.
     drawGraph(moved(graph, kMarginLeft, kMarginBottom), canvas);
     PageWriter page(canvas, 4.5);

@@ -1,10 +1,9 @@
 #include "fits/PlayCurve.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
 
 #include "numbers/Arithmetic.h"
+#include "numbers/DecimalText.h"
 #include "numbers/Text.h"
 
 namespace norlaplan {
@@ -13,21 +12,12 @@ namespace {
 constexpr double kClearanceStep = 0.0001;
 constexpr double kPlotWidth = 7.25;
 constexpr double kPlotHeight = 4.0;
-constexpr int kSignificantDigits = 15;
 
 /// The bearing's own range: that of a clearance letter, the standard one for every other.
 void setRange(const BearingSpec& bearing, PlayCurve& curve) {
     const bool clearanceFit = bearing.fitLetter != " " && bearing.fitLetter <= "J";
     curve.clearanceLow = clearanceFit ? bearing.fitLow : bearing.stdClearanceLow;
     curve.clearanceHigh = clearanceFit ? bearing.fitHigh : bearing.stdClearanceHigh;
-}
-
-std::string generalText(double value) {
-    std::array<char, 40> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                   std::chars_format::general, kSignificantDigits)
-                         .ptr;
-    return upperCase({buffer.data(), static_cast<std::size_t>(end - buffer.data())});
 }
 
 /// The arc cosine by the arc tangent.
@@ -41,7 +31,7 @@ void addRows(const BearingSpec& bearing, const UnitMode& units, PlayCurve& curve
     curve.rowCount = 1;
     for (double P = kClearanceStep; P <= curve.curveClearanceMax; P += kClearanceStep) {
         // The cosine goes through its text, and so keeps 15 digits.
-        curve.cosineText = generalText(std::cos(bearing.contactAngle) - divide(P, twoA));
+        curve.cosineText = fifteenDigits(std::cos(bearing.contactAngle) - divide(P, twoA));
         const double b = arcCosine(leadingNumber(curve.cosineText));
         const double offset = A * (std::sin(b) - std::sin(bearing.contactAngle));
         ++curve.rowCount;

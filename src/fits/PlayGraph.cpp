@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "fits/DisplayUnits.h"
 #include "fits/PictureTitles.h"
 #include "numbers/Arithmetic.h"
 #include "numbers/FormatNumber.h"
+#include "state/DisplayUnits.h"
 
 namespace norlaplan {
 namespace {

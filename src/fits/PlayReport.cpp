@@ -50,4 +50,21 @@ void printPlay(const ProgramState& state, PlayGraph which, ClockPort& clock, Can
         clock, canvas);
 }
 
+Document playDocument(const ProgramState& state, PlayGraph which, ClockPort& clock) {
+    const bool tilt = which == PlayGraph::Tilt;
+    const std::string& number = state.bearing.partNumber;
+    Document document;
+    document.title = (tilt ? "Tilt of axis of " : "Axial play of ") + number;
+    document.fileName = number + (tilt ? " tilt" : " axialplay");
+    document.saveTitle = tilt ? "Save Tilt of Axis Graph As" : "Save Axial Play Graph As";
+    document.defaultExtension = ".RTF";
+    document.filters = {{"Rich Text File (*.rtf)", "*.rtf"}, {"Bitmap File (*.bmp)", "*.bmp"}};
+    document.rtf = [&] { return playRtf(state, clock); };
+    document.pages.draw = [&, which](Canvas& canvas) { printPlay(state, which, clock, canvas); };
+    document.picture = {papers::kGraphPicture, [&, which](Canvas& canvas) {
+                            drawGraph(playGraph(state, which, GraphTarget::Screen), canvas);
+                        }};
+    return document;
+}
+
 }  // namespace norlaplan

@@ -2,11 +2,11 @@
 
 #include <utility>
 
-#include "fits/DisplayUnits.h"
 #include "fits/FitMaterials.h"
 #include "numbers/Arithmetic.h"
 #include "numbers/FormatNumber.h"
 #include "numbers/Text.h"
+#include "state/DisplayUnits.h"
 
 namespace norlaplan {
 namespace {

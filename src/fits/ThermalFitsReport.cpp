@@ -162,4 +162,15 @@ void printThermalFits(const ProgramState& state, ClockPort& clock, Canvas& canva
     drawPageFooter(canvas, clock);
 }
 
+Document thermalFitsDocument(const ProgramState& state, ClockPort& clock) {
+    Document document;
+    document.title = "Thermal fits of " + state.bearing.partNumber;
+    document.fileName = state.bearing.partNumber + "-tempfit.rtf";
+    document.filters = {{"Rich Text Files (*.rtf)", "*.rtf"}};
+    document.rtf = [&] { return thermalFitsRtf(state, clock); };
+    document.pages.draw = [&](Canvas& canvas) { printThermalFits(state, clock, canvas); };
+    document.picture = {kThermalFitsPicture, [&](Canvas& canvas) { drawThermalFits(state, canvas); }};
+    return document;
+}
+
 }  // namespace norlaplan

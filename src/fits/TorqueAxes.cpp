@@ -1,7 +1,7 @@
 #include "fits/TorqueAxes.h"
 
-#include "fits/DisplayUnits.h"
 #include "numbers/Arithmetic.h"
+#include "state/DisplayUnits.h"
 
 namespace norlaplan {
 namespace {

@@ -1,11 +1,11 @@
 #include "fits/TorqueGraph.h"
 
-#include "fits/DisplayUnits.h"
 #include "fits/LastCharacter.h"
 #include "fits/PictureTitles.h"
 #include "fits/TorqueAxes.h"
 #include "numbers/FormatNumber.h"
 #include "numbers/Text.h"
+#include "state/DisplayUnits.h"
 
 namespace norlaplan {
 namespace {

@@ -5,6 +5,7 @@
 #include "fits/TorqueAxes.h"
 #include "fits/TorqueGraph.h"
 #include "numbers/FormatNumber.h"
+#include "numbers/Text.h"
 
 namespace norlaplan {
 namespace {
@@ -43,6 +44,19 @@ std::string torqueRtf(const ProgramState& state, ClockPort& clock) {
 
 void printTorque(const ProgramState& state, ClockPort& clock, Canvas& canvas) {
     printGraphPage(torqueGraph(state, GraphTarget::Printer), torqueNotes(state), clock, canvas);
+}
+
+Document torqueDocument(const ProgramState& state, ClockPort& clock) {
+    Document document;
+    document.title = "Preload torque of " + state.bearing.partNumber;
+    document.fileName = upperCase(trimmed(state.bearing.partNumber)) + "-Torque";
+    document.saveTitle = "Save Torque Graph As";
+    document.filters = {{"Rich Text File (*.rtf)", "*.RTF"}, {"BitMap File(*.bmp)", "*.BMP"}};
+    document.rtf = [&] { return torqueRtf(state, clock); };
+    document.pages.draw = [&](Canvas& canvas) { printTorque(state, clock, canvas); };
+    document.picture = {papers::kGraphPicture,
+                        [&](Canvas& canvas) { drawGraph(torqueGraph(state, GraphTarget::Screen), canvas); }};
+    return document;
 }
 
 }  // namespace norlaplan

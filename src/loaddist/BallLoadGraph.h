@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "documents/Document.h"
 #include "loaddist/DrawingWindow.h"
 #include "state/Ports.h"
 #include "state/ProgramState.h"
@@ -67,5 +68,9 @@ std::string ballReadout(const ShownBall& ball, const UnitMode& units);
 
 /// The load case and the drawing on a letter page, landscape: 11 inches wide and 8.5 high.
 void printBallLoads(const ProgramState& state, ClockPort& clock, const BallLoadView& view, Canvas& canvas);
+
+/// The page as a document, which a bitmap shows as the screen's picture; there is no RTF form. It reads the
+/// state when it is written.
+Document ballLoadsDocument(const ProgramState& state, const BallLoadView& view, ClockPort& clock);
 
 }  // namespace norlaplan

@@ -87,4 +87,17 @@ void printBallLoads(const ProgramState& state, ClockPort& clock, const BallLoadV
     page.writeFoot(clock);
 }
 
+Document ballLoadsDocument(const ProgramState& state, const BallLoadView& view, ClockPort& clock) {
+    constexpr Paper kScreenPicture{8.5, 8.5};
+    Document document;
+    document.title = "Ball loads of " + state.bearing.partNumber;
+    document.filters.clear();
+    document.pages = {papers::kLetterLandscape,
+                      [&, view](Canvas& canvas) { printBallLoads(state, clock, view, canvas); }};
+    document.picture = {kScreenPicture, [&, view](Canvas& canvas) {
+                            drawBallLoads(state.solver, view, kScreenPicture.page(), false, canvas);
+                        }};
+    return document;
+}
+
 }  // namespace norlaplan

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "documents/Document.h"
 #include "loaddist/ContactSection.h"
 #include "loaddist/DrawingWindow.h"
 #include "state/Ports.h"
@@ -28,5 +29,8 @@ void drawContact(const ContactSection& section, DrawingWindow& window);
 /// The check as a printed page: both rows' texts and the whole drawing.
 void printContactCheck(const ProgramState& state, ClockPort& clock, const ContactCheck& check,
                        Canvas& canvas);
+
+/// The page as a document; there is no RTF form. It reads the state when it is drawn.
+Document contactDocument(const ProgramState& state, const ContactCheck& check, ClockPort& clock);
 
 }  // namespace norlaplan

@@ -34,4 +34,12 @@ void printContactCheck(const ProgramState& state, ClockPort& clock, const Contac
     drawPageFooter(canvas, clock);
 }
 
+Document contactDocument(const ProgramState& state, const ContactCheck& check, ClockPort& clock) {
+    Document document;
+    document.title = "Compressive Stress for " + state.bearing.partNumber;
+    document.filters.clear();
+    document.pages.draw = [&, check](Canvas& canvas) { printContactCheck(state, clock, check, canvas); };
+    return document;
+}
+
 }  // namespace norlaplan

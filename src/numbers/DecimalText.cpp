@@ -3,6 +3,8 @@
 #include <array>
 #include <charconv>
 
+#include "numbers/Text.h"
+
 namespace norlaplan {
 
 std::string fifteenDigits(double value) {
@@ -10,7 +12,7 @@ std::string fifteenDigits(double value) {
     const auto end =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::general, 15)
             .ptr;
-    return {buffer.data(), end};
+    return upperCase({buffer.data(), static_cast<std::size_t>(end - buffer.data())});
 }
 
 }  // namespace norlaplan

@@ -1,5 +1,6 @@
 #include "screens/DocumentOutput.h"
 
+#include "numbers/Text.h"
 #include "paint/PictureFile.h"
 #include "screens/BusyPointer.h"
 #include "state/WholeFile.h"
@@ -27,7 +28,7 @@ void saveDocument(const Services& services, const Document& document, const RtfS
     if (!choice) return;
     const BusyPointer busy;
     const FileFilter& kind = document.filters.at(static_cast<std::size_t>(choice->filterIndex) - 1);
-    if (kind.pattern == "*.bmp")
+    if (lowerCase(kind.pattern) == "*.bmp")
         writeBitmap(document, choice->path);
     else if (saveRtf)
         saveRtf(choice->path);
