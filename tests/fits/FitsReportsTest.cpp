@@ -135,5 +135,17 @@ TEST_F(AFitsReport, OfTheThermalFitsChoosesItsNotesByTheLastCharacter) {
     }
 }
 
+TEST_F(AFitsReport, IsADocumentUnderItsProposedName) {
+    take("K19013XP0R");
+    EXPECT_EQ(torqueDocument(state, run.clock).fileName, "K19013XP0R-Torque");
+    EXPECT_EQ(torqueDocument(state, run.clock).saveTitle, "Save Torque Graph As");
+    EXPECT_EQ(playDocument(state, PlayGraph::AxialPlay, run.clock).fileName, "K19013XP0R axialplay");
+    EXPECT_EQ(playDocument(state, PlayGraph::AxialPlay, run.clock).saveTitle, "Save Axial Play Graph As");
+    EXPECT_EQ(playDocument(state, PlayGraph::Tilt, run.clock).fileName, "K19013XP0R tilt");
+    EXPECT_EQ(playDocument(state, PlayGraph::Tilt, run.clock).saveTitle, "Save Tilt of Axis Graph As");
+    EXPECT_EQ(thermalFitsDocument(state, run.clock).fileName, "K19013XP0R-tempfit.rtf");
+    EXPECT_EQ(thermalFitsDocument(state, run.clock).filters.size(), 1U);
+}
+
 }  // namespace
 }  // namespace norlaplan
