@@ -94,6 +94,8 @@ void rateFourPoint(BearingSpec& bearing, Patience& patience) {
 
 void rateSingleAngular(BearingSpec& bearing, Patience& patience) {
     bearing.momentArm = 0.0;
+    // The calculation leaves it as it was, which would be the moment of the bearing before.
+    bearing.dynamicMoment = 0.0;
     computeDynamic(bearing, "A", patience);
     bearing.staticRadial = staticTerm(bearing, kStaticRadialConstant) * std::cos(bearing.contactAngle);
     bearing.staticThrust = staticTerm(bearing, kStaticThrustConstant) * std::sin(bearing.contactAngle);
