@@ -145,8 +145,8 @@ void Form19::makeButtons() {
 
 void Form19::layOut() {
     auto* const inputs = theme::spaced(new QHBoxLayout, 0);
-    inputs->addWidget(sizeFrame());
-    inputs->addWidget(loadFrame());
+    inputs->addWidget(sizeFrame(), 1);
+    inputs->addWidget(loadFrame(), 1);
     auto* const numbers = theme::spaced(new QVBoxLayout, 0);
     numbers->addLayout(inputs);
     numbers->addWidget(resultFrame());
