@@ -21,10 +21,10 @@ QString textOf(const std::string& text) {
     return QString::fromStdString(text);
 }
 
-/// The text with no line break behind the hyphen of "12-15".
-QString unbroken(QString text) {
-    static const QRegularExpression hyphen(QStringLiteral("-(?=[0-9.])"));
-    return text.replace(hyphen, QStringLiteral("-\u2060"));
+/// The text with a range of numbers, ".0008-.0019", on a line of its own, where it isn't broken.
+QString withRangeApart(QString text) {
+    static const QRegularExpression range(QStringLiteral(" ?([0-9.]+-[0-9.]+) ?"));
+    return text.replace(range, QStringLiteral("\n\\1\n")).trimmed();
 }
 
 QString lineFor(const PartNumberMeaning& meaning) {
@@ -125,7 +125,7 @@ void NumberMeaningView::explain(const PartNumberMeaning& meaning) {
         }
         const bool understood = !code.meaning.empty();
         const QString said = textOf(understood ? code.meaning : code.allowed);
-        codes_[i]->setText(unbroken(said));
+        codes_[i]->setText(withRangeApart(said));
         codes_[i]->setAccessibleName(QString::fromUtf8(code.name) + ": " + said);
         codes_[i]->setForegroundRole(understood ? QPalette::WindowText : QPalette::PlaceholderText);
     }

@@ -98,12 +98,12 @@ class NumberEntryTest : public QObject {
     void clearances_are_told_in_the_units_in_force() {
         Entry entry;
         QTest::keyClicks(&entry.field(), "K19013XP0");
-        const QString inches = entry.text("Code7");
-        QVERIFY2(inches.startsWith("Standard .00"), qPrintable(inches));
+        const QString inches = entry.spoken("Code7");
+        QVERIFY2(inches.startsWith("Fit: Standard .00"), qPrintable(inches));
         entry.useUnits("METRIC");
         entry.open();
-        const QString millimetres = entry.text("Code7");
-        QVERIFY2(millimetres.startsWith("Standard 0.0"), qPrintable(millimetres));
+        const QString millimetres = entry.spoken("Code7");
+        QVERIFY2(millimetres.startsWith("Fit: Standard 0.0"), qPrintable(millimetres));
     }
 
     void the_numbers_that_were_decoded_are_offered_as_one_types() {
