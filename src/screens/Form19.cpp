@@ -24,6 +24,7 @@ namespace norlaplan {
 namespace {
 
 constexpr int kWithinLimit = 2;
+constexpr int kWidestInput = 26;  // characters of a size or load with its name and unit
 
 constexpr QSize kSectionSize(264, 104);
 constexpr QSize kSketchSize(264, 176);
@@ -78,6 +79,8 @@ QGroupBox* Form19::loadFrame() {
                           {radial_ = build::valueLabel("Label4"), axial_ = build::valueLabel("Label5"),
                            moment_ = build::valueLabel("Label6"), speed_ = build::valueLabel("Label7")});
     keepRoom(*speed_);
+    // As wide as the sizes beside them, for a moment with its sign and unit.
+    moment_->setMinimumWidth(moment_->fontMetrics().horizontalAdvance(QString(kWidestInput, QChar('0'))));
     return frame;
 }
 

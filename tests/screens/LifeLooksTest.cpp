@@ -100,8 +100,6 @@ class LifeLooksTest : public QObject {
             return life.placesOf({"Frame1", "Frame2", "Frame3", "Frame5", "Image1", "Picture1"});
         };
         life.solve("400");
-        // The width that the program's windows share; the test's own screen is narrower.
-        life.form().resize(940, 760);
         const Places slow = places();
         const QSize window = life.form().size();
         life.solve("");
