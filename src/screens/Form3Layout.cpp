@@ -16,7 +16,7 @@
 namespace norlaplan {
 namespace {
 
-constexpr int kHubWidth = 860;
+constexpr int kHubWidth = 900;
 constexpr int kStepWidth = 330;
 constexpr int kHalfStepWidth = (kStepWidth - theme::kGap) / 2;
 constexpr int kStepGap = 14;
