@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "paint/PainterCanvas.h"
+#include "screens/PaintedPage.h"
 #include "screens/Theme.h"
 
 namespace norlaplan {
@@ -150,26 +150,8 @@ void DrawingView::zoomTo(const QRectF& frame) {
 
 void DrawingView::paintEvent(QPaintEvent*) {
     QPainter painter(viewport());
-    const QRectF page(pageCorner(), pageSize());
     painter.fillRect(viewport()->rect(), theme::deskColour());
-    painter.fillRect(page, Qt::white);
-    if (drawing_.draw) paintPage(painter);
-}
-
-void DrawingView::paintPage(QPainter& painter) const {
-    painter.save();
-    painter.translate(pageCorner());
-    try {
-        PainterCanvas canvas(painter, drawing_.paper, zoom_);
-        drawing_.draw(canvas);
-        painter.restore();
-    } catch (const std::exception& failure) {
-        // Nothing may leave a paint event; the user sees what is wrong in the place of the drawing.
-        painter.restore();
-        painter.setPen(Qt::black);
-        painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
-                         QString::fromUtf8(failure.what()));
-    }
+    paintPage(painter, drawing_, pageCorner(), zoom_, viewport()->rect());
 }
 
 void DrawingView::resizeEvent(QResizeEvent*) {

@@ -11,7 +11,7 @@ namespace norlaplan {
 
 /// A view of any drawing on its page: a data sheet, a graph, a page to print. Scroll bars and the middle
 /// button (or the left one with Space) move it; the wheel, + and - zoom at the pointer, 0 shows the whole
-/// page. A frame drawn with the left button becomes what the view's width shows.
+/// page, Ctrl+C copies it. A frame drawn with the left button becomes what the view's width shows.
 class DrawingView : public QAbstractScrollArea {
   public:
     /// `name` is the object name of the picture itself, `what` tells what it shows.
@@ -60,7 +60,6 @@ class DrawingView : public QAbstractScrollArea {
     void setScrollRanges();
     QSizeF pageSize() const;     ///< in pixels
     QPointF pageCorner() const;  ///< the page's upper left corner in the picture
-    void paintPage(QPainter& painter) const;
 
     /// The frame from where the drag began to `corner`, on the page in pixels, in the page's shape.
     QRectF frameTo(QPointF corner) const;

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "screens/DrawingView.h"
+#include "screens/PaintedPage.h"
 
 namespace norlaplan {
 namespace {
@@ -52,6 +53,7 @@ void DrawingView::wheelEvent(QWheelEvent* event) {
 }
 
 void DrawingView::keyPressEvent(QKeyEvent* event) {
+    if (drawing_.draw && event->matches(QKeySequence::Copy)) return copyPicture(drawing_);
     switch (event->key()) {
         case Qt::Key_Plus:
         case Qt::Key_Equal:  // the same key without Shift
