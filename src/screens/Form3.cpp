@@ -40,12 +40,13 @@ void Form3::showSteps() {
     };
     const ProgramState& now = state();
     const std::string bearing = bearingValue(now), style = styleValue(now), sizes = sizesValue(now),
-                      loads = loadsValue(now);
+                      loads = loadsValue(now), results = resultsValue(now);
     show(bearingStep_, bearing, !bearing.empty());
     show(lifeStep_, loads, hasLife(now));
     show(styleStep_, style, !style.empty());
     show(sizesStep_, sizes, !sizes.empty());
     show(loadsStep_, loads, !loads.empty());
+    show(resultsStep_, results, !results.empty());
 }
 
 void Form3::closed() {

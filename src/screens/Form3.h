@@ -83,7 +83,7 @@ class Form3 : public Form {
     void showSteps();
 
     QLabel *partNumber_, *units_;
-    Step bearingStep_, lifeStep_, styleStep_, sizesStep_, loadsStep_;
+    Step bearingStep_, lifeStep_, styleStep_, sizesStep_, loadsStep_, resultsStep_;
     QLabel* knownMark_;
     QLabel* searchMark_;
     QPushButton *modelNumber_, *style_, *thermalFits_, *faxCover_, *nedsPictures_;

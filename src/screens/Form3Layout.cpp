@@ -188,9 +188,11 @@ QWidget* Form3::makeSearchPath() {
     addStep(grid, *loadsStep_.mark,
             {{makeButton("Command6", "Load Input", "Enter Load condition", &Form3::openSearchLoads)}},
             loadsStep_.value);
-    addStep(grid, *new StepMark("ResultsStep", 4),
+    resultsStep_ = {new StepMark("ResultsStep", 4), makeValue("ResultsValue")};
+    addStep(grid, *resultsStep_.mark,
             {{makeButton("Command7", "Search Results", "Create and see list of possible bearings",
-                         &Form3::openResults)}});
+                         &Form3::openResults)}},
+            resultsStep_.value);
     return path.panel;
 }
 

@@ -18,6 +18,7 @@
 #include "search/HitChoice.h"
 #include "search/SearchMessages.h"
 #include "state/Patience.h"
+#include "state/SearchQuestion.h"
 
 namespace norlaplan {
 namespace {
@@ -295,6 +296,7 @@ SearchEnd RunBearingSearch(ProgramState& state, const ProgramFolder& folder, Mes
     state.search.rows = search.takeRows();
     state.search.hitCount = static_cast<int>(state.search.rows.size()) + 1;
     state.search.lastHours = search.lastHours();
+    state.search.question = searchQuestion(state);
     if (search.givenUp() > 0) messages.show(givenUpMessage(search.givenUp()));
     if (!state.search.rows.empty()) return SearchEnd::Found;
     messages.show({"SEARCH PARAMETERS OUTSIDE OF SIZE RANGE",

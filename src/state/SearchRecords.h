@@ -5,6 +5,7 @@
 
 #include "numbers/Int16.h"
 #include "numbers/Single.h"
+#include "state/LoadCase.h"
 
 namespace norlaplan {
 
@@ -12,6 +13,8 @@ namespace norlaplan {
 struct SearchCriteria {
     Single minBoreDisplay, maxOdDisplay, minHeightDisplay, maxHeightDisplay;
     Single minBore, maxOd, minHeight, maxHeight;
+
+    bool operator==(const SearchCriteria&) const = default;
 };
 
 /// The style of the search path: one of the six captions with its table letter.
@@ -39,10 +42,20 @@ enum SortColumn {
     kSortByAvailability
 };
 
+/// What a search was asked: as long as the state would ask the same, its rows are the answer.
+struct SearchQuestion {
+    std::string styleCaption, unitSystem;
+    SearchCriteria criteria;
+    LoadCase loads;
+
+    bool operator==(const SearchQuestion&) const = default;
+};
+
 /// The rows of the last search and how they stand.
 struct SearchResults {
     std::vector<SearchHit> rows;
-    Int16 hitCount;    ///< the next free row number: 1 when there is no row
+    SearchQuestion question;  ///< that the rows answer
+    Int16 hitCount;           ///< the next free row number: 1 when there is no row
     Single lastHours;  ///< of the last row that had a speed: the rows of a search without one list them
     bool noResultFlag = false;
     bool listOnlyFlag = false;  ///< the list is to be rebuilt from the rows, nothing computed

@@ -4,6 +4,7 @@
 
 #include "numbers/FormatNumber.h"
 #include "numbers/Text.h"
+#include "state/SearchQuestion.h"
 #include "state/StyleTable.h"
 
 namespace norlaplan {
@@ -82,6 +83,17 @@ std::string loadsValue(const ProgramState& state) {
     addLoad(loads.axialLoadDisplay, units.load, "axial");
     addLoad(loads.momentLoadDisplay, units.moment, "moment");
     add(text, loads.speed == 0.0 ? "no speed" : grouped(loads.speed) + " rpm");
+    return text;
+}
+
+std::string resultsValue(const ProgramState& state) {
+    const SearchResults& results = state.search;
+    if (results.rows.empty() || results.question != searchQuestion(state)) return "";
+    const std::size_t found = results.rows.size();
+    std::string text = found == 1 ? "1 bearing" : std::to_string(found) + " bearings";
+    const bool chosen = std::any_of(results.rows.begin(), results.rows.end(),
+                                    [&](const SearchHit& row) { return row.name == results.chosenName; });
+    if (chosen) add(text, trimmed(results.chosenName) + " chosen");
     return text;
 }
 

@@ -15,6 +15,8 @@ std::string styleValue(const ProgramState& state);
 std::string sizesValue(const ProgramState& state);
 /// The loads that are not 0, and the speed: "1,200 lb radial, 400 rpm".
 std::string loadsValue(const ProgramState& state);
+/// How many bearings the search found for these steps, and the chosen one: "12 bearings, K15008XP0 chosen".
+std::string resultsValue(const ProgramState& state);
 /// Style and sizes of the bearing in hand: "4-point contact, 190 x 216 x 13 mm"; empty unless it is decoded.
 std::string bearingValue(const ProgramState& state);
 /// "US units: in, lb, in-lb".

@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QComboBox>
 #include <QLabel>
 #include <QToolButton>
 
@@ -46,7 +47,7 @@ class StepsTest : public QObject {
   private slots:
     void a_new_program_has_no_step_done() {
         Steps program;
-        for (const char* const step : {"Bearing", "Life", "Style", "Sizes", "Loads"}) {
+        for (const char* const step : {"Bearing", "Life", "Style", "Sizes", "Loads", "Results"}) {
             QCOMPARE(program.value(step), QString());
             QVERIFY(!program.done(step));
         }
@@ -68,6 +69,25 @@ class StepsTest : public QObject {
                  QString("Step 1, done"));
         QCOMPARE(program.control<QWidget>(forms::kMainMenu, "BearingStep").accessibleName(),
                  QString("Step 1"));
+    }
+
+    void the_list_stands_under_its_step_until_a_step_before_it_changes() {
+        Steps program;
+        program.chooseStyleSizesAndLoads();
+        program.click(forms::kMainMenu, "Command7");
+        QCOMPARE(program.inFront(), std::string(forms::kResults));
+        const std::size_t found = program.state.search.rows.size();
+        QVERIFY(found > 1);
+        const QString name = QString::fromStdString(program.state.search.rows[1].name).trimmed();
+        program.control<QComboBox>(forms::kResults, "Combo1").setCurrentIndex(1);
+        program.screens.showAlone(forms::kMainMenu);
+        QCOMPARE(program.value("Results"), QString("%1 bearings, %2 chosen").arg(found).arg(name));
+        QVERIFY(program.done("Results"));
+        program.click(forms::kMainMenu, "Command6");
+        program.type(forms::kLoads, "Text1", "1300");
+        program.click(forms::kLoads, "Command3");
+        QCOMPARE(program.value("Results"), QString());
+        QVERIFY(!program.done("Results"));
     }
 
     void a_decoded_bearing_and_its_life_are_shown_on_the_known_path() {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "state/SearchQuestion.h"
 #include "state/StepValues.h"
 #include "state/StyleTable.h"
 
@@ -99,6 +100,38 @@ TEST_F(AStep, ShowsStyleAndSizesOfTheBearingInHandOnceItIsDecoded) {
         state.bearing.styleLetter = letter;
         EXPECT_EQ(bearingValue(state).substr(0, bearingValue(state).find(',')), name);
     }
+}
+
+TEST_F(AStep, ShowsTheListOnlyAsLongAsItAnswersTheStepsBefore) {
+    choose("4-POINT CONTACT");
+    setSizes(5, 9, 1, 2);
+    setLoads(1, 2, 3, 4);
+    EXPECT_EQ(resultsValue(state), "");
+    state.search.question = searchQuestion(state);
+    EXPECT_EQ(resultsValue(state), "");
+    state.search.rows.resize(1);
+    state.search.rows[0].name = "K15008XP0 ";
+    EXPECT_EQ(resultsValue(state), "1 bearing");
+    state.search.rows.resize(2);
+    state.search.rows[1].name = "K15013XP0 ";
+    state.search.chosenName = "K17013XP0 ";
+    EXPECT_EQ(resultsValue(state), "2 bearings");
+    state.search.chosenName = "K15013XP0 ";
+    EXPECT_EQ(resultsValue(state), "2 bearings, K15013XP0 chosen");
+    const ProgramState answered = state;
+    setLoads(1, 2, 3, 5);
+    EXPECT_EQ(resultsValue(state), "");
+    state = answered;
+    setSizes(5, 9, 1, 2.5);
+    EXPECT_EQ(resultsValue(state), "");
+    state = answered;
+    choose("RADIAL CONTACT");
+    EXPECT_EQ(resultsValue(state), "");
+    state = answered;
+    useMetric();
+    EXPECT_EQ(resultsValue(state), "");
+    state = answered;
+    EXPECT_EQ(resultsValue(state), "2 bearings, K15013XP0 chosen");
 }
 
 TEST_F(AStep, StandsUnderTheUnitsInForce) {
