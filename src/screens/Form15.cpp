@@ -15,6 +15,7 @@
 #include "screens/BusyPointer.h"
 #include "screens/Decoding.h"
 #include "screens/DocumentOutput.h"
+#include "screens/EqualSigns.h"
 #include "screens/FlowRow.h"
 #include "screens/FormBuilder.h"
 #include "screens/HitModel.h"
@@ -206,6 +207,8 @@ void Form15::showRequirements() {
     moment_->setText(entered("MOMENT = ", now.loads.momentLoadDisplay, units.momentUnit));
     speed_->setText(text("SPEED =  " + plainText(now.loads.speed) + " RPM"));
     speed_->setVisible(now.loads.speed > 0.0);
+    alignEqualSigns(std::vector{minBore_, maxOd_, minHeight_, maxHeight_});
+    alignEqualSigns(std::vector{radial_, axial_, moment_, speed_});
     styleGroup_->setTitle(text(caption));
     for (QWidget* const widget : {static_cast<QWidget*>(listHead_), static_cast<QWidget*>(list_)})
         widget->setFont(theme::listFont(hasSpacers(caption)));
