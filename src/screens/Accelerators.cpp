@@ -6,6 +6,8 @@
 #include <QMenuBar>
 #include <QSet>
 
+#include "screens/EntryLabel.h"
+
 namespace norlaplan::accelerators {
 namespace {
 
@@ -58,6 +60,38 @@ class Choice {
     QSet<QChar> fixed_;
 };
 
+QList<QChar> letterButtons(QWidget& window, const QString& taken) {
+    QList<QAbstractButton*> buttons;
+    QList<QString> captions;
+    for (QAbstractButton* const button : window.findChildren<QAbstractButton*>()) {
+        if (button->text().isEmpty() || button->objectName().startsWith(QLatin1String("qt_"))) continue;
+        buttons.append(button);
+        captions.append(button->text());
+    }
+    const QList<QChar> letters = choose(captions, taken);
+    for (qsizetype i = 0; i < buttons.size(); ++i) {
+        const bool none = letters[i].isNull();
+        buttons[i]->setShortcut(none ? QKeySequence()
+                                     : QKeySequence(Qt::ALT | Qt::Key(letters[i].unicode())));
+    }
+    return letters;
+}
+
+/// The fields take what the buttons leave.
+void letterFields(QWidget& window, const QString& taken) {
+    QList<EntryLabel*> labels;
+    QList<QString> captions;
+    for (QLabel* const label : window.findChildren<QLabel*>()) {
+        auto* const entry = dynamic_cast<EntryLabel*>(label);
+        if (entry == nullptr || entry->buddy() == nullptr) continue;
+        labels.append(entry);
+        captions.append(entry->text());
+    }
+    const QList<QChar> letters = choose(captions, taken);
+    for (qsizetype i = 0; i < labels.size(); ++i)
+        labels[i]->setLetter(letters[i]);
+}
+
 }  // namespace
 
 QList<QChar> choose(const QList<QString>& captions, const QString& taken) {
@@ -95,19 +129,11 @@ void assign(QWidget& window, const QMenuBar* menus) {
         for (const QAction* const menu : menus->actions())
             taken += statedLetter(menu->text());
     }
-    QList<QAbstractButton*> buttons;
-    QList<QString> captions;
-    for (QAbstractButton* const button : window.findChildren<QAbstractButton*>()) {
-        if (button->text().isEmpty() || button->objectName().startsWith(QLatin1String("qt_"))) continue;
-        buttons.append(button);
-        captions.append(button->text());
+    const QList<QChar> letters = letterButtons(window, taken);
+    for (const QChar letter : letters) {
+        if (!letter.isNull()) taken += letter;
     }
-    const QList<QChar> letters = choose(captions, taken);
-    for (qsizetype i = 0; i < buttons.size(); ++i) {
-        const bool none = letters[i].isNull();
-        buttons[i]->setShortcut(none ? QKeySequence()
-                                     : QKeySequence(Qt::ALT | Qt::Key(letters[i].unicode())));
-    }
+    letterFields(window, taken);
 }
 
 void mark(QMenu& menu) {

@@ -17,7 +17,8 @@ QList<QChar> choose(const QList<QString>& captions, const QString& taken = {});
 /// The caption as it is drawn: "&" before the letter and nowhere else.
 QString marked(QString caption, QChar letter);
 
-/// Gives every button of the window its letter, beside those of the menu bar, if it has one.
+/// Gives every button of the window its letter, beside those of the menu bar, if it has one, and the labels
+/// of its fields those that are left.
 void assign(QWidget& window, const QMenuBar* menus);
 
 /// Marks the items of a menu and of the menus within it.

@@ -113,9 +113,13 @@ QSize Form::sizeFor(const QSize& room) const {
 
 void Form::prepareToShow(const QRect& room) {
     if (!fitted_.isValid()) orderTabs();
-    accelerators::assign(*this, menus_);
+    giveLetters();
     room_ = room;
     fitTo(room.size() - (frameGeometry().size() - size()).expandedTo(kUsualFrame));
+}
+
+void Form::giveLetters() {
+    accelerators::assign(*this, menus_);
 }
 
 void Form::fitTo(const QSize& room) {

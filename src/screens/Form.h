@@ -38,9 +38,10 @@ class Form : public QWidget {
     /// What closing the window does; unless a form says otherwise it goes back to the one before.
     virtual void closed();
 
-    /// The form is about to appear on a screen with this room: gives it its size, and its buttons the letters
-    /// that press them.
+    /// The form is about to appear on a screen with this room: gives it its size and its letters.
     void prepareToShow(const QRect& room);
+    /// Gives buttons the letters that press them, and captions of fields those that lead there.
+    void giveLetters();
 
     QSize sizeHint() const override;
 

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "screens/Accelerators.h"
+#include "screens/EntryLabel.h"
 #include "screens/NumberField.h"
 #include "screens/Picture.h"
 #include "screens/Theme.h"
@@ -89,7 +90,7 @@ QRadioButton* option(const char* name, const QString& caption, const QString& ti
 }
 
 QLabel* label(const char* name, const QString& caption) {
-    return named(new QLabel(caption), name, {}, {});
+    return named<QLabel>(new EntryLabel(caption), name, {}, {});
 }
 
 QLabel* heading(const char* name, const QString& caption) {

@@ -102,6 +102,8 @@ void Screens::activate(Pile pile) {
         current()->cameBack();
     else
         current()->opened();
+    // Captions may have come with what the form shows now.
+    if (current() != nullptr) current()->giveLetters();
 }
 
 void Screens::runAction(const std::string& name, const std::function<void()>& action) {

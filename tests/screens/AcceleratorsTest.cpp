@@ -3,6 +3,7 @@
 #include <set>
 
 #include "screens/Accelerators.h"
+#include "screens/EntryLabel.h"
 #include "screens/Program.h"
 
 namespace norlaplan::testing {
@@ -60,6 +61,50 @@ class AcceleratorsTest : public QObject {
                 QVERIFY2(letters.insert(key).second, qPrintable(what));
             }
         }
+    }
+
+    void theFieldsTakeTheLettersThatTheButtonsLeave() {
+        Program program;
+        for (const FormEntry& entry : formRegistry()) {
+            if (entry.make == nullptr) continue;
+            Form& form = program.screens.form(entry.name);
+            form.prepareToShow(QRect(0, 0, 1024, 768));
+            std::set<QChar> letters;
+            for (const auto* const button : form.findChildren<QAbstractButton*>()) {
+                if (!button->shortcut().isEmpty()) letters.insert(button->shortcut().toString().back());
+            }
+            for (const auto* const label : form.findChildren<QLabel*>()) {
+                const auto* const caption = dynamic_cast<const EntryLabel*>(label);
+                if (caption == nullptr || caption->letter().isNull()) continue;
+                const QString what = form.objectName() + " " + caption->text() + " " + caption->letter();
+                QVERIFY2(letters.insert(caption->letter()).second, qPrintable(what));
+                QVERIFY2(caption->text().toUpper().contains(caption->letter()), qPrintable(what));
+            }
+        }
+    }
+
+    void altAndTheLetterOfAFieldGoToItAndSelectWhatItHolds() {
+        Program program;
+        program.enterNumber("K19013XP0");
+        program.click(forms::kMainMenu, "Command13");
+        QVERIFY(QTest::qWaitForWindowActive(program.screens.current()));
+        program.type(forms::kLoads, "Text2", "123");
+        QVERIFY(!program.control<QLineEdit>(forms::kLoads, "Text4").hasFocus());
+        for (const auto* const label : program.screens.form(forms::kLoads).findChildren<QLabel*>()) {
+            const auto* const caption = dynamic_cast<const EntryLabel*>(label);
+            if (caption == nullptr || caption->buddy() == nullptr || !caption->isVisible()) continue;
+            QVERIFY2(!caption->letter().isNull(), qPrintable(caption->text()));
+            QTest::keyClick(program.screens.current(), Qt::Key(caption->letter().unicode()), Qt::AltModifier);
+            QVERIFY2(caption->buddy()->hasFocus(), qPrintable(caption->text()));
+        }
+        auto& axial = program.control<QLineEdit>(forms::kLoads, "Text2");
+        QCOMPARE(axial.text(), QString("123"));
+        program.control<QLineEdit>(forms::kLoads, "Text1").setFocus();
+        const auto* const caption =
+            dynamic_cast<const EntryLabel*>(axial.parent()->findChild<QLabel*>("Label2"));
+        QVERIFY(caption != nullptr);
+        QTest::keyClick(program.screens.current(), Qt::Key(caption->letter().unicode()), Qt::AltModifier);
+        QCOMPARE(axial.selectedText(), QString("123"));
     }
 
     void everyItemOfAMenuHasALetterOfItsOwn() {
