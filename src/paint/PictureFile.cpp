@@ -44,31 +44,34 @@ void writeBytes(const std::filesystem::path& path, const QByteArray& bytes) {
     writeWholeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
-std::string extensionOf(const std::filesystem::path& path) {
-    return upperCase(path.extension().string());
+/// "PDF", "PNG" or "BMP"; empty for an extension that is none of them.
+std::string formatOf(const std::string& extension) {
+    const std::string format = upperCase(extension);
+    for (const char* const known : {"PDF", "PNG", "BMP"}) {
+        if (format == std::string(".") + known) return known;
+    }
+    return {};
 }
 
 }  // namespace
 
 void savePicture(const std::filesystem::path& path, const Drawing& drawing) {
-    const std::string extension = extensionOf(path);
-    if (!isPictureFile(path)) raise(fault::kInvalidCall);
-    const QByteArray bytes =
-        extension == ".PDF" ? pdfOf(drawing) : encoded(pageImage(drawing), extension.c_str() + 1);
-    writeBytes(path, bytes);
+    savePictureAs(path, drawing, path.extension().string());
 }
 
-void saveBitmap(const std::filesystem::path& path, const Drawing& drawing) {
-    writeBytes(path, encoded(pageImage(drawing), "BMP"));
+void savePictureAs(const std::filesystem::path& path, const Drawing& drawing, const std::string& extension) {
+    const std::string format = formatOf(extension);
+    if (format.empty()) raise(fault::kInvalidCall);
+    writeBytes(path, format == "PDF" ? pdfOf(drawing) : encoded(pageImage(drawing), format.c_str()));
 }
 
-void saveBitmap(const std::filesystem::path& path, const Drawing& drawing, const PageBox& area) {
-    writeBytes(path, encoded(pageImage(drawing, area), "BMP"));
+void savePictureAs(const std::filesystem::path& path, const Drawing& drawing, const std::string& extension,
+                   const PageBox& area) {
+    writeBytes(path, encoded(pageImage(drawing, area), formatOf(extension).c_str()));
 }
 
 bool isPictureFile(const std::filesystem::path& path) {
-    const std::string extension = extensionOf(path);
-    return extension == ".PDF" || extension == ".PNG" || extension == ".BMP";
+    return !formatOf(path.extension().string()).empty();
 }
 
 }  // namespace norlaplan

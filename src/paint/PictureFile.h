@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 #include "state/Drawing.h"
 
@@ -11,10 +12,11 @@ namespace norlaplan {
 /// those of `writeWholeFile`. Needs a running Qt Gui application.
 void savePicture(const std::filesystem::path& path, const Drawing& drawing);
 
-/// Draws all pages into a bitmap file of whatever name. Errors as `savePicture`.
-void saveBitmap(const std::filesystem::path& path, const Drawing& drawing);
-/// Draws a part of a drawing of one page, as wide as the whole page would be.
-void saveBitmap(const std::filesystem::path& path, const Drawing& drawing, const PageBox& area);
+/// The same in the format of this extension (".bmp"), whatever the path's own.
+void savePictureAs(const std::filesystem::path& path, const Drawing& drawing, const std::string& extension);
+/// A part of a drawing of one page as .png or .bmp, in as many dots as the whole page is wide.
+void savePictureAs(const std::filesystem::path& path, const Drawing& drawing, const std::string& extension,
+                   const PageBox& area);
 
 /// Whether the extension is one that `savePicture` writes.
 bool isPictureFile(const std::filesystem::path& path);

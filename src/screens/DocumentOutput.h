@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 
 #include "documents/Document.h"
 #include "screens/Services.h"
@@ -14,8 +15,10 @@ void printDocument(const Services& services, const Document& document);
 /// Writes the RTF text of a document to a file; `saveDocument` takes another way where one is given.
 using RtfSaver = std::function<void(const std::filesystem::path&)>;
 
-/// Asks where a document goes and in which form, and saves it there. The path becomes the last saved file.
-/// Nothing happens when the user cancels. Errors as those of the writing.
-void saveDocument(const Services& services, const Document& document, const RtfSaver& saveRtf = {});
+/// Asks where a document goes and in which form, its own kinds of file and PDF and PNG beside them, and saves
+/// it there. The path becomes the last saved file and is given. Nothing when the user cancels. Errors as
+/// those of the writing.
+std::optional<std::filesystem::path> saveDocument(const Services& services, const Document& document,
+                                                  const RtfSaver& saveRtf = {});
 
 }  // namespace norlaplan

@@ -14,6 +14,7 @@
 #include "screens/Accelerators.h"
 #include "screens/FlowRow.h"
 #include "screens/FormBuilder.h"
+#include "screens/SavedLine.h"
 #include "screens/Screens.h"
 #include "screens/Theme.h"
 
@@ -80,6 +81,28 @@ void Form::setFooter(const Footer& buttons) {
     if (buttons.main != nullptr) setMainButton(*buttons.main);
 }
 
+void Form::saveAs(const Document& document, const RtfSaver& saveRtf) {
+    if (const auto path = saveDocument(services(), document, saveRtf)) tellSaved(*path);
+}
+
+void Form::tellSaved(const std::filesystem::path& path) {
+    if (saved_ == nullptr) {
+        saved_ = new SavedLine;
+        on(&saved_->open(), &QPushButton::clicked, "Open", [this] { openSaved(saved_->path()); });
+        on(&saved_->showInFolder(), &QPushButton::clicked, "Show in Folder",
+           [this] { openSaved(saved_->path().parent_path()); });
+        outer_->insertWidget(footer_ == nullptr ? -1 : outer_->indexOf(footer_), saved_);
+    }
+    saved_->tell(path);
+    giveLetters();
+}
+
+void Form::openSaved(const std::filesystem::path& path) {
+    if (services().desktop.open(path)) return;
+    services().messages.show(
+        {"No program found", "This desktop has no program that opens " + path.string(), Icon::Information});
+}
+
 void Form::setMenus(QMenuBar* menus) {
     menus_ = menus;
     outer_->setMenuBar(menus);
@@ -114,6 +137,7 @@ QSize Form::sizeFor(const QSize& room) const {
 void Form::prepareToShow(const QRect& room) {
     if (!fitted_.isValid()) orderTabs();
     giveLetters();
+    if (saved_ != nullptr) saved_->hide();
     room_ = room;
     fitTo(room.size() - (frameGeometry().size() - size()).expandedTo(kUsualFrame));
 }

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "screens/DocumentOutput.h"
 #include "screens/FormRegistry.h"
 #include "screens/Services.h"
 
@@ -16,6 +17,7 @@ class QVBoxLayout;
 namespace norlaplan {
 
 class FlowRow;
+class SavedLine;
 class Screens;
 
 /// A screen of the program: a window of its own, made on first use and kept, hidden, from then on. Its
@@ -80,6 +82,11 @@ class Form : public QWidget {
     }
     void run(const std::string& name, const std::function<void()>& action);
 
+    /// Asks where a document goes, saves it, and says in a line above the footer where it is.
+    void saveAs(const Document& document, const RtfSaver& saveRtf = {});
+    /// Says where a file went.
+    void tellSaved(const std::filesystem::path& path);
+
     /// The size in which the form appears, within that of the room.
     virtual QSize sizeFor(const QSize& room) const;
     /// What Escape does; as closing the window unless a form says otherwise.
@@ -93,12 +100,14 @@ class Form : public QWidget {
     void fitTo(const QSize& room);
     void followContents();
     void orderTabs();
+    void openSaved(const std::filesystem::path& path);
 
     Screens& screens_;
     QVBoxLayout* outer_;
     QScrollArea* scroll_ = nullptr;
     QWidget* page_ = nullptr;
     QWidget* footer_ = nullptr;
+    SavedLine* saved_ = nullptr;
     QMenuBar* menus_ = nullptr;
     QPushButton* main_ = nullptr;
     std::vector<QPushButton*> footerTabs_;

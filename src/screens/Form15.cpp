@@ -289,7 +289,7 @@ void Form15::print() {
 }
 
 void Form15::save() {
-    saveDocument(services(), searchDocument(state(), services().clock));
+    saveAs(searchDocument(state(), services().clock));
 }
 
 }  // namespace norlaplan

@@ -109,7 +109,7 @@ bool Form17::sheetInHand() {
 void Form17::save() {
     if (!sheetInHand()) return;
     shown_.pictureArea = sheet_->area();
-    saveDocument(services(), shown_, [this](const std::filesystem::path& path) { moveSheet(path); });
+    saveAs(shown_, [this](const std::filesystem::path& path) { moveSheet(path); });
 }
 
 void Form17::moveSheet(const std::filesystem::path& path) {

@@ -315,7 +315,7 @@ void Form19::print() {
 
 void Form19::save() {
     if (!lifeInHand()) return;
-    saveDocument(services(), document());
+    saveAs(document());
 }
 
 }  // namespace norlaplan

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "state/DesktopPort.h"
 #include "state/Ports.h"
 #include "state/ProgramFolder.h"
 #include "state/ProgramState.h"
@@ -17,6 +18,7 @@ struct Services {
     ClockPort& clock;
     SheetStorePort& sheets;
     UserFilesPort& userFiles;
+    DesktopPort& desktop;
 };
 
 }  // namespace norlaplan

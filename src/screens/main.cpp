@@ -17,12 +17,13 @@ int main(int count, char** arguments) {
     const ProgramFolder folder(QCoreApplication::applicationDirPath().toStdString());
     QtMessages messages;
     QtSaveDialog saveDialog;
-    QtPrinter printer;
+    QtPrinter printer(saveDialog);
     LocalClock clock;
     FolderSheets sheets(folder);
+    QtDesktop desktop;
     UserFiles userFiles(UserFiles::usualFolder());
 
-    Screens screens({state, folder, messages, saveDialog, printer, clock, sheets, userFiles});
+    Screens screens({state, folder, messages, saveDialog, printer, clock, sheets, userFiles, desktop});
     addForms(screens);
     ShowStartScreen(screens);
     return QApplication::exec();

@@ -138,7 +138,7 @@ TEST(Bitmaps, ShowTheirPartOfThePageAsLargeAsAWholeOne) {
         canvas.rectangle({2.5, 8.5, 3.0, 8.25}, colours::kBlack, std::nullopt);
         canvas.rectangle({0.5, 8.5, 1.0, 8.25}, colours::kBlack, std::nullopt);
     };
-    saveBitmap(path, {papers::kLetter, draw}, {2.0, 9.0, 2.0 + 8.5 / 4.0, 9.0 - 11.0 / 4.0});
+    savePictureAs(path, {papers::kLetter, draw}, ".bmp", {2.0, 9.0, 2.0 + 8.5 / 4.0, 9.0 - 11.0 / 4.0});
     EXPECT_TRUE(files.read("part.dat").starts_with("BM"));
     const QImage picture = load(path);
     EXPECT_EQ(picture.size(), QSize(1275, 1650));

@@ -94,7 +94,7 @@ class FilesTest : public QObject {
     void a_part_of_a_page_fills_its_bitmap_whatever_the_files_name() {
         TemporaryFolder files;
         // The right half of the cross above the middle: its left edge is the upright line.
-        saveBitmap(files.path() / "part", {papers::kLetter, drawCross}, {4.25, 11.0, 8.5, 5.5});
+        savePictureAs(files.path() / "part", {papers::kLetter, drawCross}, ".bmp", {4.25, 11.0, 8.5, 5.5});
         const QImage picture(QString::fromStdString((files.path() / "part").string()), "BMP");
         QCOMPARE(picture.size(), QSize(1275, 1650));
         QCOMPARE(picture.pixelColor(1, 800), QColor(Qt::blue));

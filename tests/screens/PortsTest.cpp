@@ -164,6 +164,35 @@ class PortsTest : public QObject {
         QVERIFY(asked);
     }
 
+    void later_dialogs_open_where_the_user_saved_last() {
+        const TemporaryFolder stated, chosen;
+        QtSaveDialog dialog;
+        const auto saveIn = [&](const std::filesystem::path& folder) {
+            whenOpen<QFileDialog>([&](QFileDialog& open) {
+                open.findChild<QLineEdit*>("fileNameEdit")
+                    ->setText(QString::fromStdString((folder / "mine.rtf").string()));
+                static_cast<QDialog&>(open).accept();
+            });
+            return dialog.askWhereToSave(sheetRequest(stated.path()));
+        };
+        const auto folderOfNext = [&] {
+            std::string folder;
+            whenOpen<QFileDialog>([&](QFileDialog& open) {
+                folder = open.directory().path().toStdString();
+                open.reject();
+            });
+            dialog.askWhereToSave(sheetRequest(stated.path()));
+            return folder;
+        };
+        QVERIFY(saveIn(chosen.path()).has_value());
+        QCOMPARE(folderOfNext(), chosen.path().string());
+        {
+            const TemporaryFolder gone;
+            QVERIFY(saveIn(gone.path()).has_value());
+        }
+        QCOMPARE(folderOfNext(), stated.path().string());
+    }
+
     void a_cancelled_dialog_gives_nothing() {
         const TemporaryFolder files;
         whenOpen<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });

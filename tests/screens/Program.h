@@ -11,6 +11,7 @@
 #include "screens/Screens.h"
 #include "screens/platform/QtPorts.h"
 #include "support/Folders.h"
+#include "support/RecordingDesktop.h"
 #include "support/RecordingPorts.h"
 
 namespace norlaplan::testing {
@@ -94,7 +95,8 @@ struct Program {
     FixedClock clock;
     FolderSheets sheets{folder};
     MemoryUserFiles userFiles;
-    Screens screens{{state, folder, messages, saveDialog, *paper, clock, sheets, userFiles}};
+    RecordingDesktop desktop;
+    Screens screens{{state, folder, messages, saveDialog, *paper, clock, sheets, userFiles, desktop}};
 };
 
 }  // namespace norlaplan::testing

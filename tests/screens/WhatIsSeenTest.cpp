@@ -2,6 +2,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTimer>
 #include <map>
 
@@ -157,22 +158,19 @@ class WhatIsSeenTest : public QObject {
     }
 
     void a_sheet_is_printed_into_a_pdf_without_a_fault() {
-        QtPrinter printer;
+        PresetSaveDialog saveDialog;
+        QtPrinter printer(saveDialog);
         Program program(&printer);
         program.enterNumber("K19013XP0");
         program.click("Form3", "Command9");
-        const std::filesystem::path target = program.files.path() / "print.pdf";
+        saveDialog.choice = SaveChoice{program.files.path() / "print.pdf", 1};
         bool asked = false;
         QTimer::singleShot(200, qApp, [&] {
-            auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (dialog == nullptr) return;
-            if (auto* const name = dialog->findChild<QLineEdit*>("filename")) {
-                asked = true;
-                name->setText(QString::fromStdString(target.string()));
-                dialog->accept();
-            } else {
-                dialog->reject();
-            }
+            auto* const preview = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (preview == nullptr) return;
+            asked = true;
+            preview->findChild<QPushButton*>("SaveAsPdf")->click();
+            preview->reject();
         });
         program.click("Form17", "Command4");
         QVERIFY(asked);

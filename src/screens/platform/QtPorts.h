@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "state/DesktopPort.h"
 #include "state/Ports.h"
 #include "state/ProgramFolder.h"
 
@@ -15,17 +16,24 @@ class QtMessages : public MessagePort {
     Answer ask(const Message& question, Buttons buttons) override;
 };
 
-/// Qt's own save dialog, the same on every desktop, which asks before it replaces a file.
+/// Qt's own save dialog, the same on every desktop, which asks before it replaces a file. The first one opens
+/// in the folder asked for, later ones where the user saved last.
 class QtSaveDialog : public SaveDialogPort {
   public:
     std::optional<SaveChoice> askWhereToSave(const SaveRequest& request) override;
+
+  private:
+    std::filesystem::path lastFolder_;
 };
 
-/// The print dialog and the printer: letter pages, portrait. With no printer installed the dialog prints to a
-/// PDF file.
+/// The preview of the pages, and from there the printer or a PDF file.
 class QtPrinter : public PrinterPort {
   public:
+    explicit QtPrinter(SaveDialogPort& saveDialog) : saveDialog_(saveDialog) {}
     bool print(const std::string& documentName, const Drawing& drawing) override;
+
+  private:
+    SaveDialogPort& saveDialog_;
 };
 
 /// Date and time of now in the user's locale, short form.
@@ -33,6 +41,12 @@ class LocalClock : public ClockPort {
   public:
     std::string date() override;
     std::string time() override;
+};
+
+/// The desktop's programs by the desktop's own choice.
+class QtDesktop : public DesktopPort {
+  public:
+    bool open(const std::filesystem::path& path) override;
 };
 
 /// Keeps the data sheet as DATA.RTF and CONDENSED.DAT in the program folder. Neither is replaced before both

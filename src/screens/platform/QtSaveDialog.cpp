@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <algorithm>
+#include <system_error>
 
 #include "screens/platform/QtPorts.h"
 
@@ -17,6 +18,12 @@ int filterOf(const QString& name, const SaveRequest& request, int chosen) {
     return chosen;
 }
 
+/// The user's last folder, unless it has gone since.
+std::filesystem::path folderFor(const SaveRequest& request, const std::filesystem::path& last) {
+    std::error_code gone;
+    return std::filesystem::is_directory(last, gone) ? last : request.folder;
+}
+
 }  // namespace
 
 std::optional<SaveChoice> QtSaveDialog::askWhereToSave(const SaveRequest& request) {
@@ -25,7 +32,7 @@ std::optional<SaveChoice> QtSaveDialog::askWhereToSave(const SaveRequest& reques
         filters << QString::fromStdString(filter.label);
 
     QFileDialog dialog(QApplication::activeWindow(), QString::fromStdString(request.title),
-                       QString::fromStdString(request.folder.string()));
+                       QString::fromStdString(folderFor(request, lastFolder_).string()));
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
@@ -45,6 +52,7 @@ std::optional<SaveChoice> QtSaveDialog::askWhereToSave(const SaveRequest& reques
 
     const int chosen = std::max(1, static_cast<int>(filters.indexOf(dialog.selectedNameFilter())) + 1);
     const QString name = dialog.selectedFiles().value(0);
+    lastFolder_ = std::filesystem::path(name.toStdString()).parent_path();
     return SaveChoice{name.toStdString(), filterOf(name, request, chosen)};
 }
 

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "state/Drawing.h"
+
+namespace norlaplan {
+
+/// How many pages a drawing has. `measure` gives the widths of texts; nothing is drawn on it.
+int pageCount(const Drawing& drawing, Canvas& measure);
+
+/// One page of a drawing, counted from 1, as a drawing of one page. What it is made of must still be there.
+Drawing onePage(const Drawing& drawing, int page);
+
+}  // namespace norlaplan

@@ -1,0 +1,143 @@
+#include <QLabel>
+#include <QPrintDialog>
+#include <QPushButton>
+#include <QTimer>
+
+#include "screens/DrawingView.h"
+#include "screens/PrintPreview.h"
+#include "screens/Program.h"
+
+using namespace norlaplan;
+using namespace norlaplan::testing;
+
+namespace {
+
+/// Two landscape pages: a red bar at the top of the first, a blue one at the top of the second.
+Drawing twoPages() {
+    return {papers::kLetterLandscape, [](Canvas& canvas) {
+                canvas.rectangle({1.0, 8.0, 10.0, 7.0}, colours::kRed, std::nullopt);
+                canvas.newPage();
+                canvas.rectangle({1.0, 8.0, 10.0, 7.0}, colours::kBlue, std::nullopt);
+            }};
+}
+
+struct Preview {
+    explicit Preview(bool hasPrinter = true, Drawing drawing = twoPages())
+        : dialog("A: list", std::move(drawing), saveDialog, hasPrinter, nullptr) {
+        dialog.show();
+    }
+    template <typename Control = QPushButton>
+    Control& control(const char* name) {
+        return *dialog.findChild<Control*>(name);
+    }
+    PresetSaveDialog saveDialog;
+    PrintPreview dialog;
+};
+
+}  // namespace
+
+class PrintPreviewTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void it_shows_one_page_at_a_time_and_turns_by_button_and_key() {
+        Preview preview;
+        QCOMPARE(preview.control<QLabel>("PageNumber").text(), QString("Page 1 of 2"));
+        QVERIFY(!preview.control("PreviousPage").isEnabled());
+        preview.control("NextPage").click();
+        QCOMPARE(preview.control<QLabel>("PageNumber").text(), QString("Page 2 of 2"));
+        QVERIFY(!preview.control("NextPage").isEnabled());
+        QTest::keyClick(&preview.dialog, Qt::Key_PageUp);
+        QCOMPARE(preview.control<QLabel>("PageNumber").text(), QString("Page 1 of 2"));
+        QTest::keyClick(&preview.dialog, Qt::Key_PageUp);
+        QCOMPARE(preview.control<QLabel>("PageNumber").text(), QString("Page 1 of 2"));
+        QTest::keyClick(&preview.dialog, Qt::Key_PageDown);
+        QCOMPARE(preview.control<QLabel>("PageNumber").text(), QString("Page 2 of 2"));
+    }
+
+    void the_page_in_view_is_the_one_that_will_be_printed() {
+        Preview preview;
+        auto* const view = preview.dialog.findChild<QAbstractScrollArea*>();
+        QVERIFY(view != nullptr);
+        const auto middleOfBar = [&] {
+            const QImage shown = view->viewport()->grab().toImage();
+            const auto& drawn = static_cast<DrawingView&>(*view);
+            // The page stands whole in the middle of the view; the bar's middle lies an inch below its top.
+            const int top = (shown.height() - qRound(8.5 * drawn.pixelsPerInch())) / 2;
+            return shown.pixelColor(shown.width() / 2, top + qRound(drawn.pixelsPerInch()));
+        };
+        QCOMPARE(middleOfBar(), QColor(Qt::red));
+        preview.control("NextPage").click();
+        QCOMPARE(middleOfBar(), QColor(Qt::blue));
+    }
+
+    void a_single_page_has_nothing_to_turn() {
+        Preview preview(true, {papers::kLetter, [](Canvas&) {}});
+        QCOMPARE(preview.control<QLabel>("PageNumber").text(), QString("Page 1 of 1"));
+        QVERIFY(!preview.control("NextPage").isVisible());
+    }
+
+    void the_pdf_holds_every_page_on_its_paper() {
+        TemporaryFolder files;
+        Preview preview;
+        preview.saveDialog.choice = SaveChoice{files.path() / "list.pdf", 1};
+        preview.control("SaveAsPdf").click();
+        QCOMPARE(preview.saveDialog.requests.at(0).name, std::string("A- list.pdf"));
+        const std::string pdf = files.read("list.pdf");
+        QVERIFY(pdf.starts_with("%PDF"));
+        QVERIFY(pdf.find("/Count 2") != std::string::npos);
+        QVERIFY(pdf.find("[0 0 792") != std::string::npos);
+        const auto& notice = preview.control<QLabel>("Notice");
+        QVERIFY(notice.isVisible());
+        QVERIFY(notice.text().contains("list.pdf"));
+        QVERIFY(preview.dialog.isVisible());
+    }
+
+    void a_cancelled_pdf_leaves_the_preview_as_it_was() {
+        Preview preview;
+        preview.control("SaveAsPdf").click();
+        QVERIFY(preview.dialog.isVisible());
+        QVERIFY(!preview.control<QLabel>("Notice").isVisible());
+    }
+
+    void without_a_printer_it_says_so_and_offers_the_file() {
+        Preview preview(false);
+        QVERIFY(preview.control<QLabel>("Notice").text().startsWith("No printer is installed."));
+        QVERIFY(preview.control<QLabel>("Notice").isVisible());
+        QVERIFY(!preview.control("Print").isEnabled());
+        QVERIFY(preview.control("SaveAsPdf").isDefault());
+    }
+
+    void run_says_whether_something_was_written() {
+        TemporaryFolder files;
+        PresetSaveDialog saveDialog;
+        saveDialog.choice = SaveChoice{files.path() / "list.pdf", 1};
+        PrintPreview written("list", twoPages(), saveDialog, true, nullptr);
+        QTimer::singleShot(0, &written, [&] {
+            written.findChild<QPushButton*>("SaveAsPdf")->click();
+            written.findChild<QPushButton*>("Close")->click();
+        });
+        QVERIFY(written.run());
+        PrintPreview left("list", twoPages(), saveDialog, true, nullptr);
+        QTimer::singleShot(0, &left, [&] { left.findChild<QPushButton*>("Close")->click(); });
+        QVERIFY(!left.run());
+    }
+
+    void a_pdf_that_cannot_be_written_ends_the_preview_with_its_error() {
+        TemporaryFolder files;
+        PresetSaveDialog saveDialog;
+        saveDialog.choice = SaveChoice{files.path() / "missing" / "list.pdf", 1};
+        PrintPreview preview("list", twoPages(), saveDialog, true, nullptr);
+        QTimer::singleShot(0, &preview, [&] { preview.findChild<QPushButton*>("SaveAsPdf")->click(); });
+        QVERIFY_EXCEPTION_THROWN(preview.run(), RuntimeError);
+    }
+
+    void escape_leaves_it() {
+        Preview preview;
+        QTest::keyClick(&preview.dialog, Qt::Key_Escape);
+        QVERIFY(!preview.dialog.isVisible());
+    }
+};
+
+QTEST_MAIN(PrintPreviewTest)
+#include "PrintPreviewTest.moc"
