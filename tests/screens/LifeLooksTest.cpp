@@ -35,9 +35,10 @@ struct Life : Program {
     }
 };
 
-/// The first column of the window in which the label's '=' is seen, found by selecting it as a user does.
-int columnOfSign(QLabel& label) {
-    label.setSelection(static_cast<int>(label.text().indexOf('=')), 1);
+/// The first column of the window in which a letter of the label is seen, found by selecting it as a user
+/// does. It is counted in the text as it is drawn, where several blanks are one.
+int columnOf(QLabel& label, int letter) {
+    label.setSelection(letter, 1);
     const QImage picture = label.grab().toImage();
     label.setSelection(0, 0);
     const QRgb marked = theme::accent().rgb();
@@ -47,6 +48,10 @@ int columnOfSign(QLabel& label) {
         }
     }
     return -1;
+}
+
+int columnOfSign(QLabel& label) {
+    return columnOf(label, static_cast<int>(label.text().simplified().indexOf('=')));
 }
 
 class LifeLooksTest : public QObject {
@@ -71,6 +76,17 @@ class LifeLooksTest : public QObject {
             const int column = columnOfSign(life.label(qPrintable(row)));
             QVERIFY2(std::abs(column - first) <= 1, qPrintable(QString("%1: %2").arg(row).arg(column)));
         }
+    }
+
+    void theValuesBehindTheSignsStandUnderEachOtherToo() {
+        Life life;
+        life.solve("400");
+        // "SPEED =  400 RPM" has two blanks behind its sign, the others one.
+        const auto columnOfValue = [&](const char* name) {
+            QLabel& label = life.label(name);
+            return columnOf(label, static_cast<int>(label.text().simplified().indexOf("= ")) + 2);
+        };
+        QVERIFY(std::abs(columnOfValue("Label4") - columnOfValue("Label7")) <= 1);
     }
 
     void theTextsStayAsTheyAreStated() {
