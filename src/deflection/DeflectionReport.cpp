@@ -39,7 +39,7 @@ void printDeflectionGraph(const DeflectionGraphData& data, const GraphSettings& 
     constexpr double kLeft = 2.25;
     constexpr double kRight = 9.25;
     constexpr double kLine = 0.19;
-    constexpr double kFootLine = 0.45;
+    drawPageFrame(canvas, papers::kLetterLandscape);
     double top = 8.05;
     const auto put = [&](const std::string& text, const TextLook& look) {
         canvas.text({kLeft, top, kRight, top - kLine}, text, look);
@@ -52,11 +52,7 @@ void printDeflectionGraph(const DeflectionGraphData& data, const GraphSettings& 
           kContact})
         put(note, timesLook(11.0));
     drawGraph(printedDeflectionGraph(data, settings), canvas);
-    TextLook foot = timesLook(9.0);
-    canvas.text({kLeft, kFootLine, kRight, kFootLine - kLine}, kProgramVersion, foot);
-    foot.alignment = Alignment::Right;
-    canvas.text({kLeft, kFootLine, kRight, kFootLine - kLine},
-                "Printed: " + clock.date() + " " + clock.time(), foot);
+    drawPageFooter(canvas, clock, "", papers::kLetterLandscape);
 }
 
 std::string deflectionGraphName(const DeflectionGraphData& data) {

@@ -8,7 +8,7 @@ namespace {
 
 constexpr double kPointsPerInch = 72.0;
 constexpr double kLeading = 1.3;
-constexpr double kMargin = 0.5;  // of the frame
+constexpr double kMargin = 0.25;  // of the frame
 constexpr double kInset = 0.15;  // of what stands along it
 
 }  // namespace
@@ -49,9 +49,13 @@ void PageWriter::lifeText(double x, const std::string& before, const std::string
     put(x + canvas_.textWidth("10", small), behind, look);
 }
 
-void drawPageFrame(Canvas& canvas, const Paper& paper) {
+void drawPageBorder(Canvas& canvas, const Paper& paper) {
     canvas.rectangle({kMargin, paper.height - kMargin, paper.width - kMargin, kMargin}, std::nullopt,
                      PagePen{});
+}
+
+void drawPageFrame(Canvas& canvas, const Paper& paper) {
+    drawPageBorder(canvas, paper);
     constexpr double kLogoWidth = 1.1;
     drawLogo(canvas, {paper.width - kMargin - kInset - kLogoWidth, paper.height - kMargin - 0.05},
              kLogoWidth);
@@ -59,8 +63,9 @@ void drawPageFrame(Canvas& canvas, const Paper& paper) {
 
 void drawPageFooter(Canvas& canvas, ClockPort& clock, const std::string& more, const Paper& paper) {
     const double right = paper.width - kMargin;
-    const PageBox line{kMargin + kInset, 0.7, right - kInset, 0.6};
-    canvas.line({kMargin, 0.78}, {right, 0.78}, PagePen{});
+    constexpr double kRule = kMargin + 0.28;
+    const PageBox line{kMargin + kInset, kRule - 0.08, right - kInset, kRule - 0.18};
+    canvas.line({kMargin, kRule}, {right, kRule}, PagePen{});
     TextLook look = timesLook(8.0);
     canvas.text(line, kProgramVersion, look);
     look.alignment = Alignment::Right;

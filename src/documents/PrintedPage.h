@@ -8,7 +8,7 @@
 
 namespace norlaplan {
 
-// The layout that all printed reports share: a thin frame half an inch within the paper, the text within it.
+// The layout that all printed reports share: a thin frame a quarter inch within the paper, the text within it.
 // These are the edges of the text on an upright letter page.
 constexpr double kPageLeft = 0.9;
 constexpr double kPageRight = papers::kLetter.width - kPageLeft;
@@ -39,7 +39,9 @@ class PageWriter {
 
 TextLook timesLook(double points, bool bold = false, Colour colour = colours::kBlack);
 
-/// The frame of a page and the maker's mark at its head.
+/// The frame of a page.
+void drawPageBorder(Canvas& canvas, const Paper& paper = papers::kLetter);
+/// The same with the maker's mark at the page's head.
 void drawPageFrame(Canvas& canvas, const Paper& paper = papers::kLetter);
 /// The last line of a page: program, when it was printed, and `more` (such as "Page 1 of 2").
 void drawPageFooter(Canvas& canvas, ClockPort& clock, const std::string& more = "",

@@ -54,11 +54,6 @@ class BallLoadPage {
         if (state_.bearing.styleLetter != "C") line(600.0, 10600.0, rowText(2), kBody);
     }
 
-    void writeFoot(ClockPort& clock) {
-        line(600.0, 11100.0, kProgramVersion, 8.0);
-        line(11400.0, 11100.0, "Printed: " + clock.date() + " " + clock.time(), 8.0);
-    }
-
   private:
     static constexpr double kBody = 12.0;
 
@@ -79,12 +74,13 @@ class BallLoadPage {
 }  // namespace
 
 void printBallLoads(const ProgramState& state, ClockPort& clock, const BallLoadView& view, Canvas& canvas) {
+    drawPageBorder(canvas, papers::kLetterLandscape);
     drawLogo(canvas, onPage(8400.0, 575.0), 2880.0 / kUnitsPerInch);
     BallLoadPage page(state, canvas);
     page.writeHead();
     drawBallLoads(state.solver, view, boxAt(3300.0, 2200.0, 8700.0, 8700.0), true, canvas);
     page.writeRows();
-    page.writeFoot(clock);
+    drawPageFooter(canvas, clock, "", papers::kLetterLandscape);
 }
 
 Document ballLoadsDocument(const ProgramState& state, const BallLoadView& view, ClockPort& clock) {
