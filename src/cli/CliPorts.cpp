@@ -28,5 +28,8 @@ std::string SystemClock::date() {
 std::string SystemClock::time() {
     return now("%X");
 }
+std::string SystemClock::longDate() {
+    return now("%A, %B %e, %Y");
+}
 
 }  // namespace norlaplan::cli

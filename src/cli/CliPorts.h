@@ -26,6 +26,7 @@ class SystemClock : public ClockPort {
   public:
     std::string date() override;
     std::string time() override;
+    std::string longDate() override;
 };
 
 /// Keeps the data sheet in memory, since the command line writes nothing into the program folder.

@@ -57,6 +57,14 @@ class Builder {
 
         addFits();
 
+        CLI::App* const qlx =
+            command(app_, "qlx", "The export file for the analysis program Brimhall",
+                    [](Session& s, Arguments& a) { return qlxCommand(s, a.number, a.loads, a.output); });
+        addNumber(qlx);
+        addLoads(qlx);
+        qlx->add_option("--output", arguments_->output, "File to write, usually with the extension .qlx")
+            ->required();
+
         addReport(app_, dataSheetReport());
         addReports();
     }

@@ -54,6 +54,10 @@ CommandResult deflectionCommand(Session& session, const PartNumberOption& number
 CommandResult torqueCommand(Session& session, const PartNumberOption& number);
 CommandResult playCommand(Session& session, const PartNumberOption& number);
 CommandResult fitsCommand(Session& session, const PartNumberOption& number, const FitOptions& options);
+/// Writes the export file to `output`. With loads the bearing is solved for them first, as its contact angle
+/// goes into the file.
+CommandResult qlxCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads,
+                         const std::string& output);
 CommandResult searchCommand(Session& session, const SearchOptions& options, const LoadOptions& loads);
 
 // The calculations of the commands that also have a report. Errors as theirs.

@@ -1,5 +1,7 @@
 #include "deflection/DeflectionGraph.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "numbers/FormatNumber.h"
@@ -9,6 +11,10 @@ namespace {
 
 constexpr std::size_t kNumberShown = 9;
 constexpr double kCurveWidth = 19050.0;
+// Of the labels at the axes, inches.
+constexpr double kLabelDigit = 0.056;
+constexpr double kBetweenLabels = 0.06;
+constexpr double kLabelLine = 0.14;
 
 /// The y title letter under letter, in the middle of the plot's height.
 GraphText stackedBeside(double left, double middle, const std::string& text, double points) {
@@ -40,6 +46,13 @@ std::vector<GraphCurve> piecesOf(const DeflectionGraphData& data, const GraphSet
     return pieces;
 }
 
+/// How many grid lines apart the labels stand so that each has its room, in inches; `size` is the axis's.
+int linesPerLabel(const GraphAxis& axis, double size, double room) {
+    constexpr double kMost = 1000.0;
+    const double lines = axis.step > 0.0 && axis.end > 0.0 ? room * axis.end / (axis.step * size) : 1.0;
+    return static_cast<int>(std::clamp(std::ceil(lines), 1.0, kMost));
+}
+
 /// Scales, grid and labels' pictures.
 Graph axesOf(const GraphSettings& settings, PagePoint origin, double width, double height) {
     Graph graph;
@@ -56,6 +69,9 @@ Graph axesOf(const GraphSettings& settings, PagePoint origin, double width, doub
     };
     set(graph.x, settings.xMax, settings.xMajor, settings.xFormat);
     set(graph.y, settings.yMax, settings.yMajor, settings.yFormat);
+    const auto longest = static_cast<double>(FormatNumber(graph.x.end, graph.x.picture).size());
+    graph.x.labelEvery = linesPerLabel(graph.x, width, kLabelDigit * longest + kBetweenLabels);
+    graph.y.labelEvery = linesPerLabel(graph.y, height, kLabelLine);
     return graph;
 }
 

@@ -11,8 +11,6 @@
 
 namespace norlaplan {
 
-enum class DeflectionLoad { Radial, Axial, Moment };
-
 /// One of the three curves with what stands on its graph, in display units.
 struct DeflectionGraphData {
     std::string partNumber, title, subtitle, xTitle, yTitle;

@@ -7,13 +7,14 @@
 #include "numbers/FormatNumber.h"
 #include "numbers/PiValue.h"
 #include "numbers/Text.h"
+#include "state/DisplayUnits.h"
 
 namespace norlaplan {
 namespace {
 
 constexpr const char* kConstantPicture = "0.0000E+00";
 constexpr std::size_t kLoadPlaces = 8;
-constexpr const char* kUnloadedPoint = "0       30.0     0.000000";
+const AxialPointTexts kUnloadedPoint = {"0", "30.0", "0.000000"};
 
 struct Pictures {
     const char* rate;
@@ -31,14 +32,30 @@ std::string textOf(const std::optional<Number>& value, double factor, const char
     return value ? FormatNumber(*value * factor, picture) : "";
 }
 
-std::string axialPointText(const AxialPoint& row, const UnitMode& units) {
-    std::string load = FormatNumber(row.load / units.forceFactor, "#,###");
-    load.resize(std::max(load.size(), kLoadPlaces), ' ');
-    return load + FormatNumber(row.contactAngle * 180.0 / PiValue, "##.0") + "     " +
-           FormatNumber(row.deflection * units.lengthFactor, "0.000000");
+AxialPointTexts axialPointText(const AxialPoint& row, const UnitMode& units) {
+    return {FormatNumber(row.load / units.forceFactor, "#,###"),
+            FormatNumber(row.contactAngle * 180.0 / PiValue, "##.0"),
+            FormatNumber(row.deflection * units.lengthFactor, "0.000000")};
+}
+
+std::string joined(AxialPointTexts texts) {
+    texts.load.resize(std::max(texts.load.size(), kLoadPlaces), ' ');
+    return texts.load + texts.contactAngle + "     " + texts.deflection;
 }
 
 }  // namespace
+
+std::vector<AxialPointTexts> axialPointTexts(const DeflectionResult& result, const UnitMode& units) {
+    std::vector<AxialPointTexts> texts;
+    for (const AxialPoint& row : result.axialPoints)
+        texts.push_back(texts.empty() ? kUnloadedPoint : axialPointText(row, units));
+    return texts;
+}
+
+DeflectionUnits deflectionUnits(const UnitMode& units) {
+    if (isMetric(units)) return {"N/mm", "N-m/radian", "mm/N^(2/3)", "rad/(N-m)^(2/3)", "rad/(N-m)"};
+    return {"pounds/inch", "inch-lbs/radian", "in/lb^(2/3)", "rad/(in-lb)^(2/3)", "rad/(in-lb)"};
+}
 
 DeflectionTexts deflectionTexts(const DeflectionResult& result, const UnitMode& units) {
     const Pictures pictures = picturesOf(result.styleLetter);
@@ -61,10 +78,8 @@ DeflectionTexts deflectionTexts(const DeflectionResult& result, const UnitMode& 
     texts.momentConstant2 = textOf(result.momentConstant2, units.momentFactor, kConstantPicture);
     texts.initialTilt = textOf(result.initialTilt, 1.0, kConstantPicture);
     if (result.initialAngle) texts.initialAngle = plainText(*result.initialAngle);
-    for (const AxialPoint& row : result.axialPoints) {
-        const bool unloaded = texts.axialPoints.empty();
-        texts.axialPoints.push_back(unloaded ? kUnloadedPoint : axialPointText(row, units));
-    }
+    for (const AxialPointTexts& row : axialPointTexts(result, units))
+        texts.axialPoints.push_back(joined(row));
     return texts;
 }
 

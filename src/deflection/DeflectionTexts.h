@@ -18,6 +18,22 @@ struct DeflectionTexts {
     std::vector<std::string> axialPoints;  ///< load, contact angle in degrees and deflection
 };
 
+/// A row of the axial law, column by column.
+struct AxialPointTexts {
+    std::string load, contactAngle, deflection;
+};
+
+/// The rows of the result, of which the first is the unloaded bearing.
+std::vector<AxialPointTexts> axialPointTexts(const DeflectionResult& result, const UnitMode& units);
+
+/// The units of those values, as they stand beside them.
+struct DeflectionUnits {
+    std::string springRate, momentSpringRate;
+    std::string radialConstant, momentConstant1, momentConstant2;
+};
+
+DeflectionUnits deflectionUnits(const UnitMode& units);
+
 /// Errors: 6 and 11 as the conversions raise them.
 DeflectionTexts deflectionTexts(const DeflectionResult& result, const UnitMode& units);
 

@@ -36,6 +36,7 @@ struct GraphAxis {
     double last = 0.0;         ///< ... until beyond this
     std::string picture;       ///< of the labels; empty: only zero has one
     double shownFactor = 1.0;  ///< a label shows its value times this
+    int labelEvery = 1;        ///< every n-th grid line has a label, the first is one of them
     PageBox label;             ///< a label's box, as seen from where its grid line meets the axis
     PageBox zeroLabel;         ///< that of the plain "0"
     TextLook labelLook;

@@ -37,21 +37,23 @@ void layOutLabel(const GraphAxis& axis, double value, PagePoint foot, GraphShape
 
 void layOutXGrid(const Graph& graph, GraphShapes& shapes) {
     const double top = graph.origin.y + graph.height;
+    int line = 0;
     for (double v = graph.x.first; v <= graph.x.last; v += graph.x.step) {
         const PagePoint foot = graph.place({v, 0.0});
         const bool tick = graph.frame && isOnFrame(graph.x, v);
         shapes.line({foot.x, foot.y - graph.x.tick}, {foot.x, tick ? foot.y : top}, *graph.grid);
-        layOutLabel(graph.x, v, foot, shapes);
+        if (line++ % graph.x.labelEvery == 0) layOutLabel(graph.x, v, foot, shapes);
     }
 }
 
 void layOutYGrid(const Graph& graph, GraphShapes& shapes) {
     const double right = graph.origin.x + graph.width;
+    int line = 0;
     for (double v = graph.y.first; v <= graph.y.last; v += graph.y.step) {
         const PagePoint foot = graph.place({0.0, v});
         const bool tick = graph.frame && isOnFrame(graph.y, v);
         shapes.line({foot.x - graph.y.tick, foot.y}, {tick ? foot.x : right, foot.y}, *graph.grid);
-        layOutLabel(graph.y, v, foot, shapes);
+        if (line++ % graph.y.labelEvery == 0) layOutLabel(graph.y, v, foot, shapes);
     }
 }
 

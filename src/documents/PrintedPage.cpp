@@ -9,7 +9,7 @@ namespace {
 constexpr double kPointsPerInch = 72.0;
 constexpr double kLeading = 1.3;
 constexpr double kMargin = 0.25;  // of the frame
-constexpr double kInset = 0.15;  // of what stands along it
+constexpr double kInset = 0.15;   // of what stands along it
 
 }  // namespace
 

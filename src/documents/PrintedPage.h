@@ -8,8 +8,8 @@
 
 namespace norlaplan {
 
-// The layout that all printed reports share: a thin frame a quarter inch within the paper, the text within it.
-// These are the edges of the text on an upright letter page.
+// The layout that all printed reports share: a thin frame a quarter inch within the paper, and the text in
+// it. These are the edges of the text on an upright letter page.
 constexpr double kPageLeft = 0.9;
 constexpr double kPageRight = papers::kLetter.width - kPageLeft;
 

@@ -84,6 +84,20 @@ void writeLines(const ProgramState& state, const FitGoal& goal, ThermalFits& fit
     fits.comment = goal.clearance > 0.0 ? kClearanceComment : kNoInterferenceComment;
 }
 
+const char* temperatureUnit(const UnitMode& units) {
+    return isMetric(units) ? "°C." : "°F.";
+}
+
+/// What was entered, without what came of it.
+ThermalFits entriesOf(const ThermalFits& fits) {
+    ThermalFits entries;
+    for (std::string ThermalFits::*const text :
+         {&ThermalFits::highTempText, &ThermalFits::lowTempText, &ThermalFits::shaftExpansionText,
+          &ThermalFits::housingExpansionText, &ThermalFits::fitTempUnit, &ThermalFits::expansionUnit})
+        entries.*text = fits.*text;
+    return entries;
+}
+
 }  // namespace
 
 std::optional<FitGoal> fitGoal(const BearingSpec& bearing) {
@@ -100,11 +114,19 @@ void prepareThermalFits(ProgramState& state) {
     ThermalFits& fits = state.thermalFits;
     const bool metric = isMetric(state.units);
     fits.expansionUnit = metric ? "m/m/°C." : "in/in/°F.";
-    fits.fitTempUnit = metric ? "°C." : "°F.";
+    fits.fitTempUnit = temperatureUnit(state.units);
     fits.highTempText = metric ? "20" : "68";
     fits.lowTempText = fits.highTempText;
     fits.shaftExpansionText = expansionText(kFitMaterials.front(), state.units);
     fits.housingExpansionText = fits.shaftExpansionText;
+}
+
+bool refreshThermalFits(ProgramState& state) {
+    ThermalFits& fits = state.thermalFits;
+    const bool anew = fits.fitTempUnit != temperatureUnit(state.units);
+    if (anew || fits.partNumber != state.bearing.partNumber) fits = entriesOf(fits);
+    if (anew) prepareThermalFits(state);
+    return anew;
 }
 
 std::optional<Message> computeThermalFits(ProgramState& state) {

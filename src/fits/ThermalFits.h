@@ -25,6 +25,10 @@ std::optional<FitGoal> fitGoal(const BearingSpec& bearing);
 /// material for shaft and housing.
 void prepareThermalFits(ProgramState& state);
 
+/// Gets the record ready for its screen: the fields begin anew where they aren't in the units of now, and
+/// results in other units or of another bearing go. Gives whether the fields have begun anew.
+bool refreshThermalFits(ProgramState& state);
+
 /// The shaft and housing sizes at room temperature for the current bearing and the fields of
 /// `state.thermalFits`, with the lines that show them. Where the low temperature is above the high one, their
 /// fields change places. A field is read as the number at its start. Gives what the user is told where there

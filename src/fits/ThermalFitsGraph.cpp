@@ -13,8 +13,6 @@ namespace {
 constexpr double kHeightPerDegree = 1.3e-05;
 constexpr double kHeightFactor = 2.25;
 constexpr double kPen = 19050.0;
-/// The classic background of a picture: pale lines show on it.
-constexpr Colour kBackground = rgb(192, 192, 192);
 
 struct Segment {
     PagePoint from, to;
@@ -97,7 +95,7 @@ Graph thermalFitsGraph(const ProgramState& state) {
     graph.height = 5.0;
     graph.grid.reset();
     graph.x.end = graph.y.end = 1.0;
-    graph.bands = {{{0.0, 0.0}, {1.0, 1.0}, kBackground}};
+    graph.bands = {{{0.0, 0.0}, {1.0, 1.0}, kFitGround}};
     const ThermalFits& fits = state.thermalFits;
     const std::optional<FitGoal> goal = fitGoal(state.bearing);
     if (!goal || fits.partNumber.empty()) return graph;

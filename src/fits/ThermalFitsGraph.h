@@ -25,6 +25,9 @@ constexpr FitLine kOdLine{"Bearing OD", rgb(255, 255, 225)};
 inline constexpr std::array<FitLine, 7> kFitLegend = {kBoreLine,  kHighLine,    kLowLine, kRoomLine,
                                                       kShaftLine, kHousingLine, kOdLine};
 
+/// The classic background of a picture: pale lines show on it.
+constexpr Colour kFitGround = rgb(192, 192, 192);
+
 /// The sizes of the parts against temperature, of the last calculation of `state.thermalFits`. Each size is a
 /// line that rises with its expansion; the distance between a part and its ring is true to the height. The
 /// picture runs from 0 to 1 both ways, and what lies outside it is cut off. Errors: 11 for temperatures that

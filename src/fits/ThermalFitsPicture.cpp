@@ -15,13 +15,13 @@ TextLook centredLook(double points, bool bold, Colour colour) {
 }
 
 /// A sample line and its name for each line of the drawing, on the drawing's own ground: one of them is pale.
-void drawLegend(const PageBox& box, Colour ground, Canvas& canvas) {
+void drawLegend(const PageBox& box, Canvas& canvas) {
     constexpr std::size_t kColumns = 4;
     constexpr double kSample = 0.45;
     constexpr double kInset = 0.15;
     constexpr double kRow = 0.26;
     constexpr double kHalfLine = 0.07;
-    canvas.rectangle(box, ground, PagePen{});
+    canvas.rectangle(box, kFitGround, PagePen{});
     const double column = (box.right - box.left) / static_cast<double>(kColumns);
     for (std::size_t i = 0; i < kFitLegend.size(); ++i) {
         const double x = box.left + kInset + column * static_cast<double>(i % kColumns);
@@ -50,7 +50,7 @@ void drawThermalFits(const ProgramState& state, Canvas& canvas) {
     drawGraph(graph, canvas);
     canvas.text({kLeft, 1.15, kRight, 0.97}, "Temperature increasing to the right",
                 centredLook(10.0, false, graphcolours::kDarkBlue));
-    drawLegend({kLeft, 0.88, kRight, 0.2}, graph.bands.front().fill, canvas);
+    drawLegend({kLeft, 0.88, kRight, 0.2}, canvas);
 }
 
 }  // namespace norlaplan

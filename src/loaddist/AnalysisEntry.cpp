@@ -1,5 +1,6 @@
 #include "loaddist/AnalysisEntry.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "loaddist/Arccos.h"
@@ -14,6 +15,19 @@ void setClearanceOfAngle(SolverState& solver) {
     const double conformities = solver.OuterConformityPct + solver.InnerConformityPct;
     solver.DiametralClearance =
         (((conformities - 100.0) * (D + D)) * (1.0 - std::cos(solver.ContactAngle))) / 100.0;
+}
+
+/// Room for so many balls in every table; what the tables hold stays.
+void makeRoom(SolverState& solver, int balls) {
+    for (BallTable<double>* const table :
+         {&solver.BallX, &solver.BallY, &solver.BallDist, &solver.BallSinAngle, &solver.BallCosAngle,
+          &solver.BallDeflection, &solver.BallLoad, &solver.BallRadialForce, &solver.BallAxialForce})
+        table->resizeKeeping(balls);
+    for (BallTable<Single>* const table :
+         {&solver.InnerSemiMajor, &solver.OuterSemiMajor, &solver.InnerSemiMinor, &solver.OuterSemiMinor,
+          &solver.InnerStress, &solver.OuterStress})
+        table->resizeKeeping(balls);
+    solver.BallAngleText.resizeKeeping(balls);
 }
 
 }  // namespace
@@ -46,10 +60,45 @@ void editCenterlineSpacing(SolverState& solver, double inches, bool negative) {
 }
 
 void chooseStyle(SolverState& solver, char style) {
+    solver.StyleIsC = false;
     solver.StyleIsX = style == 'X';
     solver.StyleIsB = style == 'B';
     solver.StyleIsF = style == 'F';
     if (style != 'X' && solver.ContactAngleDeg > 0.0) setClearanceOfAngle(solver);
+}
+
+void editBallCount(SolverState& solver, double balls) {
+    const Int16 count(balls);
+    if (count < 0) raise(fault::kSubscript);
+    makeRoom(solver, std::max(int{count}, int{solver.solvedBalls}));
+    solver.BallCount = count;
+}
+
+void chooseMaterial(ProgramState& state, AnalysisBody body, int index) {
+    SolverState& solver = state.solver;
+    const bool ball = body == AnalysisBody::Ball;
+    std::string& name = ball ? state.analysis.ballMaterial : state.analysis.raceMaterial;
+    name.clear();
+    if (index < 0 || index >= static_cast<int>(kAnalysisMaterials.size())) return;
+    const AnalysisMaterial& material = kAnalysisMaterials[static_cast<std::size_t>(index)];
+    name = material.name;
+    (ball ? solver.InnerModulusMpsi : solver.OuterModulusMpsi) = material.modulusMpsi;
+    (ball ? solver.InnerPoisson : solver.OuterPoisson) = material.poisson;
+}
+
+int materialRow(const std::string& name) {
+    const auto found = std::find_if(kAnalysisMaterials.begin(), kAnalysisMaterials.end(),
+                                    [&](const AnalysisMaterial& material) { return name == material.name; });
+    return static_cast<int>(found - kAnalysisMaterials.begin());
+}
+
+void noteSolve(ProgramState& state, const std::string& date) {
+    AnalysisNotes& notes = state.analysis;
+    notes.partNumber = state.bearing.partNumber;
+    notes.date = date;
+    notes.ballMaterial.clear();
+    notes.raceMaterial.clear();
+    notes.spacingNegative = false;
 }
 
 }  // namespace norlaplan

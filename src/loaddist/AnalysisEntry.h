@@ -1,8 +1,9 @@
 #pragma once
 
 #include <array>
+#include <string>
 
-#include "state/SolverState.h"
+#include "state/ProgramState.h"
 
 namespace norlaplan {
 
@@ -48,5 +49,21 @@ void editDiametralClearance(SolverState& solver, double inches);
 void editCenterlineSpacing(SolverState& solver, double inches, bool negative);
 /// One of the styles "X", "B" and "F"; a pair with a contact angle gets the clearance of that angle.
 void chooseStyle(SolverState& solver, char style);
+/// The balls of one row. The tables of the last solve get room for them, so that whoever reads as far finds
+/// balls without load there. Error 6 beyond 16 bits, 9 for fewer than none.
+void editBallCount(SolverState& solver, double balls);
+
+/// The two bodies of a contact: the solver's inner material is that of the balls, its outer that of the
+/// races.
+enum class AnalysisBody { Ball, Race };
+/// Row `index` of the material list: its name, modulus and Poisson's ratio. Any row behind the nine blanks
+/// the name.
+void chooseMaterial(ProgramState& state, AnalysisBody body, int index);
+/// The row of the list that has this name; the empty one where none has.
+int materialRow(const std::string& name);
+
+/// A solve of the bearing in hand has ended: its number and date go to the notes, and the names of materials
+/// that the solver has overwritten are blanked.
+void noteSolve(ProgramState& state, const std::string& date);
 
 }  // namespace norlaplan

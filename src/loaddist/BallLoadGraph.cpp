@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "numbers/Arithmetic.h"
 #include "numbers/FormatNumber.h"
@@ -74,10 +75,6 @@ void drawRow(const SolverState& solver, const Perspective& p, int row, Colour co
     connect(1, Z);
 }
 
-int shownRows(const SolverState& solver) {
-    return solver.StyleIsC ? 1 : 2;
-}
-
 double distanceToLine(PagePoint place, PagePoint from, PagePoint to) {
     const double dx = to.x - from.x;
     const double dy = to.y - from.y;
@@ -88,7 +85,25 @@ double distanceToLine(PagePoint place, PagePoint from, PagePoint to) {
     return std::hypot(place.x - from.x - share * dx, place.y - from.y - share * dy);
 }
 
+ShownBall shown(const SolverState& solver, const Perspective& p, const WindowScale& window, int row,
+                int ball) {
+    const PagePoint foot = p.onCircle(ball - 1);
+    const double load = solver.BallLoad(row, ball);
+    const std::string angle = trimmed(solver.BallAngleText(row, ball));
+    return {row,
+            ball,
+            (ball - 1) * 360.0 / solver.BallCount,
+            load,
+            angle.empty() ? "0" : angle,
+            window.place(foot),
+            window.place(Perspective::tip(foot, row, load))};
+}
+
 }  // namespace
+
+int shownRows(const SolverState& solver) {
+    return solver.StyleIsC ? 1 : 2;
+}
 
 BallLoadView openingView(const SolverState& solver) {
     BallLoadView view;
@@ -97,7 +112,10 @@ BallLoadView openingView(const SolverState& solver) {
 }
 
 BallLoadScrolls scrollsOf(const BallLoadView& view) {
-    const auto whole = [](double value) { return static_cast<int>(Int(value)); };
+    // Loads without bounds still leave the bar one.
+    const auto whole = [](double value) {
+        return static_cast<int>(Int(std::min(value, static_cast<double>(std::numeric_limits<int>::max()))));
+    };
     return {{-180, 180, whole(view.GraphYaw)},
             {0, 90, whole(view.GraphPitch)},
             {0, whole(2.0 * view.GraphRadius), whole(view.GraphRadius)}};
@@ -126,6 +144,11 @@ void drawBallLoads(const SolverState& solver, const BallLoadView& view, const Pa
     if (shownRows(solver) == 2) drawRow(solver, p, 2, view.colours.row2, window);
 }
 
+ShownBall shownBall(const SolverState& solver, const BallLoadView& view, const PageBox& box, int row,
+                    int ball) {
+    return shown(solver, Perspective(solver, view), WindowScale(box, ballLoadArea(view)), row, ball);
+}
+
 std::optional<ShownBall> ballAt(const SolverState& solver, const BallLoadView& view, const PageBox& box,
                                 PagePoint place) {
     constexpr double kReach = 0.1;  // inches
@@ -135,14 +158,11 @@ std::optional<ShownBall> ballAt(const SolverState& solver, const BallLoadView& v
     double least = kReach;
     for (int row = 1; row <= shownRows(solver); ++row) {
         for (int ball = 1; ball <= solver.BallCount; ++ball) {
-            const PagePoint foot = p.onCircle(ball - 1);
-            const double load = solver.BallLoad(row, ball);
-            const double away =
-                distanceToLine(place, window.place(foot), window.place(Perspective::tip(foot, row, load)));
+            const ShownBall one = shown(solver, p, window, row, ball);
+            const double away = distanceToLine(place, one.foot, one.tip);
             if (away >= least) continue;
             least = away;
-            const std::string text = trimmed(solver.BallAngleText(row, ball));
-            nearest = {row, ball, (ball - 1) * 360.0 / solver.BallCount, load, text.empty() ? "0" : text};
+            nearest = one;
         }
     }
     return nearest;

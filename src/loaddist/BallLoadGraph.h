@@ -19,6 +19,9 @@ struct BallLoadColours {
     Colour axis = colours::kPurple;
 };
 
+/// Rows that the drawing has: a radial bearing has one.
+int shownRows(const SolverState& solver);
+
 /// How the ball circle is looked at.
 struct BallLoadView {
     Single GraphYaw;           ///< around the vertical axis, degrees
@@ -58,8 +61,12 @@ struct ShownBall {
     double angle = 0.0;        ///< around the bearing, degrees
     double load = 0.0;         ///< pounds
     std::string contactAngle;  ///< as text, degrees; "N/A" for a ball out of touch
+    PagePoint foot, tip;       ///< its spike on the page
 };
 
+/// A ball of the drawing, both numbers counted from 1. Errors as those of `drawBallLoads`.
+ShownBall shownBall(const SolverState& solver, const BallLoadView& view, const PageBox& box, int row,
+                    int ball);
 /// The ball whose spike passes nearest to a place on the page, within a tenth of an inch.
 std::optional<ShownBall> ballAt(const SolverState& solver, const BallLoadView& view, const PageBox& box,
                                 PagePoint place);

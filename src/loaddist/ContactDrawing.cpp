@@ -60,7 +60,10 @@ class ContactDrawer {
         drawRing();
         drawRingAxis();
         // The dimensions come last, where the lines leave room for them.
-        window_.freeText(landAt_, FormatNumber(s_.land(), "0.000"), textLook(14.0));
+        // The land's number is what the drawing is for: a window on the land alone shows it there.
+        const bool shown = window_.shows(window_.place(landAt_));
+        window_.freeText(shown ? landAt_ : middle(s_.edge, s_.p2), FormatNumber(s_.land(), "0.000"),
+                         textLook(14.0));
         if (s_.e != 0.0) {
             window_.freeText(along(s_.upperGroove, {-std::cos(s_.e / 2.0), std::sin(s_.e / 2.0)}, s_.D / 3.0),
                              FormatNumber(s_.e * 180.0 / PiValue, "#.00") + "°", textLook(12.0));

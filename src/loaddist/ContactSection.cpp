@@ -33,6 +33,14 @@ double ContactSection::land() const {
     return squareRoot(dx * dx + dy * dy);
 }
 
+bool ContactSection::overruns() const {
+    // Seen from the groove's centre, both lie on its circle.
+    const auto angleOf = [this](PagePoint end) {
+        return std::atan2(end.y - upperGroove.y, upperGroove.x - end.x);
+    };
+    return angleOf(p2) > angleOf(edge);
+}
+
 ContactSection contactSection(const BearingSpec& bearing, const ContactCheck& check) {
     ContactSection s;
     s.D = bearing.ballDiameter;

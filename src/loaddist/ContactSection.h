@@ -22,6 +22,8 @@ struct ContactSection {
 
     /// The distance from the ellipse's end to the groove's edge.
     double land() const;
+    /// Whether the ellipse runs over that edge: the land is the length that overhangs then.
+    bool overruns() const;
 };
 
 /// The section for the chosen row of the check. Errors: 5 and 11 for a shoulder that the groove's corner

@@ -61,7 +61,7 @@ std::array<std::string, 10> ballLine(const SolverState& solver, int row, int bal
 
 AnalysisGrid gridOf(const SolverState& solver, int row) {
     AnalysisGrid grid = {header(kFirstHeader), header(kSecondHeader)};
-    for (int ball = 1; ball <= solver.BallCount; ++ball)
+    for (int ball = 1; ball <= solver.solvedBalls; ++ball)
         grid.push_back(ballLine(solver, row, ball));
     return grid;
 }

@@ -15,6 +15,9 @@ void ResetAnalysis(SolverState& state) {
     const int balls = state.BallCount;
     // A damaged table can count less than nothing.
     if (balls < 0) raise(fault::kSubscript);
+    ++state.solveNumber;
+    state.converged = false;
+    state.solvedBalls = balls;
     for (BallTable<double>* const table :
          {&state.BallX, &state.BallY, &state.BallDist, &state.BallSinAngle, &state.BallCosAngle,
           &state.BallDeflection, &state.BallLoad, &state.BallRadialForce, &state.BallAxialForce}) {
@@ -48,6 +51,7 @@ void takeArguments(SolverState& state, const SolveArguments& arguments) {
 SolveResult outValues(ProgramState& state) {
     SolverState& solver = state.solver;
     LifeAndStress(solver);
+    solver.converged = true;
     double sum = 0.0;
     for (int row = 1; row <= solver.RowCount; ++row) {
         for (int ball = 1; ball <= solver.BallCount; ++ball)

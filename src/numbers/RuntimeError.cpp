@@ -31,6 +31,10 @@ std::string runtimeErrorText(int number) {
             return "Permission denied";
         case fault::kPathAccess:
             return "Path/File access error";
+        case fault::kNoSuchProgram:
+            return "ActiveX component can't create object";
+        case fault::kAutomation:
+            return "Automation error";
         default:
             return "Application-defined or object-defined error";
     }

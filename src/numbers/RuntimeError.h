@@ -31,6 +31,8 @@ constexpr int kDiskFull = 61;
 constexpr int kPastEnd = 62;
 constexpr int kPermissionDenied = 70;
 constexpr int kPathAccess = 75;
+constexpr int kNoSuchProgram = 429;  ///< another program that is to work for this one can't be reached
+constexpr int kAutomation = 440;     ///< it was reached and failed
 }  // namespace fault
 
 /// The classic text of a fault number, for example "Division by zero" for 11.

@@ -1,6 +1,5 @@
 #include "paint/PainterCanvas.h"
 
-#include <QColor>
 #include <QFontMetricsF>
 #include <QPageSize>
 #include <QPainter>
@@ -17,11 +16,6 @@ constexpr int kTwipsPerPoint = 20;
 
 constexpr int kDashed = 6;
 constexpr int kDashDotted = 8;
-
-QColor colourOf(Colour colour) {
-    return {static_cast<int>(colour & 0xFFU), static_cast<int>(colour >> 8U & 0xFFU),
-            static_cast<int>(colour >> 16U & 0xFFU)};
-}
 
 QString familyOf(Typeface typeface) {
     switch (typeface) {
@@ -65,6 +59,11 @@ double startOf(double room, double width, Alignment alignment) {
 
 }  // namespace
 
+QColor colourOf(Colour colour) {
+    return {static_cast<int>(colour & 0xFFU), static_cast<int>(colour >> 8U & 0xFFU),
+            static_cast<int>(colour >> 16U & 0xFFU)};
+}
+
 QPageLayout pageLayoutOf(const Paper& paper) {
     // A page size is told upright; the orientation turns it.
     const QSizeF upright(std::min(paper.width, paper.height), std::max(paper.width, paper.height));
@@ -99,8 +98,10 @@ void PainterCanvas::usePageScale() {
 void PainterCanvas::usePen(const PagePen& pen) {
     // A line as wide as a figure is a patch behind one: it ends at its points.
     constexpr double kPatch = 38100.0;
-    // Never thinner than a dot of the device: at small zooms hair lines would fade away.
-    const double width = std::max(pen.width / kEmuPerTwip, kTwips / pixelsPerInch_);
+    // Never thinner than a dot of the device: at small zooms hair lines would fade away. Nor just a dot: that
+    // is drawn in a quick way which leaves the chords of an arc crooked.
+    constexpr double kDots = 1.02;
+    const double width = std::max(pen.width / kEmuPerTwip, kDots * kTwips / pixelsPerInch_);
     QPen line(colourOf(pen.colour), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     if (pen.dash == kDashed) line.setDashPattern({6.0, 4.0});
     if (pen.dash == kDashDotted) line.setDashPattern({12.0, 4.0, 1.0, 4.0});

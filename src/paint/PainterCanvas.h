@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QFont>
 #include <QPageLayout>
 #include <QTransform>
@@ -10,6 +11,9 @@
 class QPainter;
 
 namespace norlaplan {
+
+/// A colour of the drawings as the platform has it.
+QColor colourOf(Colour colour);
 
 /// The paper for printer and PDF, without margins.
 QPageLayout pageLayoutOf(const Paper& paper);

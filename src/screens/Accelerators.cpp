@@ -4,6 +4,7 @@
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QSet>
 
 #include "screens/EntryLabel.h"
@@ -63,10 +64,18 @@ class Choice {
 QList<QChar> letterButtons(QWidget& window, const QString& taken) {
     QList<QAbstractButton*> buttons;
     QList<QString> captions;
-    for (QAbstractButton* const button : window.findChildren<QAbstractButton*>()) {
-        if (button->text().isEmpty() || button->objectName().startsWith(QLatin1String("qt_"))) continue;
+    const auto add = [&](QAbstractButton* button) {
+        if (button->text().isEmpty() || button->objectName().startsWith(QLatin1String("qt_"))) return;
         buttons.append(button);
         captions.append(button->text());
+    };
+    // Where a form has more of them than there are letters, those that act have theirs.
+    const auto all = window.findChildren<QAbstractButton*>();
+    for (QAbstractButton* const button : all) {
+        if (qobject_cast<QPushButton*>(button) != nullptr) add(button);
+    }
+    for (QAbstractButton* const button : all) {
+        if (qobject_cast<QPushButton*>(button) == nullptr) add(button);
     }
     const QList<QChar> letters = choose(captions, taken);
     for (qsizetype i = 0; i < buttons.size(); ++i) {

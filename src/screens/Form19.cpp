@@ -8,6 +8,7 @@
 
 #include "capacity/LoadLife.h"
 #include "documents/LoadLifeReport.h"
+#include "loaddist/AnalysisEntry.h"
 #include "numbers/FormatNumber.h"
 #include "numbers/Text.h"
 #include "screens/BusyPointer.h"
@@ -36,18 +37,8 @@ QLabel* noteLabel(const char* name, const char* text) {
     return label;
 }
 
-void makeBold(QLabel& label) {
-    QFont font = label.font();
-    font.setBold(true);
-    label.setFont(font);
-}
-
-/// A label that is hidden leaves its place free, so that its frame keeps its size.
-void keepRoom(QLabel& label) {
-    QSizePolicy policy = label.sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    label.setSizePolicy(policy);
-}
+using build::keepRoom;
+using build::makeBold;
 
 QString text(const std::string& utf8) {
     return QString::fromStdString(utf8);
@@ -128,7 +119,12 @@ QGroupBox* Form19::commentFrame() {
 }
 
 void Form19::makeButtons() {
-    const auto opens = [this](FormName form) { return [this, form] { screens().show(form); }; };
+    // What they show is the solve of the bearing and loads in hand, never one before.
+    const auto opens = [this](FormName form) {
+        return [this, form] {
+            if (lifeInHand()) screens().show(form);
+        };
+    };
     ballPlot_ = button("Command5", "Ball Load             Plot",
                        "Option to see how loads are distributed around both rows of balls",
                        opens(forms::kBallLoadGraph));
@@ -187,6 +183,7 @@ void Form19::cameBack() {
 void Form19::calculate() {
     const BusyPointer busy;
     if (computeLoadLife(state(), services().messages)) {
+        noteSolve(state(), services().clock.date());
         showResults();
     } else if (state().solver.SolveAborted) {
         leaveUnsolved();

@@ -6,6 +6,9 @@
 #include <filesystem>
 
 #include "capacity/LoadLife.h"
+#include "documents/ExportFile.h"
+#include "documents/LastFileMail.h"
+#include "numbers/RuntimeError.h"
 #include "screens/Decoding.h"
 #include "screens/Form2.h"
 #include "screens/Screens.h"
@@ -14,6 +17,8 @@
 #include "state/MenuConditions.h"
 #include "state/NewBearing.h"
 #include "state/StepValues.h"
+#include "state/UnsavedApplication.h"
+#include "state/WholeFile.h"
 
 namespace norlaplan {
 
@@ -50,7 +55,7 @@ void Form3::showSteps() {
 }
 
 void Form3::closed() {
-    screens().quit();
+    if (mayLoseApplication(state(), services().messages)) screens().quit();
 }
 
 bool Form3::refused(const std::optional<Message>& refusal) {
@@ -171,15 +176,31 @@ void Form3::openNedsPictures() {
 }
 
 void Form3::clearAll() {
+    if (!mayLoseApplication(state(), services().messages)) return;
     clearBearingAndLoads(state());
     refresh();
 }
 
 void Form3::sendMail() {
-    if (state().lastSavedFile.empty())
-        services().messages.show({"No File Available to Send", "Please Save File First", Icon::Critical});
-    else
-        services().messages.show(notInThisVersion(forms::kMail));
+    mailLastFile(state(), services().mail, services().messages);
+}
+
+void Form3::exportBearing() {
+    const bool last = exportEndsEarly(state());
+    if (!bearingReady() || (last && !mayLoseApplication(state(), services().messages))) return;
+    const SaveRequest request{"Save Brimhall .qlx File",
+                              {{"Brimhall Files (*.qlx)", "*.qlx"}},
+                              "qlx",
+                              services().folder.find("\\save"),
+                              state().bearing.partNumber + ".qlx"};
+    const std::optional<SaveChoice> choice = services().saveDialog.askWhereToSave(request);
+    // The file is made under the name as it comes back, and with no name it can't be.
+    if (!choice) throw RuntimeError(fault::kPathAccess);
+    writeWholeFile(choice->path, qlxText(state()));
+    if (!last) return;
+    services().messages.show(
+        {"Create QLX file", std::string(kExportEndsEarly) + "\n\nThe program ends here.", Icon::Critical});
+    screens().quit();
 }
 
 void Form3::askToQuit() {
@@ -188,6 +209,7 @@ void Form3::askToQuit() {
 }
 
 void Form3::exitProgram() {
+    if (!mayLoseApplication(state(), services().messages)) return;
     for (const char* const file : {"\\condensed.dat", "\\data.rtf"}) {
         // A file that can't be deleted doesn't keep the user from leaving.
         std::error_code ignored;

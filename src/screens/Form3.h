@@ -63,6 +63,7 @@ class Form3 : public Form {
     void openNedsPictures();
     void clearAll();
     void sendMail();
+    void exportBearing();
     void askToQuit();
     void exitProgram();
 

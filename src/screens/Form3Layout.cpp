@@ -229,8 +229,7 @@ QMenuBar* Form3::makeMenus() {
     QMenu& sendTo = *file.addMenu("Send To");
     sendTo.setObjectName("Sendto");
     addAction(sendTo, "mail", "Mail Recipient", [this] { sendMail(); });
-    addAction(file, "makeqlx", "Create QLX file",
-              [this] { services().messages.show(notInThisVersion(forms::kExport)); });
+    addAction(file, "makeqlx", "Create QLX file", [this] { exportBearing(); });
     export_ = file.actions().constLast();
     file.addSeparator();
     addAction(file, "Exit", "Exit", [this] { exitProgram(); });

@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QStyleOptionButton>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -46,6 +47,30 @@ class Marked : public Base {
 using Button = Marked<QPushButton, QStyleOptionButton>;
 using Option = Marked<QRadioButton, QStyleOptionButton>;
 
+/// A button that keeps the lines into which its caption was broken by runs of blanks.
+class LinedButton : public Button {
+  public:
+    using Button::Button;
+
+    QSize sizeHint() const override {
+        const QFontMetrics metrics = fontMetrics();
+        const QSize lines = metrics.size(Qt::TextShowMnemonic, lined());
+        return Button::sizeHint() + lines - metrics.size(Qt::TextShowMnemonic, text().simplified());
+    }
+
+  protected:
+    void initStyleOption(QStyleOptionButton* option) const override {
+        Button::initStyleOption(option);
+        option->text = lined();
+    }
+
+  private:
+    QString lined() const {
+        static const QRegularExpression filling(QStringLiteral(" {3,}"));
+        return QString(text()).replace(filling, QStringLiteral("\n"));
+    }
+};
+
 /// The chosen one of several pictures has a strong frame and a tick.
 class PictureButton : public Marked<QToolButton, QStyleOptionToolButton> {
   protected:
@@ -80,6 +105,10 @@ QString spokenCaption(const QString& caption) {
 
 QPushButton* button(const char* name, const QString& caption, const QString& tip) {
     return named<QPushButton>(new Button(caption), name, tip, spokenCaption(caption));
+}
+
+QPushButton* linedButton(const char* name, const QString& caption, const QString& tip) {
+    return named<QPushButton>(new LinedButton(caption), name, tip, spokenCaption(caption));
 }
 
 QRadioButton* option(const char* name, const QString& caption, const QString& tip) {
@@ -123,6 +152,18 @@ QLabel* valueLabel(const char* name) {
     made->setFont(theme::valueFont());
     made->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     return made;
+}
+
+void makeBold(QLabel& label) {
+    QFont font = label.font();
+    font.setBold(true);
+    label.setFont(font);
+}
+
+void keepRoom(QWidget& widget) {
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(policy);
 }
 
 QGroupBox* labelFrame(const char* name, const QString& caption, std::initializer_list<QLabel*> labels,

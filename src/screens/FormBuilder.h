@@ -23,6 +23,8 @@ namespace norlaplan::build {
 QString spokenCaption(const QString& caption);
 
 QPushButton* button(const char* name, const QString& caption, const QString& tip = {});
+/// A button in several lines: its caption is broken where it has three blanks or more.
+QPushButton* linedButton(const char* name, const QString& caption, const QString& tip = {});
 QRadioButton* option(const char* name, const QString& caption, const QString& tip = {});
 QLabel* label(const char* name, const QString& caption = {});
 QLabel* heading(const char* name, const QString& caption);
@@ -36,6 +38,11 @@ void buddy(QLabel& label, QWidget& field);
 
 /// A label for a value: in figures that line up, selectable by mouse and keyboard.
 QLabel* valueLabel(const char* name);
+
+void makeBold(QLabel& label);
+
+/// What is hidden leaves its place free, so that nothing around it moves.
+void keepRoom(QWidget& widget);
 
 /// A frame with labels under each other.
 QGroupBox* labelFrame(const char* name, const QString& caption, std::initializer_list<QLabel*> labels,

@@ -1,18 +1,32 @@
 #include "screens/FormRegistry.h"
 
+#include "screens/DataForm.h"
 #include "screens/Form1.h"
+#include "screens/Form10.h"
+#include "screens/Form11.h"
 #include "screens/Form12.h"
 #include "screens/Form13.h"
 #include "screens/Form14.h"
 #include "screens/Form15.h"
 #include "screens/Form16.h"
 #include "screens/Form17.h"
+#include "screens/Form18.h"
 #include "screens/Form19.h"
 #include "screens/Form2.h"
+#include "screens/Form23.h"
+#include "screens/Form24.h"
+#include "screens/Form25.h"
+#include "screens/Form26.h"
+#include "screens/Form27.h"
+#include "screens/Form28.h"
 #include "screens/Form3.h"
+#include "screens/Form31.h"
 #include "screens/Form6.h"
 #include "screens/Form9.h"
 #include "screens/Screens.h"
+#include "screens/form30.h"
+#include "screens/lodestarform.h"
+#include "screens/tlodestarballloads.h"
 
 namespace norlaplan {
 namespace {
@@ -32,34 +46,32 @@ constexpr FormEntry kRegistry[] = {
     {forms::kProductPage, "The page of this product line", nullptr},
     {forms::kProductTable, "The table of this product line", nullptr},
     {forms::kPartNumber, "The part number screen", make<Form9>},
-    {forms::kApplication, "The application form", nullptr},
-    {forms::kUserInfo, "The user information screen", nullptr},
+    {forms::kApplication, "The application form", make<Form10>},
+    {forms::kUserInfo, "The user information screen", make<Form11>},
     {forms::kSizes, "The size screen", make<Form12>},
     {forms::kSort, "The sort screen", make<Form13>},
     {forms::kLoads, "The load screen", make<Form14>},
     {forms::kResults, "The list of search results", make<Form15>},
     {forms::kStyle, "The style screen", make<Form16>},
     {forms::kDataSheet, "The data sheet screen", make<Form17>},
-    {forms::kAxialPlay, "The axial play screen", nullptr},
+    {forms::kAxialPlay, "The axial play screen", make<Form18>},
     {forms::kLife, "The load-life screen", make<Form19>},
     {forms::kHelpTopic, "The help topic viewer", nullptr},
     {forms::kCatalogPages, "The catalog introduction", nullptr},
     {forms::kHelpIndex, "The help index", nullptr},
-    {forms::kPreloadTorque, "The preload torque screen", nullptr},
-    {forms::kDeflection, "The deflection screen", nullptr},
-    {forms::kGraphSettings, "The graph adjustment screen", nullptr},
-    {forms::kDeflectionGraph, "The deflection graph", nullptr},
-    {forms::kLubeFilm, "The lube film check", nullptr},
-    {forms::kFaxCover, "The fax cover page", nullptr},
+    {forms::kPreloadTorque, "The preload torque screen", make<Form23>},
+    {forms::kDeflection, "The deflection screen", make<Form24>},
+    {forms::kGraphSettings, "The graph adjustment screen", make<Form25>},
+    {forms::kDeflectionGraph, "The deflection graph", make<Form26>},
+    {forms::kLubeFilm, "The lube film check", make<Form27>},
+    {forms::kFaxCover, "The fax cover page", make<Form28>},
     {forms::kPictureBrowser, "The picture browser", nullptr},
-    {forms::kContactStress, "The contact stress screen", nullptr},
-    {forms::kThermalFits, "The thermal fits screen", nullptr},
-    {forms::kAnalysis, "The load distribution analysis", nullptr},
-    {forms::kBallResults, "The table of ball results", nullptr},
-    {forms::kBallLoadGraph, "The ball load graph", nullptr},
+    {forms::kContactStress, "The contact stress screen", make<form30>},
+    {forms::kThermalFits, "The thermal fits screen", make<Form31>},
+    {forms::kAnalysis, "The load distribution analysis", make<DataForm>},
+    {forms::kBallResults, "The table of ball results", make<lodestarform>},
+    {forms::kBallLoadGraph, "The ball load graph", make<tlodestarballloads>},
     {forms::kTraining, "The bearing training", nullptr},
-    {forms::kMail, "Sending by mail", nullptr},
-    {forms::kExport, "The export file", nullptr},
 };
 
 }  // namespace

@@ -59,8 +59,6 @@ inline constexpr FormName kTrainingShow{"form5"};
 
 // Actions that open no form.
 inline constexpr FormName kTraining{"Training"};
-inline constexpr FormName kMail{"Mail"};
-inline constexpr FormName kExport{"Export"};
 
 }  // namespace forms
 

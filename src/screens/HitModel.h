@@ -2,6 +2,7 @@
 
 #include <QStandardItemModel>
 
+#include "screens/CopyTable.h"
 #include "state/ProgramState.h"
 
 namespace norlaplan {
@@ -20,9 +21,6 @@ enum HitColumn {
     kMarkColumn,
     kHitColumns
 };
-
-/// What a cell gives to other programs: a number with all the digits that the row holds, ungrouped.
-constexpr int kPlainTextRole = Qt::UserRole;
 
 /// Fills the model from the rows of the state. Only the lines of freshly computed rows carry their over-speed
 /// marks; the column of the marks has them always. With no speed there are no hours and no marks.

@@ -1,10 +1,6 @@
 #include "screens/HitTable.h"
 
-#include <QAction>
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QHeaderView>
-#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "screens/HitModel.h"
@@ -12,46 +8,15 @@
 namespace norlaplan {
 namespace {
 
-constexpr int kAboveText = 4;
 constexpr int kFewestRows = 5;
 constexpr int kUsualRows = 9;
 constexpr int kLeastWidth = 300;
 constexpr int kMostBetween = 28;
 
-/// Rows of the height that a person reads with ease.
-class RoomyRows : public QStyledItemDelegate {
-  public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 2 * kAboveText);
-    }
-};
-
 }  // namespace
 
-HitTable::HitTable(const char* name) {
-    setObjectName(QString::fromUtf8(name));
-    setAccessibleName(QStringLiteral("Bearings that fit, in columns"));
-    setItemDelegate(new RoomyRows(this));
-    setRootIsDecorated(false);
-    setUniformRowHeights(true);
-    setAllColumnsShowFocus(true);
-    setAlternatingRowColors(true);
-    setEditTriggers(QAbstractItemView::NoEditTriggers);
+HitTable::HitTable(const char* name) : CopyTable(name, QStringLiteral("Bearings that fit, in columns")) {
     setMinimumSize(kLeastWidth, heightFor(kFewestRows));
-    header()->setSectionsClickable(true);
-    header()->setSectionsMovable(false);
-    header()->setSortIndicatorShown(true);
-    header()->setStretchLastSection(true);
-    auto* const copyAction = new QAction(QStringLiteral("&Copy"), this);
-    copyAction->setObjectName(QStringLiteral("Copy"));
-    copyAction->setToolTip(QStringLiteral("Copy the table for a spreadsheet"));
-    copyAction->setShortcut(QKeySequence::Copy);
-    copyAction->setShortcutContext(Qt::WidgetShortcut);
-    connect(copyAction, &QAction::triggered, this, [this] { copy(); });
-    addAction(copyAction);
-    setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
 void HitTable::layOutColumns(bool withSpeed) {
@@ -78,43 +43,8 @@ void HitTable::showOrder(const SearchResults& results) {
                                results.sortDirection == "UP" ? Qt::AscendingOrder : Qt::DescendingOrder);
 }
 
-QList<int> HitTable::shownColumns() const {
-    QList<int> columns;
-    for (int column = 0; column < model()->columnCount(); ++column) {
-        if (!isColumnHidden(column)) columns.append(column);
-    }
-    return columns;
-}
-
-QString HitTable::tabSeparated() const {
-    const QList<int> columns = shownColumns();
-    const auto joined = [&](const auto& cell) {
-        QStringList cells;
-        for (const int column : columns)
-            cells.append(cell(column));
-        return cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
-    };
-    QString text = joined([&](int column) {
-        return model()->headerData(column, Qt::Horizontal).toString().replace(QLatin1Char('\n'), ' ');
-    });
-    for (int row = 0; row < model()->rowCount(); ++row)
-        text +=
-            joined([&](int column) { return model()->index(row, column).data(kPlainTextRole).toString(); });
-    return text;
-}
-
-void HitTable::copy() const {
-    QGuiApplication::clipboard()->setText(tabSeparated());
-}
-
 QSize HitTable::sizeHint() const {
     return {kLeastWidth, heightFor(kUsualRows)};
-}
-
-int HitTable::heightFor(int rows) const {
-    const int line = fontMetrics().height();
-    // The head has two lines.
-    return 2 * line + rows * (line + 2 * kAboveText) + 2 * kAboveText;
 }
 
 }  // namespace norlaplan

@@ -5,11 +5,14 @@
 
 namespace norlaplan {
 
-void PlainEdit::keyPressEvent(QKeyEvent* event) {
+bool isLetterWithAlt(const QKeyEvent& event) {
     // Alt Gr counts as Ctrl and Alt and does type.
-    const auto held = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
-    const bool letter = event->text().size() == 1 && event->text()[0].isPrint();
-    if (held == Qt::AltModifier && letter)
+    const auto held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    return held == Qt::AltModifier && event.text().size() == 1 && event.text()[0].isPrint();
+}
+
+void PlainEdit::keyPressEvent(QKeyEvent* event) {
+    if (isLetterWithAlt(*event))
         event->ignore();
     else
         QLineEdit::keyPressEvent(event);

@@ -6,6 +6,9 @@
 
 namespace norlaplan {
 
+/// Whether a key is a letter with Alt held, which presses a button and types nothing.
+bool isLetterWithAlt(const QKeyEvent& event);
+
 /// A field that leaves Alt with a letter to whatever that presses, in place of typing the letter.
 class PlainEdit : public QLineEdit {
   public:

@@ -11,6 +11,7 @@
 #include <cmath>
 
 #include "help/RichDocument.h"
+#include "paint/PainterCanvas.h"
 
 namespace norlaplan {
 namespace {
@@ -24,11 +25,6 @@ constexpr char16_t kNoWidth = 0x200B;
 
 double pixels(int twips) {
     return twips / kTwipsPerPixel;
-}
-
-QColor colourOf(Colour colour) {
-    return {static_cast<int>(colour & 0xFFU), static_cast<int>(colour >> 8U & 0xFFU),
-            static_cast<int>(colour >> 16U & 0xFFU)};
 }
 
 /// The metric twins of the fonts that documents name, which every machine with this program has.

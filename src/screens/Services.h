@@ -1,5 +1,6 @@
 #pragma once
 
+#include "state/ColourDialogPort.h"
 #include "state/DesktopPort.h"
 #include "state/Ports.h"
 #include "state/ProgramFolder.h"
@@ -19,6 +20,9 @@ struct Services {
     SheetStorePort& sheets;
     UserFilesPort& userFiles;
     DesktopPort& desktop;
+    ColourDialogPort& colourDialog;
+    OpenDialogPort& openDialog;
+    MailPort& mail;
 };
 
 }  // namespace norlaplan

@@ -22,8 +22,12 @@ int main(int count, char** arguments) {
     FolderSheets sheets(folder);
     QtDesktop desktop;
     UserFiles userFiles(UserFiles::usualFolder());
+    QtColourDialog colourDialog;
+    QtOpenDialog openDialog;
+    DesktopMail mail;
 
-    Screens screens({state, folder, messages, saveDialog, printer, clock, sheets, userFiles, desktop});
+    Screens screens({state, folder, messages, saveDialog, printer, clock, sheets, userFiles, desktop,
+                     colourDialog, openDialog, mail});
     addForms(screens);
     ShowStartScreen(screens);
     return QApplication::exec();

@@ -8,6 +8,15 @@
 
 namespace norlaplan {
 
+enum class DeflectionLoad { Radial, Axial, Moment };
+
+/// What stands in the fields of the deflection screen, in display units. It was proposed for this bearing in
+/// these units.
+struct DeflectionFields {
+    std::string preload, maxRadialLoad, maxAxialLoad, maxMomentLoad;
+    std::string partNumber, unitSystem;
+};
+
 /// What the deflection calculation is asked for.
 struct DeflectionInput {
     double preload = 0.0;                            ///< inches: axial for a pair, diametral otherwise

@@ -16,6 +16,8 @@ void clearBearingAndLoads(ProgramState& state) {
     bearing.ballCount = 0;
     state.decoded.takeOff();
     state.life = {};
+    state.deflectionFields = {};
+    state.deflection = {};
 
     state.loads = {};
     state.loadsEntered = false;
@@ -24,6 +26,7 @@ void clearBearingAndLoads(ProgramState& state) {
     state.criteria = {};
     state.search = {};
     state.entries = {};
+    state.application = {};
 }
 
 }  // namespace norlaplan

@@ -56,6 +56,19 @@ class SaveDialogPort {
     virtual std::optional<SaveChoice> askWhereToSave(const SaveRequest& request) = 0;
 };
 
+struct OpenRequest {
+    std::string title;
+    FileFilter filter;
+    std::filesystem::path folder;
+};
+
+/// The dialog for a file that is read. Nothing when the user cancels.
+class OpenDialogPort {
+  public:
+    virtual ~OpenDialogPort() = default;
+    virtual std::optional<std::filesystem::path> askWhatToOpen(const OpenRequest& request) = 0;
+};
+
 /// The printer, on paper of the drawing's size and orientation. False when the user cancels.
 class PrinterPort {
   public:
@@ -69,6 +82,30 @@ class ClockPort {
     virtual ~ClockPort() = default;
     virtual std::string date() = 0;
     virtual std::string time() = 0;
+    virtual std::string longDate() = 0;  ///< with the month in letters: "Saturday, March 14, 2026"
+};
+
+/// What is attached to a mail.
+struct MailAttachment {
+    std::filesystem::path file;
+    int type = 1;  ///< 1: the file itself
+    int position = 2;
+    std::string displayName;
+
+    bool operator==(const MailAttachment&) const = default;
+};
+
+/// The mail program, asked step by step for one new mail, in the order of these operations. Each raises a
+/// `RuntimeError` when it fails: 429 when there is no mail program.
+class MailPort {
+  public:
+    virtual ~MailPort() = default;
+    virtual void createApplication() = 0;
+    virtual void createItem(int kind) = 0;  ///< 0: a mail
+    virtual void saveItem() = 0;
+    virtual void attach(const MailAttachment& attachment) = 0;
+    virtual void setSubject(const std::string& subject) = 0;
+    virtual void display() = 0;  ///< leaves the mail open for the user
 };
 
 /// The two files that a decode writes: the sheet as RTF and the same drawing as records.

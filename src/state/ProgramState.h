@@ -3,10 +3,13 @@
 #include <string>
 
 #include "numbers/Int16.h"
+#include "state/AnalysisNotes.h"
+#include "state/ApplicationData.h"
 #include "state/BearingSpec.h"
 #include "state/DecodedMark.h"
 #include "state/DeflectionResult.h"
 #include "state/FitsRecords.h"
+#include "state/GraphSettings.h"
 #include "state/LifeResult.h"
 #include "state/LoadCase.h"
 #include "state/SearchRecords.h"
@@ -62,12 +65,17 @@ struct ProgramState {
 
     LifeResult life;
     SolverState solver;
+    AnalysisNotes analysis;
+    DeflectionFields deflectionFields;
     DeflectionResult deflection;
+    DeflectionLoad graphLoad = DeflectionLoad::Radial;  ///< whose curve the deflection graph shows
+    GraphSettings graphSettings;
 
     TorqueCurve torque;
     PlayCurve play;
     ThermalFits thermalFits;
 
+    ApplicationForm application;
     std::string lastSavedFile;
 };
 

@@ -1,5 +1,6 @@
 #include "state/Settings.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 #include <utility>
@@ -14,6 +15,7 @@ namespace {
 constexpr std::string_view kSettingsFile = "SETTINGS.INI";
 constexpr std::string_view kExtrasFile = "Extras.txt";
 constexpr std::string_view kFooterKeyword = "FOOTER";
+constexpr const char* kFilling = " ";
 
 /// The lines of the settings file in their order: the one description that reads and writes it.
 constexpr std::array<std::string UserInfo::*, 8> kUserLines = {
@@ -78,12 +80,19 @@ void SaveSettings(ProgramState& state, const ProgramFolder& folder) {
     std::string text;
     for (const auto field : kUserLines) {
         std::string& value = state.user.*field;
-        if (value.empty()) value = " ";
+        std::replace_if(
+            value.begin(), value.end(), [](char character) { return character == '\r' || character == '\n'; },
+            ' ');
+        if (value.empty()) value = kFilling;
         text += value + "\r\n";
     }
     if (state.unitSystem.empty()) state.unitSystem = "US";
     text += state.unitSystem + "\r\n";
     writeWholeFile(folder.find(kSettingsFile), text);
+}
+
+std::string shownUserText(const std::string& text) {
+    return text == kFilling ? "" : text;
 }
 
 bool LoadExtras(ProgramState& state, const ProgramFolder& folder) {

@@ -13,9 +13,12 @@ namespace norlaplan {
 void LoadSettings(ProgramState& state, const ProgramFolder& folder);
 
 /// Writes SETTINGS.INI. Empty user texts become one blank and an empty `unitSystem` becomes "US", in the
-/// state too, since a line of the file must not be empty. Errors as `writeWholeFile`; the old file then still
-/// stands.
+/// state too, since a line of the file must not be empty; line breaks inside a text become blanks. Errors as
+/// `writeWholeFile`; the old file then still stands.
 void SaveSettings(ProgramState& state, const ProgramFolder& folder);
+
+/// A text about the user as a field shows it: the blank that fills a line of the file shows as nothing.
+std::string shownUserText(const std::string& text);
 
 /// Reads the options of Extras.txt. Lines are compared whole after upper-casing; unknown ones are skipped.
 /// False when the file can't be read: the options that were read before stay set.

@@ -87,6 +87,11 @@ struct SolverState {
     Int16 Iteration;                                   ///< passes so far
     Flag SolveAborted;  ///< the user gave up, or the bearing is unstable; stays until the caller looks
 
+    // Which solve the results are of.
+    int solveNumber = 0;     ///< solves begun so far
+    Int16 solvedBalls;       ///< Z of that solve: `BallCount` may have been edited since
+    bool converged = false;  ///< there are results
+
     // Per ball, [row][ball] from 1.
     BallTable<double> BallX, BallY;  ///< radial and axial part of the curvature centres' distance
     BallTable<double> BallDist;      ///< that distance

@@ -271,6 +271,25 @@ class Files(unittest.TestCase):
         done = run("datasheet", "K19013XP0", "--output", str(self.folder / "none" / "a.rtf"))
         self.assertEqual(done.returncode, 3)
 
+    def test_writes_the_export_file(self):
+        target = self.folder / "out.qlx"
+        words = ("qlx", "K19013XP0", "--radial", "500", "--output", str(target))
+        status, told = result(*words)
+        self.assertEqual((status, told["file"], told["warnings"]), (0, str(target), []))
+        lines = target.read_bytes().split(b"\r\n")
+        self.assertEqual((len(lines), lines[7], lines[29], lines[72], lines[73]),
+                         (74, b'"K19013XP0"', b"#True#", b'" 30 "', b""))
+        # Without loads nothing is solved, and there is no contact angle yet.
+        self.assertEqual(result("qlx", "K19013AP0", "--output", str(target))[0], 0)
+        lines = target.read_bytes().split(b"\r\n")
+        self.assertEqual((lines[16], lines[72]), (b"#True#", b'" 0 "'))
+        status, told = result("--units", "METRIC", *words)
+        self.assertEqual((status, [warning["title"] for warning in told["warnings"]]), (0, ["Create QLX file"]))
+        self.assertEqual(target.read_bytes().count(b"\r\n"), 65)
+        self.assertEqual(result("qlx", "X", "--output", str(target))[0], 1)
+        self.assertEqual(result("qlx", "K19013XP0", "--output", str(self.folder / "none" / "a.qlx"))[0], 3)
+        self.assertEqual(target.read_bytes().count(b"\r\n"), 65)
+
     def test_refuses_an_unknown_format_as_wrong_usage(self):
         status, told = result("datasheet", "K19013XP0", "--output", str(self.folder / "a.doc"))
         self.assertEqual((status, told["error"]["kind"]), (2, "usage"))
@@ -295,7 +314,7 @@ class Usage(unittest.TestCase):
     def test_help_and_version(self):
         self.assertEqual(run("--version").stdout, "NORLAPLAN-MM version 1.00\n")
         for words in ((), ("decode",), ("life",), ("report",), ("report", "life"), ("search",), ("datasheet",),
-                      ("torque",), ("play",), ("fits",)):
+                      ("torque",), ("play",), ("fits",), ("qlx",)):
             done = run(*words, "--help")
             self.assertEqual(done.returncode, 0)
             self.assertIn("--help", done.stdout)

@@ -4,6 +4,7 @@
 
 #include "deflection/AxisRule.h"
 #include "deflection/DeflectionReport.h"
+#include "deflection/DeflectionTable.h"
 #include "numbers/RuntimeError.h"
 #include "support/RecordingPorts.h"
 
@@ -165,6 +166,53 @@ TEST(ASavedDeflectionGraph, HasItsNotesAndAFooterThatSaysPrinted) {
           "NORLAPLAN-MM version 1.00  Ada        Printed  3/14/26 9:26 AM"})
         EXPECT_NE(rtf.find(text), std::string::npos) << text;
     EXPECT_TRUE(rtf.ends_with("}{\\par }}\r\n"));
+}
+
+TEST(ADeflectionTable, HasTheAxesTitlesAndALineForEachPoint) {
+    const DeflectionGraphData data =
+        deflectionGraphData(sampleResult(), DeflectionLoad::Radial, initialUnits());
+    EXPECT_EQ(deflectionTable(data),
+              "RADIAL LOAD IN POUNDS\tDEFLECTION IN INCHES\n"
+              "0.0000\t0.00000000\n100.0000\t0.00100000\n150.2500\t0.00150000\n200.0000\t0.00250000\n");
+}
+
+/// The labels of the x axis (in one row) or of the y axis (in one column), by their box's left or top.
+std::vector<double> labelPlaces(const Graph& graph, bool ofX) {
+    testing::RecordingCanvas canvas;
+    drawGraph(graph, canvas);
+    std::vector<double> places;
+    for (const auto& text : canvas.texts) {
+        if (text.look.points != 8.0) continue;
+        const bool beneath = text.look.alignment == Alignment::Centre;
+        if (beneath == ofX) places.push_back(ofX ? text.box.left : text.box.top);
+    }
+    return places;
+}
+
+TEST(TheLabelsOfAGraph, StandApartHoweverFineTheUsersGridIs) {
+    const DeflectionGraphData data =
+        deflectionGraphData(sampleResult(), DeflectionLoad::Radial, initialUnits());
+    GraphSettings settings;
+    settings.xFormat = "#,###.0";
+    for (const double steps : {1.0, 4.0, 11.0, 13.0, 32.0, 100.0}) {
+        settings.xMax = 25000.0;
+        settings.yMax = 0.003;
+        settings.xMajor = settings.xMax / steps;
+        settings.yMajor = settings.yMax / steps;
+        const Graph graph = deflectionGraph(data, settings);
+        // "25,000.0" in eight points is 0.39 inch wide and a line of it 0.13 high.
+        const std::vector<double> across = labelPlaces(graph, true), up = labelPlaces(graph, false);
+        ASSERT_GE(across.size(), 2U);
+        ASSERT_GE(up.size(), 2U);
+        for (std::size_t i = 1; i < across.size(); ++i)
+            EXPECT_GE(across[i] - across[i - 1], 0.42) << steps;
+        for (std::size_t i = 1; i < up.size(); ++i)
+            EXPECT_GE(up[i] - up[i - 1], 0.13) << steps;
+        if (steps <= 13.0) {
+            EXPECT_EQ(static_cast<double>(across.size()), steps + 1.0);
+            EXPECT_EQ(static_cast<double>(up.size()), steps + 1.0);
+        }
+    }
 }
 
 }  // namespace

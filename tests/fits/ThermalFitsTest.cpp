@@ -75,6 +75,43 @@ TEST_F(ThermalFitting, EqualsThePlainCalculationToTheLastBitForEveryBearingOfThe
     }
 }
 
+TEST_F(ThermalFitting, KeepsEntriesAndResultsOfTheSameBearing) {
+    decode("K19013XP0E");
+    enter("250", "-65", "1.3e-5", "7e-6");
+    calculate();
+    const std::string shaftLine = fits.shaftLine;
+    EXPECT_FALSE(refreshThermalFits(run.state));
+    EXPECT_EQ(fits.shaftLine, shaftLine);
+    EXPECT_EQ(fits.highTempText, "250");
+}
+
+TEST_F(ThermalFitting, OfAnotherBearingKeepsTheEntriesOnly) {
+    decode("K19013XP0E");
+    enter("250", "-65", "1.3e-5", "7e-6");
+    calculate();
+    ASSERT_TRUE(run.decoded("K10013XP0E"));
+    EXPECT_FALSE(refreshThermalFits(run.state));
+    EXPECT_EQ(fits.highTempText + fits.lowTempText + fits.shaftExpansionText + fits.housingExpansionText,
+              "250-651.3e-57e-6");
+    EXPECT_EQ(fits.fitTempUnit + fits.expansionUnit, "°F.in/in/°F.");
+    EXPECT_EQ(fits.shaftLine + fits.housingLine + fits.comment + fits.partNumber, "");
+    EXPECT_EQ(fits.shaftSize.stored(), 0.0F);
+}
+
+TEST_F(ThermalFitting, InOtherUnitsBeginsAnew) {
+    decode("K19013XP0E");
+    enter("250", "-65", "1.3e-5", "7e-6");
+    calculate();
+    ApplyUnitSystem("METRIC", run.state.units);
+    EXPECT_TRUE(refreshThermalFits(run.state));
+    EXPECT_EQ(fits.highTempText, "20");
+    EXPECT_EQ(fits.lowTempText, "20");
+    EXPECT_EQ(fits.shaftExpansionText, "1.26E-05");
+    EXPECT_EQ(fits.fitTempUnit, "°C.");
+    EXPECT_EQ(fits.shaftLine + fits.partNumber, "");
+    EXPECT_FALSE(refreshThermalFits(run.state));
+}
+
 TEST_F(ThermalFitting, AtRoomTemperatureIsTheLargestBoreWithTheClearance) {
     decode("K19013XP0E");
     calculate();

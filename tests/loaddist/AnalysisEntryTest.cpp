@@ -1,10 +1,13 @@
 #include <cmath>
 #include <map>
+#include <set>
+#include <stdexcept>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include "loaddist/AnalysisEntry.h"
+#include "loaddist/AnalysisNumbers.h"
 #include "loaddist/ShowAnalysisResults.h"
 #include "loaddist/radlodestar2.h"
 #include "support/FaultOf.h"
@@ -66,6 +69,128 @@ TEST(AnalysisEntry, OfAStyleExcludesTheOthers) {
     solver.DiametralClearance = 0.5;
     chooseStyle(solver, 'B');
     EXPECT_EQ(solver.DiametralClearance, 0.5) << "no angle, no change";
+}
+
+TEST(AnalysisEntry, OfAStyleEndsThatOfARadialBearing) {
+    SolverState solver = grooves();
+    solver.StyleIsC = true;
+    chooseStyle(solver, 'X');
+    EXPECT_FALSE(solver.StyleIsC) << "one of the four holds";
+}
+
+TEST(AnalysisEntry, OfABallCountKeepsWhatTheBallsOfTheSolveCarry) {
+    SolverState solver;
+    solver.BallCount = 3;
+    ResetAnalysis(solver);
+    solver.BallLoad(2, 3) = 25.0;
+    solver.InnerStress(1, 3) = 7.0;
+    editBallCount(solver, 32767.0);
+    EXPECT_EQ(solver.BallLoad(2, 3), 25.0);
+    EXPECT_EQ(solver.BallLoad(2, 32767), 0.0);
+    EXPECT_EQ(solver.BallAngleText(1, 32767), "");
+    editBallCount(solver, 0.0);
+    EXPECT_EQ(solver.BallCount, 0);
+    EXPECT_EQ(solver.InnerStress(1, 3), 7.0);
+    EXPECT_EQ(solver.solvedBalls, 3);
+}
+
+TEST(AnalysisEntry, OfABallCountRefusesWhatNoTableHolds) {
+    SolverState solver;
+    solver.BallCount = 3;
+    ResetAnalysis(solver);
+    EXPECT_EQ(testing::faultOf([&] { editBallCount(solver, 32768.0); }), fault::kOverflow);
+    EXPECT_EQ(testing::faultOf([&] { editBallCount(solver, -1.0); }), fault::kSubscript);
+    EXPECT_EQ(solver.BallCount, 3);
+}
+
+TEST(AnalysisEntry, OfAMaterialGoesToItsBodyAlone) {
+    ProgramState state;
+    chooseMaterial(state, AnalysisBody::Ball, 5);
+    chooseMaterial(state, AnalysisBody::Race, 2);
+    EXPECT_EQ(state.analysis.ballMaterial, "Si3N4");
+    EXPECT_EQ(state.solver.InnerModulusMpsi, 46.0);
+    EXPECT_EQ(state.solver.InnerPoisson, Single(0.26));
+    EXPECT_EQ(state.analysis.raceMaterial, "17-4PH");
+    EXPECT_EQ(state.solver.OuterModulusMpsi, 28.5);
+    EXPECT_EQ(state.solver.OuterPoisson, Single(0.272));
+}
+
+TEST(AnalysisEntry, OfTheEmptyMaterialBlanksTheNameAndKeepsTheNumbers) {
+    ProgramState state;
+    chooseMaterial(state, AnalysisBody::Race, 8);
+    chooseMaterial(state, AnalysisBody::Race, 9);
+    EXPECT_EQ(state.analysis.raceMaterial, "");
+    EXPECT_EQ(state.solver.OuterModulusMpsi, 10.0);
+    EXPECT_EQ(state.solver.OuterPoisson, Single(0.316));
+}
+
+TEST(AnalysisEntry, FindsAMaterialByItsName) {
+    EXPECT_EQ(materialRow("52100"), 0);
+    EXPECT_EQ(materialRow("6061-T6"), 8);
+    EXPECT_EQ(materialRow("M50"), 9);
+    EXPECT_EQ(materialRow(""), 9);
+}
+
+TEST(AnalysisNotes, OfASolveNameItsBearingAndDayAndNoMaterials) {
+    ProgramState state;
+    state.bearing.partNumber = "K19013XP0";
+    chooseMaterial(state, AnalysisBody::Ball, 5);
+    state.analysis.startingFriction = 0.15;
+    state.analysis.spacingNegative = true;
+    noteSolve(state, "3/14/26");
+    EXPECT_EQ(state.analysis.partNumber, "K19013XP0");
+    EXPECT_EQ(state.analysis.date, "3/14/26");
+    EXPECT_EQ(state.analysis.ballMaterial, "");
+    EXPECT_FALSE(state.analysis.spacingNegative);
+    EXPECT_EQ(state.analysis.startingFriction, Single(0.15)) << "no solve has a word on friction";
+}
+
+const AnalysisNumber& numberOf(const std::string& control) {
+    for (const AnalysisNumber& number : analysisNumbers()) {
+        if (control == number.control) return number;
+    }
+    throw std::runtime_error("no " + control);
+}
+
+TEST(AnalysisNumbers, HaveAFieldEach) {
+    std::set<std::string> controls;
+    for (const AnalysisNumber& number : analysisNumbers())
+        EXPECT_TRUE(controls.insert(number.control).second) << number.control;
+    EXPECT_EQ(controls.size(), 29U);
+}
+
+TEST(AnalysisNumbers, ShowAllDigitsAsGivenAndTheirPictureAsWorkedOut) {
+    ProgramState state;
+    state.solver = grooves();
+    state.solver.DiametralClearance = 0.0040192;
+    state.solver.ContactAngleDeg = 30.0;
+    EXPECT_EQ(analysisText(numberOf("Text43"), state, true), "0.0040192");
+    EXPECT_EQ(analysisText(numberOf("Text43"), state, false), "0.00402");
+    EXPECT_EQ(analysisText(numberOf("Text4"), state, true), "30");
+    EXPECT_EQ(analysisText(numberOf("Text4"), state, false), "30.");
+    EXPECT_EQ(analysisText(numberOf("Text15"), state, false), "6.35") << "no picture of its own";
+}
+
+TEST(AnalysisNumbers, KeepWhatIsStoredIn64BitsWithinTheRangeOf32) {
+    ProgramState state;
+    numberOf("Text1").store(state, 0.1);
+    EXPECT_EQ(state.solver.BallDiameter, 0.1);
+    EXPECT_EQ(testing::faultOf([&] { numberOf("Text1").store(state, 1e39); }), fault::kOverflow);
+    EXPECT_EQ(testing::faultOf([&] { numberOf("Text5").store(state, -1e39); }), fault::kOverflow);
+    EXPECT_EQ(state.solver.BallDiameter, 0.1);
+}
+
+TEST(SolverState, TellsWhichSolveItsResultsAreOf) {
+    SolverState solver;
+    EXPECT_FALSE(solver.converged);
+    solver.BallCount = 2;
+    solver.converged = true;
+    ResetAnalysis(solver);
+    EXPECT_FALSE(solver.converged) << "a solve has begun";
+    EXPECT_EQ(solver.solveNumber, 1);
+    EXPECT_EQ(solver.solvedBalls, 2);
+    ResetAnalysis(solver);
+    EXPECT_EQ(solver.solveNumber, 2);
 }
 
 std::map<std::string, std::string> shown(const std::vector<AnalysisField>& fields) {

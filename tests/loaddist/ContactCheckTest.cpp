@@ -138,6 +138,23 @@ TEST(ContactSection, MeetsWhereItsArcsMeet) {
     EXPECT_NEAR(s.lowerGroove.x, 7.992 / 2.0 + 0.1325 - 0.125, 1e-6);
 }
 
+TEST(ContactSection, TellsAnEllipseThatRunsOverTheEdgeFromOneThatLeavesLand) {
+    ProgramState state = solvedState();
+    // How far along the groove its edge lies beyond the end of the contact line.
+    const ContactSection s = sectionOf(state);
+    const double edge = std::asin((s.edge.y - s.upperGroove.y) / s.r);
+    const double reach = (edge - 30.126 * M_PI / 180.0) * s.r;
+    ASSERT_GT(reach, 0.0);
+    state.solver.InnerSemiMajor(1, 2) = reach - 0.001;
+    EXPECT_FALSE(sectionOf(state).overruns());
+    EXPECT_NEAR(sectionOf(state).land(), 0.001, 1e-4);
+    state.solver.InnerSemiMajor(1, 2) = reach + 0.001;
+    EXPECT_TRUE(sectionOf(state).overruns());
+    EXPECT_NEAR(sectionOf(state).land(), 0.001, 1e-4);
+    state.solver.BallAngleText(1, 2) = "-30.126";
+    EXPECT_FALSE(sectionOf(state).overruns()) << "the other side of the groove";
+}
+
 TEST(ContactSection, OfAShoulderOutOfReachIsAFault) {
     ProgramState state = solvedState();
     state.bearing.referenceDiameter1 = 7.0;
@@ -196,6 +213,20 @@ TEST(ContactDrawing, PrintsTheLand) {
     ASSERT_GT(s.land(), 0.01);
     const std::string text = std::to_string(s.land() + 0.0005).substr(0, 5);
     EXPECT_TRUE(Drawing(s).canvas.hasText(text)) << text;
+}
+
+TEST(ContactDrawing, PrintsTheLandInAWindowOnTheLandAlone) {
+    ProgramState state = solvedState();
+    state.solver.InnerSemiMajor(1, 2) = 0.01;
+    const ContactSection s = sectionOf(state);
+    // The dimension stands a quarter of the ball off the land; a tenth around it is seen.
+    const double extent = 0.1 * s.D;
+    const DrawingArea land{(s.edge.x + s.p2.x - extent) / 2.0, (s.edge.y + s.p2.y + extent) / 2.0, extent,
+                           -extent};
+    const std::string text = std::to_string(s.land() + 0.0005).substr(0, 5);
+    EXPECT_TRUE(Drawing(s, land).canvas.hasText(text)) << text;
+    const DrawingArea elsewhere{land.left + 10.0 * extent, land.top, extent, -extent};
+    EXPECT_TRUE(Drawing(s, elsewhere).canvas.texts.empty());
 }
 
 TEST(ContactDrawing, ClosesTheOvalWithACommonTangent) {

@@ -90,10 +90,19 @@ TEST(AnalysisResults, GiveAGridLineForEveryBallBelowTwoHeaders) {
     EXPECT_EQ(results.firstRow[3][0], "2");
 }
 
+TEST(AnalysisResults, KeepTheBallsOfTheSolveWhateverTheBallCountIsNow) {
+    SolverState solver = sample();
+    solver.BallCount = 40;
+    EXPECT_EQ(ShowAnalysisResults(solver).firstRow.size(), 4U);
+    solver.BallCount = 0;
+    EXPECT_EQ(ShowAnalysisResults(solver).secondRow.size(), 4U);
+}
+
 TEST(AnalysisResults, OfARadialBearingHaveAnEmptySecondRow) {
     ProgramState state;
     testing::RecordingMessages messages;
     SolveRadialRow(state, testing::argumentsOf(testing::solverCases('C').front()), messages);
+    EXPECT_TRUE(state.solver.converged);
     const AnalysisResults results = ShowAnalysisResults(state.solver);
     for (std::size_t i = 2; i < results.secondRow.size(); ++i) {
         EXPECT_EQ(results.secondRow[i][2], "0");

@@ -131,6 +131,8 @@ TEST(RuntimeErrorText, IsTheClassicOne) {
                 {62, "Input past end of file"},
                 {70, "Permission denied"},
                 {75, "Path/File access error"},
+                {429, "ActiveX component can't create object"},
+                {440, "Automation error"},
                 {1004, "Application-defined or object-defined error"}};
     for (const auto& row : rows) {
         EXPECT_EQ(runtimeErrorText(row.number), row.text);

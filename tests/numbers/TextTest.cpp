@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "numbers/DecimalText.h"
 #include "numbers/Text.h"
 
 namespace norlaplan {
@@ -31,6 +32,23 @@ TEST(WholeNumberText, TakesTheWholeTextOrNothing) {
          {"", " ", "abc", "12a", "1.2.3", "--1", "inf", "nan", "0x10", ",5", "1e999", "1 2"}) {
         EXPECT_FALSE(wholeNumberText(bad).has_value()) << bad;
     }
+}
+
+TEST(PrintedNumber, HasAPlaceForTheSignSevenDigitsAndNoZeroBeforeThePoint) {
+    const std::pair<double, const char*> rows[] = {{0.15625, " .15625"},
+                                                   {29000000.0, " 2.9E+07"},
+                                                   {10000000.0, " 1E+07"},
+                                                   {9999999.0, " 9999999"},
+                                                   {0.0, " 0"},
+                                                   {1.0, " 1"},
+                                                   {-0.5, "-.5"},
+                                                   {-1200.0, "-1200"},
+                                                   {1.0 / 3.0, " .3333333"},
+                                                   {1234567.89, " 1234568"},
+                                                   {100.0, " 100"},
+                                                   {0.0001, " .0001"}};
+    for (const auto& [value, text] : rows)
+        EXPECT_EQ(printedNumber(value), text);
 }
 
 TEST(PlainText, IsTheShortestThatReadsBackWithoutExponent) {

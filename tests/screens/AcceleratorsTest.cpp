@@ -1,5 +1,6 @@
 #include <QMenu>
 #include <QMenuBar>
+#include <QRadioButton>
 #include <set>
 
 #include "screens/Accelerators.h"
@@ -57,6 +58,10 @@ class AcceleratorsTest : public QObject {
                 if (button->text().isEmpty()) continue;
                 const QString key = button->shortcut().toString();
                 const QString what = form.objectName() + " " + button->objectName() + " " + key;
+                // The application form has more options than there are letters.
+                if (key.isEmpty() && qobject_cast<const QRadioButton*>(button) != nullptr &&
+                    form.findChildren<QAbstractButton*>().size() > 26)
+                    continue;
                 QVERIFY2(key.startsWith("Alt+"), qPrintable(what));
                 QVERIFY2(letters.insert(key).second, qPrintable(what));
             }

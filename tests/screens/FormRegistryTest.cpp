@@ -137,7 +137,7 @@ class FormRegistryTest : public QObject {
     void aFormThatIsNotBuiltTakesNobodysPlace() {
         Pile pile;
         pile.screens.show(forms::kStyle);
-        pile.screens.showInstead(*pile.screens.current(), forms::kThermalFits);
+        pile.screens.showInstead(*pile.screens.current(), FormName("Nowhere"));
         QCOMPARE(pile.inFront(), std::string(forms::kStyle));
         QCOMPARE(pile.counts(forms::kStyle), std::string("1+0"));
     }

@@ -1,29 +1,9 @@
 #include <QLineEdit>
 
-#include "screens/Program.h"
-#include "state/LoadEntry.h"
-#include "state/SizeEntry.h"
+#include "screens/Everything.h"
 
 namespace norlaplan::testing {
 namespace {
-
-struct Keys : Program {
-    Keys() {
-        useUnits("US");
-        enterNumber("K19013XP0");
-        state.style = {"4-POINT CONTACT", "X"};
-        state.styleChosen = true;
-        state.entries = {"5", "9", ".2", "1.2", "500", "200", "100", "400"};
-        enterSizes(state);
-        enterLoads(state);
-    }
-    Form& open(FormName name) {
-        screens.showAlone(forms::kMainMenu);
-        screens.show(name);
-        return *screens.current();
-    }
-    QLineEdit& field(FormName form, const char* name) { return control<QLineEdit>(form, name); }
-};
 
 class KeysTest : public QObject {
     Q_OBJECT
@@ -33,7 +13,7 @@ class KeysTest : public QObject {
         for (const FormEntry& entry : formRegistry()) {
             const std::string name = entry.name;
             if (entry.make == nullptr || name == "Form1" || name == "Form3") continue;
-            Keys program;
+            Everything program;
             Form& form = program.open(entry.name);
             QCOMPARE(program.inFront(), name);
             QWidget* const focus = form.focusWidget();
@@ -43,7 +23,7 @@ class KeysTest : public QObject {
     }
 
     void escapeEndsNothingOnTheMainMenu() {
-        Keys program;
+        Everything program;
         Form& menu = program.open(forms::kMainMenu);
         QTest::keyClick(&menu, Qt::Key_Escape);
         QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
@@ -51,7 +31,7 @@ class KeysTest : public QObject {
     }
 
     void enterPressesTheMainButtonWhenTheFocusIsOnNoOther() {
-        Keys program;
+        Everything program;
         Form& units = program.open(forms::kUnits);
         QTest::keyClick(&program.control<QWidget>(forms::kUnits, "Option1"), Qt::Key_Return);
         QVERIFY(!units.isVisible());
@@ -61,7 +41,7 @@ class KeysTest : public QObject {
     }
 
     void enterPressesTheButtonWithTheFocus() {
-        Keys program;
+        Everything program;
         program.open(forms::kSizes);
         auto& menu = program.control<QWidget>(forms::kSizes, "Command3");
         menu.setFocus();
@@ -70,7 +50,7 @@ class KeysTest : public QObject {
     }
 
     void altWithALetterTypesNothing() {
-        Keys program;
+        Everything program;
         program.open(forms::kSizes);
         QLineEdit& bore = program.field(forms::kSizes, "Text1");
         bore.clear();
@@ -87,7 +67,7 @@ class KeysTest : public QObject {
     }
 
     void theSizeThatAMessageIsAboutHasTheFocusAndIsSelected() {
-        Keys program;
+        Everything program;
         program.open(forms::kSizes);
         program.type(forms::kSizes, "Text4", "1.2e");
         program.click(forms::kSizes, "Command2");
@@ -99,7 +79,7 @@ class KeysTest : public QObject {
     }
 
     void theLoadThatAMessageIsAboutHasTheFocusAndIsSelected() {
-        Keys program;
+        Everything program;
         program.open(forms::kLoads);
         program.field(forms::kLoads, "Text3").setText("much");
         program.click(forms::kLoads, "Command1");

@@ -31,45 +31,6 @@ class MainMenuTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void captions_and_tips_are_as_stated_data() {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("caption");
-        QTest::addColumn<QString>("tip");
-        const auto row = [](const char* name, const char* caption, const char* tip) {
-            QTest::newRow(name) << name << caption << tip;
-        };
-        row("Command1", "Introduction", "Software Introduction");
-        row("Command2", "Bearing Training", "View Power Point Presentation");
-        row("Command3", "Application Form", "Fill out Application form to send to Varden");
-        row("Command4", "Set Style", "Select any of 6 bearing styles");
-        row("Command5", "Set Sizes", "Set minimum and maximum envelope sizes");
-        row("Command6", "Load Input", "Enter Load condition");
-        row("Command7", "Search Results", "Create and see list of possible bearings");
-        row("Command8", "Enter Model Number", "Enter 9 or 10 digit model number");
-        row("Command9", "Data Sheet", "View Data sheet (drawing)");
-        row("Command10", "Preload Torque", "Calculate torque vs. preload curve");
-        row("Command11", "Axial Play", "Calculate axial movement based on radial clearance");
-        row("Command12", "Deflection", "Calculate Deflection Characteristics");
-        row("Command13", "Load Input", "Enter load case");
-        row("Command14", "Static + Dynamic Life", "Safety factor and L10 life based on load case");
-        row("Command15", "Quit", "Exit Program");
-        row("Command16", "Fax Cover Page", "Print out Fax Cover Page");
-        row("Command17", "Ned's Stuff", "Ned Grove's Bearing Pictures");
-        row("Command18", "Is Part Number Known ?", "Directional flow for data entry");
-        row("Command19", "Temp Fits", "Shaft and Housing Fits at High or Low Temperatures");
-    }
-    void captions_and_tips_are_as_stated() {
-        QFETCH(QString, name);
-        QFETCH(QString, caption);
-        QFETCH(QString, tip);
-        Menu menu;
-        QCOMPARE(menu.screens.form(forms::kMainMenu).windowTitle(), QString("Norlaplan MM"));
-        const auto& button = menu.control<QAbstractButton>(forms::kMainMenu, name.toUtf8().constData());
-        QCOMPARE(button.text(), caption);
-        QCOMPARE(button.toolTip(), tip);
-        QVERIFY(button.focusPolicy() & Qt::TabFocus);
-    }
-
     void part_number_buttons_without_a_part_number_ask_for_it_data() {
         QTest::addColumn<QString>("name");
         for (const int n : {9, 10, 11, 12, 13, 14})

@@ -1,6 +1,3 @@
-#include <QLabel>
-#include <QRadioButton>
-
 #include "screens/Program.h"
 
 using namespace norlaplan;
@@ -23,23 +20,6 @@ class MeasurementTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void the_screen_has_its_captions_and_marks_the_units_in_use() {
-        Measurement screen("METRIC");
-        QCOMPARE(screen.screens.form(forms::kUnits).windowTitle(), QString("Measurement"));
-        auto& us = screen.control<QRadioButton>(forms::kUnits, "Option1");
-        auto& metric = screen.control<QRadioButton>(forms::kUnits, "Option2");
-        QCOMPARE(us.text(), QString("U.S. units (inches and pounds)"));
-        QCOMPARE(metric.text(), QString("SI units (mm and Newtons)"));
-        QVERIFY(metric.isChecked() && !us.isChecked());
-        QCOMPARE(screen.control<QLabel>(forms::kUnits, "Label1").text(),
-                 QString("Changing this setting will clear all data that has been entered"));
-        QCOMPARE(screen.control<QAbstractButton>(forms::kUnits, "Command1").toolTip(),
-                 QString("Accept Change of Units"));
-        QCOMPARE(screen.control<QAbstractButton>(forms::kUnits, "Command2").text(), QString("&Cancel"));
-        QCOMPARE(screen.control<QAbstractButton>(forms::kUnits, "Command2").toolTip(),
-                 QString("Retain current Units Selection"));
-    }
-
     void cancel_changes_nothing() {
         Measurement screen("US");
         screen.click(forms::kUnits, "Option2");

@@ -96,7 +96,11 @@ struct Program {
     FolderSheets sheets{folder};
     MemoryUserFiles userFiles;
     RecordingDesktop desktop;
-    Screens screens{{state, folder, messages, saveDialog, *paper, clock, sheets, userFiles, desktop}};
+    PresetColourDialog colourDialog;
+    PresetOpenDialog openDialog;
+    RecordingMail mail;
+    Screens screens{{state, folder, messages, saveDialog, *paper, clock, sheets, userFiles, desktop,
+                     colourDialog, openDialog, mail}};
 };
 
 }  // namespace norlaplan::testing

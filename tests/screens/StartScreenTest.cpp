@@ -1,4 +1,3 @@
-#include <QLabel>
 #include <QTimer>
 
 #include "screens/Program.h"
@@ -88,26 +87,6 @@ class StartScreenTest : public QObject {
         QCOMPARE(program.inFront(), std::string(forms::kPartNumber));
         program.click(forms::kPartNumber, "Command3");
         QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
-    }
-
-    void ned_grove_changes_the_start_screen() {
-        Program program;
-        program.files.write("Extras.txt", "NED GROVE\r\n");
-        ShowStartScreen(program.screens);
-        QCOMPARE(program.control<QLabel>(forms::kStart, "Label3").text(),
-                 QString("Norlaplan Tool version for Ned Q. Grove"));
-        QCOMPARE(program.control<QWidget>(forms::kStart, "Image2").toolTip(),
-                 QString("Our latest logo - cute isn't it?"));
-        for (const char* const image : {"Image3", "Image4", "Image5"})
-            QVERIFY(program.control<QWidget>(forms::kStart, image).isVisible());
-    }
-
-    void without_that_option_its_pictures_are_hidden() {
-        Program program;
-        ShowStartScreen(program.screens);
-        QCOMPARE(program.control<QLabel>(forms::kStart, "Label3").text(), QString("Bearing Design Program"));
-        for (const char* const image : {"Image3", "Image4", "Image5"})
-            QVERIFY(!program.control<QWidget>(forms::kStart, image).isVisible());
     }
 };
 

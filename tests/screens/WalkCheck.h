@@ -8,6 +8,8 @@
 #include <cmath>
 #include <optional>
 
+#include "deflection/Deflection.h"
+#include "deflection/DeflectionTexts.h"
 #include "screens/Afresh.h"
 #include "screens/Program.h"
 #include "state/StyleTable.h"
@@ -43,6 +45,7 @@ class WalkCheck {
         if (form == "Form15") checkResults();
         if (form == "Form17") checkSheet();
         if (form == "Form19") checkLife();
+        if (form == "Form24") checkDeflection();
         checkDocuments();
         return wrong_;
     }
@@ -199,6 +202,30 @@ class WalkCheck {
         expect(what + "safety", label(forms::kLife, "Label10"), life.safety);
         expect(what + "torque", label(forms::kLife, "Label13"), life.torque);
         expect(what + "verdict", label(forms::kLife, "Label11"), life.verdict);
+    }
+
+    void checkDeflection() {
+        const auto field = [&](const char* name) {
+            return program_.control<QLineEdit>(forms::kDeflection, name).text().toStdString();
+        };
+        const std::string& number = state().bearing.partNumber;
+        expect("bearing of the deflection",
+               program_.control<QGroupBox>(forms::kDeflection, "Frame1").title().toStdString(),
+               "PRELOAD AND MAXIMUM LOADS OF " + number);
+        const DeflectionResult& shown = state().deflection;
+        DeflectionTexts texts;
+        if (!shown.partNumber.empty()) {
+            RecordingMessages messages;
+            const BearingSpec& bearing = fresh(number).state.bearing;
+            texts =
+                deflectionTexts(computeDeflection(bearing, shown.input, Patience(messages)), state().units);
+        }
+        expect(number + " radial rate", field("Text8"), texts.radialSpringRate);
+        expect(number + " axial relief load", field("Text11"), texts.axialReliefLoad);
+        expect(number + " moment relief load", field("Text13"), texts.momentReliefLoad);
+        expect(number + " radial constant", field("Text2"), texts.radialConstant);
+        expect(number + " moment constant", field("Text5"), texts.momentConstant2);
+        expect(number + " initial angle", field("Text7"), texts.initialAngle);
     }
 
     void checkDocuments() {

@@ -32,6 +32,9 @@ class WalkTest : public QObject {
             // Quitting ends a run of the program, and the next one begins.
             Program program;
             program.useUnits(chance() % 2 == 0 ? "US" : "METRIC");
+            Options& options = program.state.options;
+            options.ballShowOption = options.lubeFilmOption = options.pathStressOption = true;
+            options.samLundOption = true;
             WalkingUser user(program, chance);
             WalkCheck check(program, afresh);
             program.screens.showAlone(forms::kMainMenu);

@@ -29,6 +29,7 @@ class WalkingUser {
         std::sort(tables_.begin(), tables_.end());
         program.messages.decide = [this](const Message& question) { return answer(question); };
         program.saveDialog.choice = SaveChoice{program.files.path() / "saved.rtf", 1};
+        program.colourDialog.choice = rgb(200, 120, 0);
     }
 
     /// One step on the form in front; gives what it was.
@@ -130,6 +131,10 @@ class WalkingUser {
         if (name == "Form9") return fillNumber(form);
         if (name == "Form12") return below(4) == 0 ? fillOne(form, kSizes) : fillSizes(form);
         if (name == "Form14") return below(4) == 0 ? fillOne(form, kLoads) : fillLoads(form);
+        if (name == "DataForm") return fillEntry(form);
+        if (name == "Form27" || name == "form30") return fillOne(form, kLoads);
+        if (name == "Form24") return fillPreload(form);
+        if (name == "Form25") return fillOne(form, kAxes);
         return pressButton(form);
     }
 
@@ -158,6 +163,15 @@ class WalkingUser {
         return fields.empty() ? "nothing to fill" : put(*oneOf(fields), oneOf(texts));
     }
 
+    std::string fillEntry(Form& form) {
+        auto fields = usable<QLineEdit>(form);
+        std::erase_if(fields, [](const QLineEdit* field) { return field->isReadOnly(); });
+        QLineEdit& field = *oneOf(fields);
+        std::string told = put(field, oneOf(below(2) == 0 ? kSizes : kLoads));
+        QTest::keyClick(&field, Qt::Key_Return);
+        return told + ", Enter";
+    }
+
     std::string fillSizes(Form& form) {
         const bool metric = program_.state.units.lengthUnit == "mm";
         const auto& envelopes = metric ? kMetricEnvelopes : kEnvelopes;
@@ -175,6 +189,12 @@ class WalkingUser {
         for (QLineEdit* const field : usable<QLineEdit>(form))
             told += put(*field, oneOf(kLoads)) + " ";
         return told + proceed(form, "Command1");
+    }
+
+    std::string fillPreload(Form& form) {
+        const bool metric = program_.state.units.lengthUnit == "mm";
+        return put(*form.findChild<QLineEdit*>("Text3"), oneOf(metric ? kMetricPreloads : kPreloads)) + " " +
+               proceed(form, "Command3");
     }
 
     std::string proceed(Form& form, const char* button) {
@@ -206,6 +226,9 @@ class WalkingUser {
     inline static const Texts kSizes = {"", "3", "4.5", "100", "126", "0", "1e38", "5.5e", "-1"};
     inline static const Texts kLoads = {"",    "0",   "0",   "500", "1200", "100.4", "2500",
                                         "-50", "abc", "400", "0.3", "3e38", "12,000"};
+    inline static const Texts kPreloads = {"", "0", "0.0005", "0.001", "0.0035", "-0.001", "abc"};
+    inline static const Texts kMetricPreloads = {"", "0", "0.0127", "0.0254", "0.0889", "-0.1", "abc"};
+    inline static const Texts kAxes = {"", "0", "-1", "abc", "0.0001", "0.002", "500", "5000", "1e9"};
     inline static const std::vector<std::array<const char*, 4>> kEnvelopes = {
         {"3.9370", "5", ".5", ".52"}, {"5", "9", ".2", "1.2"}, {"0", "4", "0", "1.2"},
         {"7", "10", ".3", "2"},       {"9", "5", "1.2", ".2"}, {"20", "21", ".1", ".2"},

@@ -1,6 +1,5 @@
 #include <QDialog>
 #include <QImage>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
@@ -95,25 +94,6 @@ class WhatIsSeenTest : public QObject {
             QCOMPARE(program.inFront(), std::string("Form14"));
             const QImage seen = imageOf(program.control<QWidget>("Form14", "Picture1"));
             QVERIFY(share(seen, colours.at(std::string(stem) + "-L").rgb()) > 0.3);
-        }
-    }
-
-    void the_load_screen_names_the_units_that_are_entered() {
-        const struct {
-            const char *system, *radial, *axial, *moment;
-        } rows[] = {{"US", "RADIAL (lbs)", "AXIAL (lbs)", "MOMENT (in-lbs)"},
-                    {"METRIC", "RADIAL (N)", "AXIAL (N)", "MOMENT (N-M)"}};
-        for (const auto& row : rows) {
-            Program program;
-            program.useUnits(row.system);
-            program.enterNumber("K19013XP0");
-            program.click("Form3", "Command13");
-            const auto labelOf = [&](const char* name) {
-                return program.control<QLabel>("Form14", name).text().remove('&');
-            };
-            QCOMPARE(labelOf("Label1"), QString(row.radial));
-            QCOMPARE(labelOf("Label2"), QString(row.axial));
-            QCOMPARE(labelOf("Label3"), QString(row.moment));
         }
     }
 

@@ -4,36 +4,11 @@
 #include <QScrollArea>
 #include <set>
 
-#include "screens/Program.h"
+#include "screens/Everything.h"
 #include "screens/Theme.h"
-#include "state/LoadEntry.h"
-#include "state/SizeEntry.h"
 
 namespace norlaplan::testing {
 namespace {
-
-/// A session in which every form has something to show: a decoded bearing, its loads, the data of a search.
-struct Everything : Program {
-    Everything() {
-        useUnits("US");
-        Options& options = state.options;
-        options.faxCoverEnabled = options.nedGroveOption = options.tempFitsOption = true;
-        options.ballShowOption = options.lubeFilmOption = options.pathStressOption = true;
-        options.samLundOption = true;
-        enterNumber("K19013XP0");
-        state.style = {"4-POINT CONTACT", "X"};
-        state.styleChosen = true;
-        state.entries = {"5", "9", ".2", "1.2", "500", "200", "100", "400"};
-        enterSizes(state);
-        enterLoads(state);
-    }
-    Form& open(FormName name) {
-        screens.showAlone(forms::kMainMenu);
-        screens.show(name);
-        QApplication::processEvents();
-        return *screens.current();
-    }
-};
 
 /// What is cut off in the form, or an empty text. On a page that scrolls everything has its room.
 QString cutOff(const Form& form) {

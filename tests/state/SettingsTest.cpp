@@ -77,6 +77,20 @@ TEST(SaveSettings, WritesABlankForAnEmptyTextAndKeepsItInTheField) {
     EXPECT_EQ(start.state.unitSystem, "US");
 }
 
+TEST(SaveSettings, KeepsATextWithLineBreaksOnItsLine) {
+    Start start;
+    start.state.user.userName = "Ann\r\nB.";
+    SaveSettings(start.state, ProgramFolder(start.place.path()));
+    EXPECT_EQ(start.place.read("SETTINGS.INI"), "Ann  B.\r\n \r\n \r\n \r\n \r\n \r\n \r\n \r\nUS\r\n");
+}
+
+TEST(ShownUserText, LeavesOutTheBlankThatFillsALineAndNothingElse) {
+    EXPECT_EQ(shownUserText(" "), "");
+    EXPECT_EQ(shownUserText(""), "");
+    EXPECT_EQ(shownUserText("  "), "  ");
+    EXPECT_EQ(shownUserText(" a"), " a");
+}
+
 TEST(SaveSettings, WritesWhatLoadSettingsReads) {
     Start start;
     start.place.write("SETTINGS.INI", kNineLines);

@@ -12,6 +12,7 @@
 
 #include "numbers/RuntimeError.h"
 #include "state/Canvas.h"
+#include "state/ColourDialogPort.h"
 #include "state/Ports.h"
 
 /// Ports that record what they are told and answer what the test has laid down.
@@ -39,6 +40,7 @@ class FixedClock : public ClockPort {
   public:
     std::string date() override { return "3/14/26"; }
     std::string time() override { return "9:26 AM"; }
+    std::string longDate() override { return "Saturday, March 14, 2026"; }
 };
 
 class MemorySheets : public SheetStorePort {
@@ -71,6 +73,51 @@ class PresetSaveDialog : public SaveDialogPort {
     std::optional<SaveChoice> askWhereToSave(const SaveRequest& request) override {
         requests.push_back(request);
         return choice;
+    }
+};
+
+class PresetColourDialog : public ColourDialogPort {
+  public:
+    std::optional<Colour> choice;  ///< nothing: the user cancels
+    std::vector<std::string> titles;
+    std::vector<Colour> opened;  ///< the colours that it was opened on
+    std::optional<Colour> askColour(const std::string& title, Colour now) override {
+        titles.push_back(title);
+        opened.push_back(now);
+        return choice;
+    }
+};
+
+class PresetOpenDialog : public OpenDialogPort {
+  public:
+    std::optional<std::filesystem::path> choice;  ///< nothing: the user cancels
+    std::vector<OpenRequest> requests;
+    std::optional<std::filesystem::path> askWhatToOpen(const OpenRequest& request) override {
+        requests.push_back(request);
+        return choice;
+    }
+};
+
+/// A mail program that keeps each step it was asked for, as a line of words, and fails at those laid down.
+class RecordingMail : public MailPort {
+  public:
+    std::vector<std::string> steps;
+    std::map<std::string, int> faults;  ///< by the step's first word
+
+    void createApplication() override { take("application"); }
+    void createItem(int kind) override { take("item", std::to_string(kind)); }
+    void saveItem() override { take("save"); }
+    void attach(const MailAttachment& file) override {
+        take("attach", file.file.string() + " " + std::to_string(file.type) + " " +
+                           std::to_string(file.position) + " \"" + file.displayName + "\"");
+    }
+    void setSubject(const std::string& subject) override { take("subject", subject); }
+    void display() override { take("display"); }
+
+  private:
+    void take(const std::string& step, const std::string& what = "") {
+        steps.push_back(what.empty() ? step : step + " " + what);
+        if (faults.contains(step)) raise(faults.at(step));
     }
 };
 

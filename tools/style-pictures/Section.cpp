@@ -29,21 +29,6 @@ QPainterPath roundedBlock(double left, double top, double width, double height, 
     return block;
 }
 
-/// A cut surface: tinted, hatched under 45 degrees and outlined.
-void fillSection(QPainter& painter, const QPainterPath& path, const QColor& tint, bool rising) {
-    painter.fillPath(path, tint);
-    painter.save();
-    painter.setClipPath(path);
-    painter.setPen(QPen(kHatch, lines::kThin));
-    const QRectF area = path.boundingRect();
-    const double start = rising ? area.bottom() : area.top();
-    const double reach = rising ? -area.height() : area.height();
-    for (double at = area.left() - area.height(); at < area.right(); at += kHatchGap * std::sqrt(2.0))
-        painter.drawLine(QPointF(at, start), QPointF(at + area.height(), start + reach));
-    painter.restore();
-    painter.strokePath(path, QPen(Qt::black, lines::kOutline));
-}
-
 /// The rings of a row whose middle is the origin, outer ring above. `relieved` is the side, left (-1) or
 /// right (1), where the outer ring's land is cut back; 0 for neither.
 void drawRings(QPainter& painter, double side, int relieved) {
@@ -84,6 +69,20 @@ void drawSpacers(QPainter& painter, double width, double side) {
 }
 
 }  // namespace
+
+void fillSection(QPainter& painter, const QPainterPath& path, const QColor& tint, bool rising) {
+    painter.fillPath(path, tint);
+    painter.save();
+    painter.setClipPath(path);
+    painter.setPen(QPen(kHatch, lines::kThin));
+    const QRectF area = path.boundingRect();
+    const double start = rising ? area.bottom() : area.top();
+    const double reach = rising ? -area.height() : area.height();
+    for (double at = area.left() - area.height(); at < area.right(); at += kHatchGap * std::sqrt(2.0))
+        painter.drawLine(QPointF(at, start), QPointF(at + area.height(), start + reach));
+    painter.restore();
+    painter.strokePath(path, QPen(Qt::black, lines::kOutline));
+}
 
 QColor lines::centreColour() {
     return {200, 30, 30};

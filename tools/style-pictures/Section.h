@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPointF>
 #include <vector>
 
@@ -12,6 +13,9 @@ constexpr double kThin = 0.8;
 constexpr double kCentre = 1.2;
 QColor centreColour();  ///< of axes and contact lines
 }  // namespace lines
+
+/// A cut surface: tinted, hatched under 45 degrees, rising or falling, and outlined.
+void fillSection(QPainter& painter, const QPainterPath& path, const QColor& tint, bool rising);
 
 /// One row of a bearing's section: its centre in picture units and how its contact lines run.
 struct Row {

@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Strokes.h"
+
 namespace {
 
 const QColor kLoadColour(0, 90, 180);
 const QColor kSizeColour(40, 40, 40);
 
-// Pictures are also shown at half their size: what is written on them is still read there.
-constexpr int kTextPixels = 22;
 constexpr double kLoadLine = 4.0;
 constexpr double kLoadHead = 18.0;
 constexpr double kSizeHead = 12.0;
@@ -19,37 +19,6 @@ constexpr double kAxis = 184.0;
 constexpr double kOuter = 122.0;
 constexpr double kSide = 62.0;
 constexpr double kBeyond = 22.0;  // how far the axis is drawn beyond the bearing
-
-void useFont(QPainter& painter) {
-    QFont font("Liberation Sans");
-    font.setPixelSize(kTextPixels);
-    painter.setFont(font);
-}
-
-/// Writes a name so that the middle of its capitals is at `centre`, clear of what lies under it.
-void writeName(QPainter& painter, QPointF centre, const QString& name) {
-    useFont(painter);
-    const QFontMetricsF metrics(painter.font());
-    QRectF place(0.0, 0.0, metrics.horizontalAdvance(name) + 8.0, metrics.capHeight() + 8.0);
-    place.moveCenter(centre);
-    painter.fillRect(place, Qt::white);
-    painter.drawText(QPointF(place.left() + 4.0, place.bottom() - 4.0), name);
-}
-
-void centreLine(QPainter& painter, QPointF from, QPointF to) {
-    painter.setPen(QPen(lines::centreColour(), lines::kCentre, Qt::DashDotLine));
-    painter.drawLine(from, to);
-}
-
-void arrowHead(QPainter& painter, QPointF tip, double degrees, double size) {
-    const double angle = degrees * M_PI / 180.0;
-    const auto corner = [&](double turn) {
-        return tip - size * QPointF(std::cos(angle + turn), std::sin(angle + turn));
-    };
-    const QPointF points[] = {tip, corner(0.3), corner(-0.3)};
-    painter.setPen(Qt::NoPen);
-    painter.drawPolygon(points, 3);
-}
 
 void loadArrow(QPainter& painter, QPointF tail, QPointF tip) {
     painter.setPen(QPen(kLoadColour, kLoadLine, Qt::SolidLine, Qt::FlatCap));

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <functional>
 
+#include "Demonstration.h"
 #include "Sketches.h"
 
 namespace {
@@ -38,6 +39,11 @@ bool saveStyle(const QDir& folder, const Style& style) {
            save(folder.filePath(stem + "-S.BMP"), kSketchSize, Qt::white, drawing(drawSizes));
 }
 
+bool saveDemonstration(const QDir& folder, int number) {
+    return save(folder.filePath(QString("C%1.BMP").arg(number)), kDemonstrationSize, Qt::white,
+                [number](QPainter& painter) { drawDemonstration(painter, number); });
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -50,6 +56,8 @@ int main(int argc, char** argv) {
     bool whole = true;
     for (const Style& style : styles())
         whole = saveStyle(folder, style) && whole;
+    for (int number = 1; number <= kDemonstrationPictures; ++number)
+        whole = saveDemonstration(folder, number) && whole;
     whole = save(folder.filePath("start.png"), kStartSize, Qt::white, drawStart, 1) && whole;
     return whole ? 0 : 1;
 }

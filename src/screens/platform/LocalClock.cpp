@@ -13,4 +13,8 @@ std::string LocalClock::time() {
     return QLocale::system().toString(QTime::currentTime(), QLocale::ShortFormat).toStdString();
 }
 
+std::string LocalClock::longDate() {
+    return QLocale::system().toString(QDate::currentDate(), QLocale::LongFormat).toStdString();
+}
+
 }  // namespace norlaplan

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "state/ColourDialogPort.h"
 #include "state/DesktopPort.h"
 #include "state/Ports.h"
 #include "state/ProgramFolder.h"
@@ -26,6 +27,18 @@ class QtSaveDialog : public SaveDialogPort {
     std::filesystem::path lastFolder_;
 };
 
+/// Qt's own colour dialog.
+class QtColourDialog : public ColourDialogPort {
+  public:
+    std::optional<Colour> askColour(const std::string& title, Colour now) override;
+};
+
+/// Qt's own dialog for a file that is read, the same on every desktop.
+class QtOpenDialog : public OpenDialogPort {
+  public:
+    std::optional<std::filesystem::path> askWhatToOpen(const OpenRequest& request) override;
+};
+
 /// The preview of the pages, and from there the printer or a PDF file.
 class QtPrinter : public PrinterPort {
   public:
@@ -41,6 +54,7 @@ class LocalClock : public ClockPort {
   public:
     std::string date() override;
     std::string time() override;
+    std::string longDate() override;
 };
 
 /// The desktop's programs by the desktop's own choice.
@@ -73,6 +87,22 @@ class UserFiles : public UserFilesPort {
 
   private:
     std::filesystem::path folder_;
+};
+
+/// The desktop's mail program, started by `xdg-email` with the subject and the file as arguments of their
+/// own, so that no shell ever reads them. It keeps no drafts: a mail that is left is lost with its window.
+class DesktopMail : public MailPort {
+  public:
+    void createApplication() override;
+    void createItem(int kind) override;
+    void saveItem() override {}
+    void attach(const MailAttachment& attachment) override;
+    void setSubject(const std::string& subject) override;
+    void display() override;
+
+  private:
+    std::string program_, subject_;
+    std::filesystem::path file_;
 };
 
 }  // namespace norlaplan
