@@ -1,0 +1,43 @@
+#pragma once
+
+#include "screens/controls/AnalysisControls.h"
+#include "screens/controls/ContactControls.h"
+#include "screens/controls/CorrespondenceControls.h"
+#include "screens/controls/DataSheetControls.h"
+#include "screens/controls/DeflectionControls.h"
+#include "screens/controls/FitsControls.h"
+#include "screens/controls/LifeControls.h"
+#include "screens/controls/LoadControls.h"
+#include "screens/controls/MainMenuControls.h"
+#include "screens/controls/PartNumberControls.h"
+#include "screens/controls/ResultsControls.h"
+#include "screens/controls/SearchEntryControls.h"
+#include "screens/controls/StartControls.h"
+
+namespace norlaplan::testing {
+
+/// Every table of controls; those of a new form are added here.
+inline std::vector<ControlTable> controlTables() {
+    return {
+        {kStartRows, startScenes()},
+        {kMainMenuRows, mainMenuScenes()},
+        {kPartNumberRows, partNumberScenes()},
+        {kSearchEntryRows, searchEntryScenes()},
+        {kLoadRows, loadScenes()},
+        {kResultsRows, resultsScenes()},
+        {kDataSheetRows, dataSheetScenes()},
+        {kLifeRows, lifeScenes()},
+        {kAnalysisRows, analysisScenes()},
+        {kContactRows, contactScenes()},
+        {kDeflectionRows, deflectionScenes()},
+        {kFitsRows, fitsScenes()},
+        {kCorrespondenceRows, correspondenceScenes()},
+    };
+}
+
+/// Forms whose controls have no rows.
+inline constexpr const char* kNotYetInTheTable[] = {
+    "Form4", "form5", "Form7", "Form8", "Form10", "Form20", "Form21", "Form22", "Form29",
+};
+
+}  // namespace norlaplan::testing
