@@ -29,9 +29,10 @@ struct ResultSpec {
 
 namespace {
 
-constexpr int kEntryDigits = 10;
+constexpr int kEntryDigits = 13;  // "0.00040000002": all that a 32-bit number shows
+constexpr int kOtherDigits = 10;
 constexpr int kResultDigits = 10;
-constexpr int kCheckDigits = 16;
+constexpr int kCheckDigits = 19;
 constexpr int kBetweenRows = 4;
 constexpr int kBetweenColumns = 6;
 enum EntryColumn { kCaption, kValue, kUnit, kOther, kOtherUnit, kEntryColumns };
@@ -105,7 +106,7 @@ QLineEdit* DataForm::entryField(const EntrySpec& spec, const char* control, cons
     if (*unit != '\0') spoken += QStringLiteral(", ") + QString::fromUtf8(unit);
     QLineEdit* const field = build::edit(control, QString::fromUtf8(spec.tip), spoken);
     field->setAlignment(Qt::AlignRight);
-    setDigits(*field, kEntryDigits);
+    setDigits(*field, control == spec.control ? kEntryDigits : kOtherDigits);
     entries_.push_back(field);
     if (spec.pairOnly) pairOnly_.push_back(field);
     for (const AnalysisNumber& number : analysisNumbers()) {

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QStyleOptionFrame>
 #include <map>
 
 #include "numbers/Text.h"
@@ -275,6 +276,26 @@ class DataFormTest : public QObject {
         QVERIFY(!program.screens.form(forms::kAnalysis).isVisible());
         program.screens.form(forms::kBallResults).close();
         QCOMPARE(program.inFront(), std::string(forms::kLife));
+    }
+
+    void noFieldCutsItsNumber_data() { stylesAndUnits(); }
+    void noFieldCutsItsNumber() {
+        QFETCH(QString, number);
+        QFETCH(QString, units);
+        Analysis program(units.toStdString());
+        program.solve(number.toUtf8().constData());
+        program.openAnalysis();
+        for (const auto* const field : program.screens.form(forms::kAnalysis).findChildren<QLineEdit*>()) {
+            if (!field->isVisible()) continue;
+            QStyleOptionFrame frame;
+            frame.initFrom(field);
+            const QMargins margins = field->textMargins();
+            const int room =
+                field->style()->subElementRect(QStyle::SE_LineEditContents, &frame, field).width() -
+                margins.left() - margins.right();
+            const QString what = field->objectName() + ": " + field->text();
+            QVERIFY2(field->fontMetrics().horizontalAdvance(field->text()) <= room, qPrintable(what));
+        }
     }
 };
 
