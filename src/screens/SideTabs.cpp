@@ -60,6 +60,8 @@ class LevelTabBar : public QTabBar {
 SideTabs::SideTabs(const char* name) {
     setObjectName(QString::fromUtf8(name));
     setTabBar(new LevelTabBar);
+    tabBar()->setObjectName(objectName() + QStringLiteral("Tabs"));
+    tabBar()->setAccessibleName(QStringLiteral("Sections"));
     setTabPosition(QTabWidget::West);
     tabBar()->setExpanding(false);
     tabBar()->setUsesScrollButtons(false);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screens/controls/AnalysisControls.h"
+#include "screens/controls/ApplicationControls.h"
 #include "screens/controls/ContactControls.h"
 #include "screens/controls/CorrespondenceControls.h"
 #include "screens/controls/DataSheetControls.h"
@@ -31,13 +32,14 @@ inline std::vector<ControlTable> controlTables() {
         {kContactRows, contactScenes()},
         {kDeflectionRows, deflectionScenes()},
         {kFitsRows, fitsScenes()},
+        {kApplicationRows, applicationScenes()},
         {kCorrespondenceRows, correspondenceScenes()},
     };
 }
 
 /// Forms whose controls have no rows.
 inline constexpr const char* kNotYetInTheTable[] = {
-    "Form4", "form5", "Form7", "Form8", "Form10", "Form20", "Form21", "Form22", "Form29",
+    "Form4", "form5", "Form7", "Form8", "Form20", "Form21", "Form22", "Form29",
 };
 
 }  // namespace norlaplan::testing
