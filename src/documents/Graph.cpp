@@ -11,11 +11,22 @@ namespace {
 
 constexpr double kPointsPerInch = 72.0;
 
-void move(GraphText& text, double right, double up) {
-    text.box.left += right;
-    text.box.right += right;
-    text.box.top += up;
-    text.box.bottom += up;
+PageBox placed(const PageBox& box, double scale, PagePoint corner) {
+    return {corner.x + scale * box.left, corner.y + scale * box.top, corner.x + scale * box.right,
+            corner.y + scale * box.bottom};
+}
+
+void place(GraphText& text, double scale, PagePoint corner) {
+    text.box = placed(text.box, scale, corner);
+    text.look.points *= scale;
+}
+
+/// What stands along an axis is placed from where its grid line meets it.
+void grow(GraphAxis& axis, double scale) {
+    axis.label = placed(axis.label, scale, {});
+    axis.zeroLabel = placed(axis.zeroLabel, scale, {});
+    axis.labelLook.points *= scale;
+    axis.tick *= scale;
 }
 
 /// Every letter on a line of its own.
@@ -92,12 +103,19 @@ GraphText stackedGraphText(PagePoint leftTop, std::string text, double points, C
 }
 
 Graph moved(Graph graph, double right, double up) {
-    graph.origin.x += right;
-    graph.origin.y += up;
+    return placed(std::move(graph), 1.0, {right, up});
+}
+
+Graph placed(Graph graph, double scale, PagePoint corner) {
+    graph.origin = {corner.x + scale * graph.origin.x, corner.y + scale * graph.origin.y};
+    graph.width *= scale;
+    graph.height *= scale;
     for (GraphText* const text : {&graph.number, &graph.title, &graph.subtitle, &graph.xTitle, &graph.yTitle})
-        move(*text, right, up);
+        place(*text, scale, corner);
     for (GraphText& note : graph.notes)
-        move(note, right, up);
+        place(note, scale, corner);
+    grow(graph.x, scale);
+    grow(graph.y, scale);
     return graph;
 }
 

@@ -101,6 +101,9 @@ GraphText stackedGraphText(PagePoint leftTop, std::string text, double points, C
 
 /// The same graph elsewhere on the page.
 Graph moved(Graph graph, double right, double up);
+/// The same graph `scale` times as large about the page's lower left corner, letters too, which then lies at
+/// `corner`.
+Graph placed(Graph graph, double scale, PagePoint corner);
 
 /// The curves of a graph alone, filling a page of this size up to the last point of the last one.
 Graph preview(const Graph& graph, double width, double height);

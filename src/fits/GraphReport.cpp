@@ -10,12 +10,14 @@ namespace norlaplan {
 namespace {
 
 constexpr double kPrintedNotes = 11.0;
-constexpr double kMarginLeft = 0.24;
-constexpr double kMarginBottom = 0.29;
+/// The printed page counts 11550 by 15000 twips, which is all that a printer reaches; drawn this much smaller
+/// it stands in the page's frame with room around it.
+constexpr double kPageScale = 0.95;
+constexpr PagePoint kPageCorner{0.44, 0.5};
 constexpr double kDeep = 0.35;
 /// Upper right, clear of the graph's title.
-constexpr PagePoint kLogoPlace{6.07, 10.35};
-constexpr double kLogoWidth = 1.99;
+constexpr PagePoint kLogoPlace{kPageCorner.x + kPageScale * 8400.0 / 1440.0, 10.45};
+constexpr double kLogoWidth = kPageScale * 2863.0 / 1440.0;
 /// From the head of a document's page to the notes beneath its graph, twips.
 constexpr const char* kSpaceForGraph = "\\sb8450";
 
@@ -45,9 +47,9 @@ void printLine(Canvas& canvas, PageWriter& page, const NoteLine& line) {
 
 void printGraphPage(const Graph& graph, const std::vector<NoteLine>& notes, ClockPort& clock,
                     Canvas& canvas) {
+    drawPageBorder(canvas);
     drawLogo(canvas, kLogoPlace, kLogoWidth);
-    // The graph's places count from the corner of what a printer reaches.
-    drawGraph(moved(graph, kMarginLeft, kMarginBottom), canvas);
+    drawGraph(placed(graph, kPageScale, kPageCorner), canvas);
     PageWriter page(canvas, 4.5);
     TextLook title = timesLook(14.0, true);
     title.underline = true;

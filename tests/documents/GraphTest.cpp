@@ -136,6 +136,23 @@ TEST(Graph, MovesAsAWhole) {
     EXPECT_NEAR(textOf(canvas, "0.0010")->box.top, 4.9, 1e-9);
 }
 
+TEST(Graph, ShrinksAsAWholeTowardsItsCorner) {
+    const RecordingCanvas whole = drawn(torqueGraph());
+    const RecordingCanvas canvas = drawn(placed(torqueGraph(), 0.5, {1.0, 2.0}));
+    EXPECT_TRUE(hasLine(canvas, {1.375, 2.25}, {5.0, 2.25}, colours::kBlack, 19050.0));
+    ASSERT_EQ(canvas.texts.size(), whole.texts.size());
+    for (std::size_t i = 0; i < whole.texts.size(); ++i) {
+        const auto& before = whole.texts[i];
+        const auto& after = canvas.texts[i];
+        EXPECT_EQ(after.text, before.text);
+        EXPECT_NEAR(after.box.left, 1.0 + before.box.left / 2.0, 1e-9) << before.text;
+        EXPECT_NEAR(after.box.top, 2.0 + before.box.top / 2.0, 1e-9) << before.text;
+        EXPECT_NEAR(after.box.right, 1.0 + before.box.right / 2.0, 1e-9) << before.text;
+        EXPECT_NEAR(after.box.bottom, 2.0 + before.box.bottom / 2.0, 1e-9) << before.text;
+        EXPECT_DOUBLE_EQ(after.look.points, before.look.points / 2.0) << before.text;
+    }
+}
+
 TEST(Graph, PreviewIsItsCurvesAloneOverTheWholePage) {
     const RecordingCanvas canvas = drawn(preview(deflectionGraph(colours::kRed, colours::kBlue), 3.5, 2.0));
     EXPECT_TRUE(canvas.texts.empty());

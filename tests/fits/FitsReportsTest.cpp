@@ -77,6 +77,35 @@ TEST_F(AFitsReport, OfTheTorquePrintsItsNotes) {
     EXPECT_EQ(canvas.pages, 1);
 }
 
+TEST_F(AFitsReport, OfAGraphStandsInThePagesFrameWithRoomAroundIt) {
+    constexpr double kRoom = 0.1;
+    const auto isInside = [](double x, double y) {
+        return x > 0.25 + kRoom && x < 8.25 - kRoom && y > 0.25 && y < 10.75 - kRoom;
+    };
+    const auto check = [&](const RecordingCanvas& page) {
+        ASSERT_FALSE(page.rectangles.empty());
+        EXPECT_DOUBLE_EQ(page.rectangles.front().box.left, 0.25);
+        EXPECT_DOUBLE_EQ(page.rectangles.front().box.top, 10.75);
+        for (const auto& line : page.lines) {
+            // The rule above the page's last line goes from frame to frame.
+            if (line.from.y < 1.0) continue;
+            EXPECT_TRUE(isInside(line.from.x, line.from.y)) << line.from.x << ", " << line.from.y;
+            EXPECT_TRUE(isInside(line.to.x, line.to.y)) << line.to.x << ", " << line.to.y;
+        }
+        for (const auto& text : page.texts)
+            EXPECT_TRUE(isInside(text.box.left, text.box.top)) << text.text;
+    };
+    take("K19013BP0R");
+    printTorque(state, run.clock, canvas);
+    check(canvas);
+    take("K19013XP0E");
+    for (const PlayGraph which : {PlayGraph::AxialPlay, PlayGraph::Tilt}) {
+        canvas = {};
+        printPlay(state, which, run.clock, canvas);
+        check(canvas);
+    }
+}
+
 TEST_F(AFitsReport, OfThePlayHasBothGraphsOnTwoPagesAndItsOwnWording) {
     take("K19013XP0E");
     const std::string rtf = playRtf(state, run.clock);
