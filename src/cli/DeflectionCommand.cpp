@@ -4,6 +4,7 @@
 #include "cli/Commands.h"
 #include "cli/TextTable.h"
 #include "deflection/Deflection.h"
+#include "deflection/DeflectionFieldEntry.h"
 #include "deflection/DeflectionTexts.h"
 #include "numbers/FormatNumber.h"
 #include "state/MenuConditions.h"
@@ -95,10 +96,9 @@ std::string curvesTable(const DeflectionResult& result, const UnitMode& units) {
 
 std::string deflectionText(const DeflectionResult& result, const DeflectionTexts& texts,
                            const UnitMode& units) {
-    const bool pair = result.styleLetter == "B" || result.styleLetter == "F";
-    std::string text = result.partNumber + (pair ? ", axial" : ", diametral") + " preload " +
-                       FormatNumber(result.input.preload * units.lengthFactor, "0.000000") + " " +
-                       units.lengthUnit + "\n\n" + constantsTable(result, texts, units);
+    std::string text = result.partNumber + (isPreloadAxial(result.styleLetter) ? ", axial" : ", diametral") +
+                       " preload " + FormatNumber(result.input.preload * units.lengthFactor, "0.000000") +
+                       " " + units.lengthUnit + "\n\n" + constantsTable(result, texts, units);
     if (!texts.axialPoints.empty()) {
         text += "\nNon-linear axial deflection\nLoad    Angle    Deflection\n";
         for (const std::string& row : texts.axialPoints)

@@ -1,5 +1,6 @@
 #include "deflection/ConstantsReport.h"
 
+#include "deflection/DeflectionFieldEntry.h"
 #include "deflection/DeflectionTexts.h"
 #include "documents/PrintedPage.h"
 #include "numbers/FormatNumber.h"
@@ -24,8 +25,8 @@ void printHead(PageWriter& page, const DeflectionResult& result, const BearingSp
     page.put(behind, result.partNumber, look);
     page.endLine(look.points);
     page.skip(0.2);
-    const bool pair = result.styleLetter == "B" || result.styleLetter == "F";
-    page.line((pair ? "Axial Preload level set at " : "Diametral Preload level set at ") +
+    page.line((isPreloadAxial(result.styleLetter) ? "Axial Preload level set at "
+                                                  : "Diametral Preload level set at ") +
                   FormatNumber(result.input.preload * units.lengthFactor, "0.000000") + " " +
                   units.lengthUnit,
               timesLook(kBody));

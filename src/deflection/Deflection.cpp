@@ -29,6 +29,7 @@ DeflectionResult computeDeflection(const BearingSpec& bearing, const DeflectionI
     const DeflectionModel model(bearing);
     DeflectionResult result;
     result.partNumber = bearing.partNumber;
+    result.zSeparatorChoice = bearing.zSeparatorChoice;
     result.styleLetter = bearing.styleLetter;
     result.input = input;
     solveRates(model, result, patience);

@@ -51,16 +51,19 @@ std::optional<std::string> wrongWith(const Field& field, const std::string& text
 
 void prepareDeflectionFields(ProgramState& state) {
     DeflectionFields& fields = state.deflectionFields;
-    const std::string& number = state.bearing.partNumber;
-    if (fields.partNumber == number && fields.unitSystem == state.units.system) return;
-    const DeflectionEntry proposed = proposedDeflectionEntry(state.bearing, state.units);
+    const BearingSpec& bearing = state.bearing;
+    if (fields.partNumber == bearing.partNumber && fields.zSeparatorChoice == bearing.zSeparatorChoice &&
+        fields.unitSystem == state.units.system)
+        return;
+    const DeflectionEntry proposed = proposedDeflectionEntry(bearing, state.units);
     const auto whole = [](double value) { return FormatNumber(value, "0"); };
     fields = {FormatNumber(proposed.preload, kPreloadPicture),
               whole(proposed.maxRadialLoad),
               whole(proposed.maxAxialLoad),
               whole(proposed.maxMomentLoad),
-              number,
-              state.units.system};
+              bearing.partNumber,
+              state.units.system,
+              bearing.zSeparatorChoice};
     state.deflection = {};
 }
 
@@ -88,8 +91,9 @@ void solveDeflection(ProgramState& state, const DeflectionEntry& entry, MessageP
 }
 
 bool hasDeflection(const ProgramState& state) {
-    const std::string& number = state.deflection.partNumber;
-    return !number.empty() && number == state.bearing.partNumber;
+    const DeflectionResult& result = state.deflection;
+    return !result.partNumber.empty() && result.partNumber == state.bearing.partNumber &&
+           result.zSeparatorChoice == state.bearing.zSeparatorChoice;
 }
 
 std::vector<std::string> offeredPreloads(const UnitMode& units) {
@@ -99,9 +103,13 @@ std::vector<std::string> offeredPreloads(const UnitMode& units) {
     return preloads;
 }
 
+bool isPreloadAxial(const std::string& styleLetter) {
+    return styleLetter == "B" || styleLetter == "F";
+}
+
 std::string preloadTip(const std::string& styleLetter, const UnitMode& units) {
-    const bool pair = styleLetter == "B" || styleLetter == "F";
-    return std::string(pair ? "Axial preload of bearing set in " : "Diametral preload in ") +
+    return std::string(isPreloadAxial(styleLetter) ? "Axial preload of bearing set in "
+                                                   : "Diametral preload in ") +
            (isMetric(units) ? "millimeters" : "inches");
 }
 

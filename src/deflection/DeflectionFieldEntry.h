@@ -33,7 +33,10 @@ bool hasDeflection(const ProgramState& state);
 /// The preloads that are offered: 0 to 0.0035 inch in steps of half a thousandth, in display units.
 std::vector<std::string> offeredPreloads(const UnitMode& units);
 
-/// Which preload is asked for: that of a pair is axial, of others diametral.
+/// Whether a preload is axial, as that of a pair, or diametral.
+bool isPreloadAxial(const std::string& styleLetter);
+
+/// Which preload is asked for.
 std::string preloadTip(const std::string& styleLetter, const UnitMode& units);
 
 }  // namespace norlaplan

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "documents/Maker.h"
 #include "numbers/FormatNumber.h"
 
 namespace norlaplan {
@@ -82,7 +83,7 @@ std::vector<std::string> screenNotes() {
             "3.)  Under load, these will stretch and therefore are a component",
             "      of this deflection shown.                                   ",
             "4.)  If actual deflection values are required, please contact    ",
-            "      Varden Engineering Department, Millbrook, 1-800-555-0142"};
+            std::string("      Varden Engineering Department, ") + maker::kCity + ", " + maker::kPhone};
 }
 
 void addScreenNotes(Graph& graph) {

@@ -1,14 +1,17 @@
 #include "deflection/DeflectionReport.h"
 
 #include "documents/DataSheet.h"
+#include "documents/Maker.h"
 #include "documents/PrintedPage.h"
 #include "documents/RTFroutines.h"
 
 namespace norlaplan {
 namespace {
 
-constexpr const char* kContact =
-    "3.) If actual deflection values are required, please contact Varden at 1-800-555-0142.";
+std::string contactNote() {
+    return std::string("3.) If actual deflection values are required, please contact Varden at ") +
+           maker::kPhone + ".";
+}
 /// From the head of a document's page to the notes beneath its graph, twips.
 constexpr const char* kSpaceForGraph = "\\pard\\sb8250";
 
@@ -27,7 +30,7 @@ std::string deflectionRtf(const DeflectionGraphData& data, const GraphSettings& 
     document.append("1.) The curve shown is based on nominal bearing tolerances.}\\par");
     document.append("{\\fs24\\ 2.) The \\ldblquote Free Race\\rdblquote  title implies ");
     document.append("that the races are unrestrained by the shaft or housing.}\\par");
-    document.append("{\\fs24\\ " + rtfText(kContact) + "}\\par");
+    document.append("{\\fs24\\ " + rtfText(contactNote()) + "}\\par");
     document.append(documentFooter(kProgramVersion + std::string("  ") + userName + "        Printed  " +
                                    clock.date() + " " + clock.time()));
     document.append("}{\\par }}");
@@ -46,10 +49,10 @@ void printDeflectionGraph(const DeflectionGraphData& data, const GraphSettings& 
         top -= kLine;
     };
     put("Notes:", timesLook(11.0, true));
-    for (const char* const note :
-         {"1.) The curve shown is based on nominal bearing tolerances.",
-          "2.) The \"Free Race\" title implies that the races are unrestrained by the shaft or housing.",
-          kContact})
+    for (const std::string& note : std::initializer_list<std::string>{
+             "1.) The curve shown is based on nominal bearing tolerances.",
+             "2.) The \"Free Race\" title implies that the races are unrestrained by the shaft or housing.",
+             contactNote()})
         put(note, timesLook(11.0));
     drawGraph(printedDeflectionGraph(data, settings), canvas);
     drawPageFooter(canvas, clock, "", papers::kLetterLandscape);

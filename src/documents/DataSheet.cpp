@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "documents/Maker.h"
 #include "documents/SectionDrawing.h"
 #include "documents/SheetWriter.h"
 #include "numbers/FormatNumber.h"
@@ -43,7 +44,8 @@ void writeClosingLines(const SheetWriter& sheet) {
     // Boxes are higher than the lines' step: word processors cut what hangs below a box.
     constexpr double kHeight = 0.17;
     sheet.text({2.65, 0.875, 6.5, 0.875 - kHeight}, sheet.bearing.availabilityText, {9.0, "BLUE"});
-    sheet.text({2.83, 0.75, 6.5, 0.75 - kHeight}, "For More Information, call Varden at 1-800-555-0142");
+    sheet.text({2.83, 0.75, 6.5, 0.75 - kHeight},
+               std::string("For More Information, call Varden at ") + maker::kPhone);
     sheet.text({1.8, 0.625, 7.5, 0.625 - kHeight},
                "Varden Reserves the Right to Change Specifications and Other Information Without Notice");
 }

@@ -88,7 +88,11 @@ void DataForm::connectEntries() {
 }
 
 void DataForm::opened() {
-    if (shownSolve_ != state().solver.solveNumber) fill();
+    // Of the same solve stands what the user left, and what a side check has changed since.
+    if (shownSolve_ != state().solver.solveNumber)
+        fill();
+    else
+        showNumbers(nullptr);
     entries_.front()->setFocus();
 }
 

@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <chrono>
 
+#include "screens/FormBuilder.h"
 #include "screens/Picture.h"
 #include "screens/Theme.h"
 
@@ -28,9 +29,8 @@ Demonstration::Demonstration(const char* name) : timer_(new QTimer(this)) {
     setAutoFillBackground(true);
     setPalette(theme::paper());
     // The frame keeps its room, so that nothing moves when it comes and goes.
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-    policy.setRetainSizeWhenHidden(true);
-    setSizePolicy(policy);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    build::keepRoom(*this);
 
     auto* const cell = new QGridLayout(this);
     cell->setContentsMargins(2, 2, 2, 2);
@@ -38,7 +38,7 @@ Demonstration::Demonstration(const char* name) : timer_(new QTimer(this)) {
         const std::string image = "Image" + std::to_string(i + 1);
         images_[i] =
             new Picture(image.c_str(), QStringLiteral("Clearance and play of a bearing"), kPictureSize);
-        images_[i]->setSizePolicy(policy);
+        images_[i]->setSizePolicy(sizePolicy());
         images_[i]->hide();
         cell->addWidget(images_[i], 0, 0);
     }

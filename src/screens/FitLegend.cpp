@@ -43,7 +43,7 @@ QGroupBox* fitLegend(const char* name) {
     for (const FitLine& shown : kFitLegend) {
         auto* const sample = new LineSample(shown);
         sample->setObjectName(QStringLiteral("Line%1").arg(line + 1));
-        sample->setAccessibleName(QStringLiteral("Colour of ") + shown.name);
+        sample->setAccessibleName(QStringLiteral("Color of ") + shown.name);
         const std::string label = "Label" + std::to_string(kFirstLabel + line);
         const int column = 2 * (line % kColumns);
         grid->addWidget(sample, line / kColumns, column);

@@ -106,9 +106,7 @@ QGroupBox* Form15::chosenFrame() {
     column->addLayout(sizes);
     column->addWidget(hint_);
     // The list stays where it is when a choice appears.
-    QSizePolicy held = chosenGroup_->sizePolicy();
-    held.setRetainSizeWhenHidden(true);
-    chosenGroup_->setSizePolicy(held);
+    build::keepRoom(*chosenGroup_);
     return chosenGroup_;
 }
 

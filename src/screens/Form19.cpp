@@ -273,11 +273,9 @@ void Form19::showResults() {
 
 void Form19::showWarnings() {
     const auto& sentences = state().life.warnings;
-    QPalette colours = palette();
-    colours.setColor(QPalette::WindowText, theme::badColour(palette()));
     for (std::size_t i = 0; i < warnings_.size(); ++i) {
         const bool shown = i < sentences.size();
-        warnings_[i]->setPalette(colours);
+        theme::makeWarning(*warnings_[i]);
         warnings_[i]->setText(shown ? text(sentences[i]) : QString());
         warnings_[i]->setVisible(shown);
     }

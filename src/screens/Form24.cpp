@@ -61,9 +61,7 @@ Value valueOf(const char* name) {
 
 QLabel* heading(const char* name, const QString& caption, Qt::AlignmentFlag side) {
     QLabel* const label = build::label(name, caption);
-    QFont font = label->font();
-    font.setBold(true);
-    label->setFont(font);
+    build::makeBold(*label);
     label->setAlignment(side | Qt::AlignVCenter);
     return label;
 }
@@ -123,7 +121,6 @@ QGroupBox* Form24::entryFrame() {
                               "List of preloads");
     preloads_->setPlaceholderText("List");
     makeAsWideAs(*preloads_, kEntryDigits);
-    on(preloads_, &QComboBox::activated, "Preload", [this] { choosePreload(preloads_->currentIndex()); });
     on(preloads_, &QComboBox::currentIndexChanged, "Preload",
        [this] { choosePreload(preloads_->currentIndex()); });
     connect(preload_, &QLineEdit::textChanged, this, [this] { showPreloads(); });
@@ -328,10 +325,10 @@ QString Form24::resultsFor() const {
     if (!hasDeflection(state())) return {};
     const DeflectionResult& result = state().deflection;
     if (result.input.preload == 0.0) return "With no preload there are none: the curves bend from the start.";
-    const bool pair = result.styleLetter == "B" || result.styleLetter == "F";
-    return text((pair ? "At an axial preload of " : "At a diametral preload of ") +
-                FormatNumber(result.input.preload * state().units.lengthFactor, "0.0000##") + " " +
-                state().units.lengthUnit);
+    return text(
+        (isPreloadAxial(result.styleLetter) ? "At an axial preload of " : "At a diametral preload of ") +
+        FormatNumber(result.input.preload * state().units.lengthFactor, "0.0000##") + " " +
+        state().units.lengthUnit);
 }
 
 void Form24::showCurve(const Curve& curve) {

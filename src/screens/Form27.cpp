@@ -189,9 +189,7 @@ void Form27::showResults(const FilmResult& result) {
     comment_->setText(text(texts.comment));
     alignEqualSigns(
         std::vector{maxBallLoad_, innerSpeed_, outerSpeed_, film_, lambda_, lifeFactor_, minimumViscosity_});
-    QPalette colours = palette();
-    colours.setColor(QPalette::WindowText, theme::badColour(palette()));
-    noUnit_->setPalette(colours);
+    theme::makeWarning(*noUnit_);
     noUnit_->setVisible(unit() == ViscosityUnit::None);
     results_->show();
 }

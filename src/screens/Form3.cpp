@@ -197,7 +197,7 @@ void Form3::exportBearing() {
     // The file is made under the name as it comes back, and with no name it can't be.
     if (!choice) throw RuntimeError(fault::kPathAccess);
     writeWholeFile(choice->path, qlxText(state()));
-    if (!last) return;
+    if (!last) return tellSaved(choice->path);
     services().messages.show(
         {"Create QLX file", std::string(kExportEndsEarly) + "\n\nThe program ends here.", Icon::Critical});
     screens().quit();

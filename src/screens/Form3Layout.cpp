@@ -34,9 +34,7 @@ PathPanel makePathPanel(const char* panelName, const QString& caption, const cha
     QWidget* const panel = theme::makePanel(panelName);
     auto* const mark = build::label(markName, "Start here");
     theme::makeMark(*mark);
-    QSizePolicy kept = mark->sizePolicy();
-    kept.setRetainSizeWhenHidden(true);
-    mark->setSizePolicy(kept);
+    build::keepRoom(*mark);
     mark->hide();
 
     auto* const head = theme::spaced(new QHBoxLayout, 0);

@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <utility>
 
-#include "paint/PainterCanvas.h"
+#include "screens/PaintedPage.h"
 #include "screens/Theme.h"
 
 namespace norlaplan {
@@ -61,11 +61,9 @@ void GraphPicture::paintCurves(QPainter& painter) const {
     const QRect room = rect().adjusted(kBesideCurve, kBesideCurve, -kBesideCurve, -kBesideCurve);
     if (room.isEmpty()) return;
     const Paper paper{room.width() / kPixelsPerInch, room.height() / kPixelsPerInch};
-    painter.save();
-    painter.translate(room.topLeft());
-    PainterCanvas canvas(painter, paper, kPixelsPerInch);
-    drawGraph(preview(*graph_, paper.width, paper.height), canvas);
-    painter.restore();
+    const Graph small = preview(*graph_, paper.width, paper.height);
+    paintPage(painter, {paper, [&small](Canvas& canvas) { drawGraph(small, canvas); }}, room.topLeft(),
+              kPixelsPerInch, room);
 }
 
 }  // namespace norlaplan

@@ -9,6 +9,7 @@
 #include <QPrinter>
 #include <QPushButton>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -19,7 +20,9 @@
 #include "screens/BusyPointer.h"
 #include "screens/DrawingView.h"
 #include "screens/FormBuilder.h"
+#include "screens/SavedLine.h"
 #include "screens/Theme.h"
+#include "state/DesktopPort.h"
 #include "state/Pages.h"
 #include "state/Ports.h"
 
@@ -51,14 +54,20 @@ std::string fileNameOf(std::string name) {
     return name + ".pdf";
 }
 
+std::filesystem::path documentsFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation).toStdString();
+}
+
 }  // namespace
 
 PrintPreview::PrintPreview(const std::string& documentName, Drawing drawing, SaveDialogPort& saveDialog,
-                           bool hasPrinter, QWidget* parent)
+                           DesktopPort& desktop, bool hasPrinter, QWidget* parent)
     : QDialog(parent),
       name_(documentName),
       drawing_(std::move(drawing)),
       saveDialog_(saveDialog),
+      desktop_(desktop),
+      saved_(new SavedLine),
       pages_(pagesOf(drawing_)),
       view_(new DrawingView("Page", "Page as it will be printed")) {
     setObjectName("PrintPreview");
@@ -101,6 +110,9 @@ void PrintPreview::layOut(bool hasPrinter) {
             "any computer can print.");
     }
     notice_->setVisible(!hasPrinter);
+    connect(&saved_->open(), &QPushButton::clicked, this, [this] { open(saved_->path()); });
+    connect(&saved_->showInFolder(), &QPushButton::clicked, this,
+            [this] { open(saved_->path().parent_path()); });
 
     auto* const top = theme::spaced(new QHBoxLayout, 0);
     top->addWidget(previous_);
@@ -120,6 +132,7 @@ void PrintPreview::layOut(bool hasPrinter) {
     column->addLayout(top);
     column->addWidget(view_, 1);
     column->addWidget(notice_);
+    column->addWidget(saved_);
     column->addLayout(foot);
 }
 
@@ -172,15 +185,21 @@ void PrintPreview::print() {
 
 void PrintPreview::saveAsPdf() {
     const SaveRequest request{
-        "Save Pages As", {{"PDF Files (*.pdf)", "*.pdf"}}, ".pdf", {}, fileNameOf(name_)};
+        "Save Pages As", {{"PDF Files (*.pdf)", "*.pdf"}}, ".pdf", documentsFolder(), fileNameOf(name_)};
     const std::optional<SaveChoice> choice = saveDialog_.askWhereToSave(request);
     if (!choice) return;
     const BusyPointer busy;
     savePicture(choice->path, drawing_);
     done_ = true;
-    notice_->setText("Saved as " + QString::fromStdString(choice->path.string()));
-    notice_->show();
+    notice_->hide();
+    saved_->tell(choice->path);
     close_->setFocus();
+}
+
+void PrintPreview::open(const std::filesystem::path& path) {
+    if (desktop_.open(path)) return;
+    notice_->setText("This desktop has no program that opens " + QString::fromStdString(path.string()));
+    notice_->show();
 }
 
 void PrintPreview::keyPressEvent(QKeyEvent* event) {

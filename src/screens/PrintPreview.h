@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <exception>
+#include <filesystem>
 #include <string>
 
 #include "state/Drawing.h"
@@ -11,8 +12,10 @@ class QPushButton;
 
 namespace norlaplan {
 
+class DesktopPort;
 class DrawingView;
 class SaveDialogPort;
+class SavedLine;
 
 /// The pages of a document as they will be, before they are printed or written as a PDF file. Every print of
 /// the program goes through it.
@@ -20,7 +23,7 @@ class PrintPreview : public QDialog {
   public:
     /// `hasPrinter` says whether there is one to print on; without one only the PDF file is offered.
     PrintPreview(const std::string& documentName, Drawing drawing, SaveDialogPort& saveDialog,
-                 bool hasPrinter, QWidget* parent);
+                 DesktopPort& desktop, bool hasPrinter, QWidget* parent);
 
     /// Shows the pages until the user leaves them. Gives whether they were printed or written. Errors: what
     /// the drawing raises, 57 for a printer that fails, and those of writing the PDF file.
@@ -40,12 +43,15 @@ class PrintPreview : public QDialog {
     void showPageWidth();
     void print();
     void saveAsPdf();
+    void open(const std::filesystem::path& path);
     /// Runs an action of a button. A failure ends the preview, and `run` raises it.
     void guarded(void (PrintPreview::*action)());
 
     std::string name_;
     Drawing drawing_;
     SaveDialogPort& saveDialog_;
+    DesktopPort& desktop_;
+    SavedLine* saved_;
     int pages_ = 1;
     int page_ = 1;
     bool done_ = false;

@@ -9,9 +9,7 @@ QLabel* readoutLabel(const char* name, const QString& spoken) {
     QLabel* const label = build::valueLabel(name);
     label->setAccessibleName(spoken);
     label->setAlignment(Qt::AlignHCenter);
-    QSizePolicy policy = label->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    label->setSizePolicy(policy);
+    build::keepRoom(*label);
     label->setMinimumHeight(label->fontMetrics().height());
     label->hide();
     return label;

@@ -2,7 +2,6 @@
 
 #include <QWidget>
 #include <filesystem>
-#include <functional>
 
 class QLabel;
 class QPushButton;

@@ -208,6 +208,12 @@ void makeHeading(QLabel& label) {
     label.setWordWrap(true);
 }
 
+void makeWarning(QLabel& label) {
+    QPalette colours = QGuiApplication::palette();
+    colours.setColor(QPalette::WindowText, badColour(colours));
+    label.setPalette(colours);
+}
+
 void makeMark(QLabel& label) {
     label.setAlignment(Qt::AlignCenter);
     label.setStyleSheet(

@@ -50,6 +50,8 @@ QColor accent();       ///< marks the control with the focus and what is selecte
 QColor frameColour();  ///< of a frame drawn over white paper
 
 void makeHeading(QLabel& label);
+/// In the colour of what is over its limit.
+void makeWarning(QLabel& label);
 /// A mark that draws the eye to where to go on.
 void makeMark(QLabel& label);
 /// The button that leads on.

@@ -141,9 +141,7 @@ ContactSection form30::choose(int row) {
 }
 
 void form30::warnOfOverrun(const ContactSection& section) {
-    QPalette colours = palette();
-    colours.setColor(QPalette::WindowText, theme::badColour(palette()));
-    overrun_->setPalette(colours);
+    theme::makeWarning(*overrun_);
     overrun_->setVisible(section.overruns());
 }
 

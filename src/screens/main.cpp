@@ -17,10 +17,10 @@ int main(int count, char** arguments) {
     const ProgramFolder folder(QCoreApplication::applicationDirPath().toStdString());
     QtMessages messages;
     QtSaveDialog saveDialog;
-    QtPrinter printer(saveDialog);
+    QtDesktop desktop;
+    QtPrinter printer(saveDialog, desktop);
     LocalClock clock;
     FolderSheets sheets(folder);
-    QtDesktop desktop;
     UserFiles userFiles(UserFiles::usualFolder());
     QtColourDialog colourDialog;
     QtOpenDialog openDialog;

@@ -14,7 +14,7 @@ enum class DeflectionLoad { Radial, Axial, Moment };
 /// these units.
 struct DeflectionFields {
     std::string preload, maxRadialLoad, maxAxialLoad, maxMomentLoad;
-    std::string partNumber, unitSystem;
+    std::string partNumber, unitSystem, zSeparatorChoice;
 };
 
 /// What the deflection calculation is asked for.
@@ -40,7 +40,7 @@ struct CurvePoint {
 /// Stiffness of a bearing under preload, and its deflection curves. A value that the style doesn't have is
 /// empty; so are the spring rates with no preload, where the relief loads are -1.
 struct DeflectionResult {
-    std::string partNumber, styleLetter;  ///< of the bearing that it was worked out for
+    std::string partNumber, zSeparatorChoice, styleLetter;  ///< of the bearing that it was worked out for
     DeflectionInput input;
 
     // The linear region, up to the relief load at which the preload is gone.

@@ -57,9 +57,28 @@ TEST(TheDeflectionFields, StayWithTheirBearingAndGoWithAnotherOneOrOtherUnits) {
     EXPECT_EQ(state.deflectionFields.preload, "0.0000");
 }
 
+TEST(TheDeflectionFields, AndResultAreThoseOfOneSeparatorChoice) {
+    ProgramState state = stateWith("K19013XP0");
+    state.bearing.zSeparatorChoice = "S";
+    prepareDeflectionFields(state);
+    testing::RecordingMessages messages;
+    solveDeflection(state, proposedDeflectionEntry(state.bearing, state.units), messages);
+    state.deflectionFields.preload = "0.0010";
+    prepareDeflectionFields(state);
+    EXPECT_EQ(state.deflectionFields.preload, "0.0010");
+    EXPECT_TRUE(hasDeflection(state));
+
+    // The same number with other spacers has another count of balls.
+    state.bearing.zSeparatorChoice = "T";
+    EXPECT_FALSE(hasDeflection(state));
+    prepareDeflectionFields(state);
+    EXPECT_EQ(state.deflectionFields.preload, "0.0000");
+    EXPECT_TRUE(state.deflection.partNumber.empty());
+}
+
 TEST(TheDeflectionFields, AreReadInDisplayUnits) {
     ProgramState state = stateWith("K19013BP0T", "METRIC");
-    state.deflectionFields = {" 0.0254 ", "1,000", "500", "10", "K19013BP0T", "METRIC"};
+    state.deflectionFields = {" 0.0254 ", "1,000", "500", "10", "K19013BP0T", "METRIC", ""};
     const DeflectionEntry entry = std::get<DeflectionEntry>(enteredDeflection(state));
     EXPECT_EQ(entry.preload, 0.0254);
     EXPECT_EQ(entry.maxRadialLoad, 1000.0);

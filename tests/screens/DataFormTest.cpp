@@ -86,6 +86,22 @@ class DataFormTest : public QObject {
         QCOMPARE(program.screens.current()->windowTitle(), QString("Lodestar stripped down"));
     }
 
+    void showsTheModulusThatALaterFilmCheckLeaves() {
+        Analysis program("US", "LARS HOFMANN\r\nLUBE FILM");
+        program.enterNumber("K19013XP0");
+        program.openLife("500", "200", "100", "400");
+        program.openAnalysis();
+        QCOMPARE(program.shown("Text11"), std::string("29"));
+        program.click(forms::kAnalysis, "Command3");
+        program.click(forms::kLife, "Command6");
+        program.type(forms::kLubeFilm, "Text1", ".9");
+        program.type(forms::kLubeFilm, "Text2", "100");
+        program.click(forms::kLubeFilm, "Command2");
+        program.screens.showAlone(forms::kLife);
+        program.openAnalysis();
+        QCOMPARE(program.shown("Text11"), std::string("29000000"));
+    }
+
     void itsButtonsBearTheirCaptions() {
         Program program;
         program.compareButton(forms::kAnalysis, "Command1", "More", "Show the data of every ball");

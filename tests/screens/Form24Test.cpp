@@ -93,6 +93,34 @@ class Form24Test : public QObject {
         QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
     }
 
+    void anotherSeparatorChoiceOfTheSameNumberIsAnotherBearing() {
+        Program program;
+        const auto decodeWith = [&](const char* option) {
+            program.screens.showAlone(forms::kMainMenu);
+            program.click(forms::kMainMenu, "Command8");
+            program.type(forms::kPartNumber, "Text1", "K19013XZ0");
+            program.click(forms::kPartNumber, option);
+            QTest::keyClick(&program.control<QLineEdit>(forms::kPartNumber, "Text1"), Qt::Key_Return);
+            program.screens.showAlone(forms::kMainMenu);
+            program.click(forms::kMainMenu, "Command12");
+        };
+        const auto rate = [&] { return program.control<QLineEdit>(forms::kDeflection, "Text8").text(); };
+        const auto calculate = [&] {
+            program.type(forms::kDeflection, "Text3", "0.0010");
+            program.click(forms::kDeflection, "Command3");
+        };
+        decodeWith("Option6");
+        const int spacerBalls = program.state.bearing.ballCount;
+        calculate();
+        const QString withSpacers = rate();
+        QVERIFY(!withSpacers.isEmpty());
+        decodeWith("Option5");
+        QVERIFY(program.state.bearing.ballCount != spacerBalls);
+        QCOMPARE(rate(), QString());
+        calculate();
+        QVERIFY(rate() != withSpacers);
+    }
+
     void thePreloadsTipGoesByStyleAndUnits_data() {
         QTest::addColumn<QString>("number");
         QTest::addColumn<QString>("system");

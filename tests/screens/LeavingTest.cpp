@@ -144,6 +144,7 @@ class LeavingTest : public QObject {
         const std::string text = menu.files.read("out.qlx");
         QCOMPARE(std::count(text.begin(), text.end(), '\n'), std::ptrdiff_t{73});
         QVERIFY(text.find("\r\n\"K19013XP0\"\r\n") != std::string::npos);
+        QVERIFY(menu.control<QLabel>(forms::kMainMenu, "SavedText").toolTip().endsWith("out.qlx"));
         QVERIFY(menu.state.lastSavedFile.empty());
         QCOMPARE(menu.inFront(), std::string(forms::kMainMenu));
     }

@@ -1,6 +1,7 @@
 #include <QLabel>
 #include <QPrintDialog>
 #include <QPushButton>
+#include <QStandardPaths>
 #include <QTimer>
 
 #include "screens/DrawingView.h"
@@ -23,7 +24,7 @@ Drawing twoPages() {
 
 struct Preview {
     explicit Preview(bool hasPrinter = true, Drawing drawing = twoPages())
-        : dialog("A: list", std::move(drawing), saveDialog, hasPrinter, nullptr) {
+        : dialog("A: list", std::move(drawing), saveDialog, desktop, hasPrinter, nullptr) {
         dialog.show();
     }
     template <typename Control = QPushButton>
@@ -31,6 +32,7 @@ struct Preview {
         return *dialog.findChild<Control*>(name);
     }
     PresetSaveDialog saveDialog;
+    RecordingDesktop desktop;
     PrintPreview dialog;
 };
 
@@ -87,10 +89,32 @@ class PrintPreviewTest : public QObject {
         QVERIFY(pdf.starts_with("%PDF"));
         QVERIFY(pdf.find("/Count 2") != std::string::npos);
         QVERIFY(pdf.find("[0 0 792") != std::string::npos);
-        const auto& notice = preview.control<QLabel>("Notice");
-        QVERIFY(notice.isVisible());
-        QVERIFY(notice.text().contains("list.pdf"));
+        QVERIFY(preview.control<QLabel>("SavedText").isVisible());
+        QVERIFY(preview.control<QLabel>("SavedText").toolTip().endsWith("list.pdf"));
         QVERIFY(preview.dialog.isVisible());
+    }
+
+    void the_pdf_is_proposed_among_the_users_documents() {
+        Preview preview;
+        preview.control("SaveAsPdf").click();
+        const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        QVERIFY(!documents.isEmpty());
+        QCOMPARE(QString::fromStdString(preview.saveDialog.requests.at(0).folder.string()), documents);
+    }
+
+    void the_saved_pdf_opens_from_the_preview_and_so_does_its_folder() {
+        TemporaryFolder files;
+        Preview preview;
+        preview.saveDialog.choice = SaveChoice{files.path() / "list.pdf", 1};
+        preview.control("SaveAsPdf").click();
+        preview.control("OpenSaved").click();
+        preview.control("ShowSaved").click();
+        QCOMPARE(preview.desktop.opened, (std::vector{files.path() / "list.pdf", files.path()}));
+        QVERIFY(!preview.control<QLabel>("Notice").isVisible());
+        preview.desktop.hasProgram = false;
+        preview.control("OpenSaved").click();
+        QVERIFY(preview.control<QLabel>("Notice").text().endsWith(
+            "no program that opens " + QString::fromStdString((files.path() / "list.pdf").string())));
     }
 
     void a_cancelled_pdf_leaves_the_preview_as_it_was() {
@@ -111,14 +135,15 @@ class PrintPreviewTest : public QObject {
     void run_says_whether_something_was_written() {
         TemporaryFolder files;
         PresetSaveDialog saveDialog;
+        RecordingDesktop desktop;
         saveDialog.choice = SaveChoice{files.path() / "list.pdf", 1};
-        PrintPreview written("list", twoPages(), saveDialog, true, nullptr);
+        PrintPreview written("list", twoPages(), saveDialog, desktop, true, nullptr);
         QTimer::singleShot(0, &written, [&] {
             written.findChild<QPushButton*>("SaveAsPdf")->click();
             written.findChild<QPushButton*>("Close")->click();
         });
         QVERIFY(written.run());
-        PrintPreview left("list", twoPages(), saveDialog, true, nullptr);
+        PrintPreview left("list", twoPages(), saveDialog, desktop, true, nullptr);
         QTimer::singleShot(0, &left, [&] { left.findChild<QPushButton*>("Close")->click(); });
         QVERIFY(!left.run());
     }
@@ -126,8 +151,9 @@ class PrintPreviewTest : public QObject {
     void a_pdf_that_cannot_be_written_ends_the_preview_with_its_error() {
         TemporaryFolder files;
         PresetSaveDialog saveDialog;
+        RecordingDesktop desktop;
         saveDialog.choice = SaveChoice{files.path() / "missing" / "list.pdf", 1};
-        PrintPreview preview("list", twoPages(), saveDialog, true, nullptr);
+        PrintPreview preview("list", twoPages(), saveDialog, desktop, true, nullptr);
         QTimer::singleShot(0, &preview, [&] { preview.findChild<QPushButton*>("SaveAsPdf")->click(); });
         QVERIFY_EXCEPTION_THROWN(preview.run(), RuntimeError);
     }

@@ -139,7 +139,8 @@ class WhatIsSeenTest : public QObject {
 
     void a_sheet_is_printed_into_a_pdf_without_a_fault() {
         PresetSaveDialog saveDialog;
-        QtPrinter printer(saveDialog);
+        RecordingDesktop desktop;
+        QtPrinter printer(saveDialog, desktop);
         Program program(&printer);
         program.enterNumber("K19013XP0");
         program.click("Form3", "Command9");

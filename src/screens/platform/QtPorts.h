@@ -42,11 +42,13 @@ class QtOpenDialog : public OpenDialogPort {
 /// The preview of the pages, and from there the printer or a PDF file.
 class QtPrinter : public PrinterPort {
   public:
-    explicit QtPrinter(SaveDialogPort& saveDialog) : saveDialog_(saveDialog) {}
+    QtPrinter(SaveDialogPort& saveDialog, DesktopPort& desktop)
+        : saveDialog_(saveDialog), desktop_(desktop) {}
     bool print(const std::string& documentName, const Drawing& drawing) override;
 
   private:
     SaveDialogPort& saveDialog_;
+    DesktopPort& desktop_;
 };
 
 /// Date and time of now in the user's locale, short form.

@@ -8,7 +8,9 @@ namespace norlaplan {
 
 bool QtPrinter::print(const std::string& documentName, const Drawing& drawing) {
     const bool hasPrinter = !QPrinterInfo::availablePrinterNames().isEmpty();
-    return PrintPreview(documentName, drawing, saveDialog_, hasPrinter, QApplication::activeWindow()).run();
+    return PrintPreview(documentName, drawing, saveDialog_, desktop_, hasPrinter,
+                        QApplication::activeWindow())
+        .run();
 }
 
 }  // namespace norlaplan
