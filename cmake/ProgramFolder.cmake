@@ -14,15 +14,16 @@ endforeach()
 add_custom_target(program-folder ALL DEPENDS ${staged})
 file(MAKE_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/save)
 
-if(TARGET style-pictures)
-  # The style pictures are drawn from the bearings' geometry at build time.
-  set(pictures ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/bkground)
+if(TARGET make-pictures)
+  # Pictures and icons are drawn from the bearings' geometry at build time. The desktop's icons lie apart: they are
+  # no part of the program folder.
+  set(desktop_icons ${PROJECT_BINARY_DIR}/desktop-icons)
   add_custom_command(
-    OUTPUT ${pictures}/.drawn
-    COMMAND ${CMAKE_COMMAND} -E make_directory ${pictures}
-    COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen $<TARGET_FILE:style-pictures> ${pictures}
-    COMMAND ${CMAKE_COMMAND} -E touch ${pictures}/.drawn
-    DEPENDS style-pictures
+    OUTPUT ${PROJECT_BINARY_DIR}/pictures.drawn
+    COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen $<TARGET_FILE:make-pictures>
+      ${CMAKE_RUNTIME_OUTPUT_DIRECTORY} ${desktop_icons}
+    COMMAND ${CMAKE_COMMAND} -E touch ${PROJECT_BINARY_DIR}/pictures.drawn
+    DEPENDS make-pictures
     VERBATIM)
-  add_custom_target(program-pictures ALL DEPENDS ${pictures}/.drawn)
+  add_custom_target(program-pictures ALL DEPENDS ${PROJECT_BINARY_DIR}/pictures.drawn)
 endif()

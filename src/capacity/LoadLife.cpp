@@ -87,7 +87,7 @@ void judgeSpeed(ProgramState& state) {
 
 }  // namespace
 
-bool computeLoadLife(ProgramState& state, MessagePort& messages) {
+bool computeLoadLife(ProgramState& state, MessagePort& messages, BallAngles angles) {
     LifeResult& life = state.life;
     life = {};
     pickClearance(state.bearing);
@@ -95,7 +95,7 @@ bool computeLoadLife(ProgramState& state, MessagePort& messages) {
     const std::optional<SolveResult> result = solveWithAdvice(state.bearing.styleLetter == "C", state.loads,
                                                               [&] { return solve(state, messages); });
     if (!result) return false;
-    if (state.solver.RowCount == 2) writeBallAngles(state.solver);
+    if (angles == BallAngles::Written && state.solver.RowCount == 2) writeBallAngles(state.solver);
     life.staticSafetyFactor = result->safetyFactor;
     life.l10Revolutions = result->lifeRevolutions;
     life.startingTorque = result->torque;

@@ -14,7 +14,9 @@ namespace norlaplan {
 ///
 /// Errors: 5 for loads of a sign that the style doesn't take, with a sentence on what to enter instead; 11
 /// for a life of 0 with a speed.
-bool computeLoadLife(ProgramState& state, MessagePort& messages);
+/// The texts of the balls' contact angles take a third of the time; who shows no ball does without.
+enum class BallAngles { Written, LeftOut };
+bool computeLoadLife(ProgramState& state, MessagePort& messages, BallAngles angles = BallAngles::Written);
 
 /// Whether `state.life` is the result of the bearing and the loads in hand, in the units in force.
 bool hasLife(const ProgramState& state);

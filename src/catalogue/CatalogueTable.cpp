@@ -8,6 +8,7 @@
 
 #include "numbers/RuntimeError.h"
 #include "numbers/Text.h"
+#include "state/FileFault.h"
 
 namespace norlaplan {
 namespace {
@@ -26,17 +27,23 @@ CatalogueTable::CatalogueTable(const ProgramFolder& folder, std::string_view nam
     const std::filesystem::path path = folder.find("\\Data Tables\\" + std::string(name));
     // A pipe in a table's place must not be waited for.
     const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (descriptor < 0) {
-        raise(errno == ENOENT || errno == ENOTDIR ? fault::kFileNotFound : fault::kPermissionDenied);
-    }
+    if (descriptor < 0) raiseSystem(errno, path, fault::kFileNotFound);
     file_.reset(::fdopen(descriptor, "rb"));
     if (!file_) {
         ::close(descriptor);
-        raise(fault::kDeviceIo);
+        raiseFile(fault::kDeviceIo, path);
     }
     struct stat status {};
-    if (::fstat(::fileno(file_.get()), &status) != 0 || !S_ISREG(status.st_mode)) raise(fault::kPathAccess);
+    if (::fstat(::fileno(file_.get()), &status) != 0 || !S_ISREG(status.st_mode))
+        raiseFile(fault::kPathAccess, path);
     size_ = static_cast<double>(status.st_size);
+    skipByteOrderMark();
+}
+
+void CatalogueTable::skipByteOrderMark() {
+    constexpr std::string_view kMark = "\xEF\xBB\xBF";
+    peek();
+    if (std::string_view(block_.data(), filled_).starts_with(kMark)) at_ = kMark.size();
 }
 
 void CatalogueTable::skipFields(int count) {

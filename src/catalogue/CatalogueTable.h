@@ -56,6 +56,8 @@ class CatalogueTable {
     void readQuoted(std::string& field);
     void keep(std::string& field);
     void endField();
+    /// Passes over the mark that spreadsheets write at the head of a UTF-8 text.
+    void skipByteOrderMark();
     /// The next character without taking it; -1 at the end.
     int peek();
     int get();

@@ -41,7 +41,11 @@ void decode(ProgramState& state, std::string& number, DecodeServices& services) 
     refuseFor(readFit(services.folder, bearing));
     bearing.fitRangeText = fitRangeTextOf(bearing, state.units);
     deriveBearingData(state, services.folder, services.messages);
-    services.sheets.store(makeDataSheet(state, services.folder, services.clock));
+    if (services.sheets == nullptr) {
+        checkDataSheet(bearing, services.folder);
+    } else {
+        services.sheets->store(makeDataSheet(state, services.folder, services.clock));
+    }
     state.decoded.set(bearing, state.units.system);
 }
 

@@ -14,7 +14,9 @@ struct DecodeServices {
     const ProgramFolder& folder;
     MessagePort& messages;
     ClockPort& clock;
-    SheetStorePort& sheets;
+    /// Where the data sheet goes; null where nobody reads it: its text, most of a decode's time, isn't made
+    /// then.
+    SheetStorePort* sheets;
 };
 
 enum class DecodeEnd {
@@ -32,7 +34,8 @@ struct DecodeResult {
 };
 
 /// Turns a part number of 9 or 10 characters into the current bearing: checks it position by position, looks
-/// it up in the catalogue, derives all further data and writes the data sheet. The number is repaired in
+/// it up in the catalogue, derives all further data and writes the data sheet, or does all of it that can
+/// fail. The number is repaired in
 /// place (upper case, letter O for 0, a dropped fit letter) and becomes `partNumber`; at a good end the state
 /// knows that it holds the decoded bearing. Every refusal and failure is shown through the services; it
 /// leaves a mix of old and new values behind, which nothing reads since `partNumber` is empty.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "state/Ports.h"
@@ -14,6 +15,7 @@ class CollectedMessages : public MessagePort {
     Answer ask(const Message&, Buttons) override { return Answer::No; }
 
     const std::vector<Message>& messages() const { return messages_; }
+    void set(std::vector<Message> messages) { messages_ = std::move(messages); }
     /// Takes the last message out: the one that ended the action.
     Message takeLast();
 
@@ -27,16 +29,6 @@ class SystemClock : public ClockPort {
     std::string date() override;
     std::string time() override;
     std::string longDate() override;
-};
-
-/// Keeps the data sheet in memory, since the command line writes nothing into the program folder.
-class MemorySheet : public SheetStorePort {
-  public:
-    void store(const SheetFiles& sheet) override { sheet_ = sheet; }
-    const SheetFiles& sheet() const { return sheet_; }
-
-  private:
-    SheetFiles sheet_;
 };
 
 }  // namespace norlaplan::cli

@@ -1,5 +1,8 @@
 #include "cli/CommandError.h"
 
+#include "numbers/RuntimeError.h"
+#include "state/Patience.h"
+
 namespace norlaplan::cli {
 
 int CommandError::exitStatus() const {
@@ -23,6 +26,21 @@ Json CommandError::json() const {
               {"number", number_ ? Json(*number_) : Json(nullptr)},
               {"title", title_},
               {"prompt", prompt_}}}};
+}
+
+CommandError currentError() {
+    try {
+        throw;
+    } catch (const CommandError& error) {
+        return error;
+    } catch (const RuntimeError& error) {
+        return {ErrorKind::Runtime, "Run-time error '" + std::to_string(error.number()) + "'", error.what(),
+                error.number()};
+    } catch (const NotConverging& error) {
+        return {ErrorKind::Runtime, NotConverging::title(), error.what()};
+    } catch (const std::exception& error) {
+        return {ErrorKind::Runtime, "Unexpected error", error.what()};
+    }
 }
 
 void refuse(const std::optional<Message>& refusal) {

@@ -33,6 +33,10 @@ class CommandError : public std::exception {
     std::optional<int> number_;
 };
 
+/// The exception in hand as the command line tells it: run-time errors, calculations that a guard has ended,
+/// and whatever else. For the handlers of `catch (...)`.
+CommandError currentError();
+
 /// Ends the command with the message, where there is one.
 void refuse(const std::optional<Message>& refusal);
 

@@ -1,7 +1,9 @@
 #include "cli/CommandLine.h"
 
+#include <algorithm>
 #include <iostream>
 #include <memory>
+#include <thread>
 
 #include <CLI/CLI.hpp>
 
@@ -10,6 +12,7 @@
 #include "cli/OutputFile.h"
 #include "cli/Reports.h"
 #include "loaddist/LubeFilm.h"
+#include "state/InstalledFolder.h"
 
 namespace norlaplan::cli {
 namespace {
@@ -49,6 +52,8 @@ class Builder {
         addSearch(search);
         addLoads(search);
 
+        addBatch();
+
         CLI::App* const deflection =
             command(app_, "deflection", "Spring rates, relief loads and deflection curves under a preload",
                     [](Session& s, Arguments& a) { return deflectionCommand(s, a.number, a.deflection); });
@@ -81,6 +86,24 @@ class Builder {
             *chosen = [arguments, run](Session& session) { return run(session, *arguments); };
         });
         return command;
+    }
+
+    void addBatch() {
+        CLI::App* const batch = command(app_, "batch", "One life calculation for each row of a table",
+                                        [](Session& s, Arguments& a) {
+                                            a.batch.output = a.output;
+                                            a.batch.zSeparator = a.number.zSeparator;
+                                            return batchCommand(s, a.batch);
+                                        });
+        BatchOptions& options = arguments_->batch;
+        options.jobs = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+        batch->add_option("CASES", options.cases, "Table of cases, CSV: partNumber,radial,axial,moment,speed")
+            ->required();
+        batch->add_option("--output", arguments_->output, "Table of results to write, CSV")->required();
+        batch->add_option("--jobs", options.jobs, "Threads that share the work")
+            ->check(CLI::Range(1, 256))
+            ->capture_default_str();
+        addZSeparator(batch);
     }
 
     void addFits() {
@@ -127,6 +150,10 @@ class Builder {
 
     void addNumber(CLI::App* command) {
         command->add_option("PN", arguments_->number.number, "Part number, such as K19013XP0")->required();
+        addZSeparator(command);
+    }
+
+    void addZSeparator(CLI::App* command) {
         command->add_option("--z-separator", arguments_->number.zSeparator, "Which separator a \"Z\" means")
             ->check(CLI::IsMember({"P", "V", "S", "T"}));
     }
@@ -215,7 +242,7 @@ std::optional<Invocation> parseCommandLine(int argc, char** argv) {
     std::string folder;
     app.set_version_flag("--version", "NORLAPLAN-MM version 1.00");
     app.add_option("--program-folder", folder,
-                   "Folder of the catalogue and settings; default: that of the program");
+                   "Folder of the catalog and settings; default: that of the program");
     app.add_option("--units", invocation.options.units, "Display units of this call")
         ->check(CLI::IsMember({"US", "METRIC"}));
     app.add_flag("--json", invocation.options.json, "One JSON object on standard output");
@@ -231,9 +258,7 @@ std::optional<Invocation> parseCommandLine(int argc, char** argv) {
         }
         throw CommandError(ErrorKind::Usage, "Wrong usage", error.what());
     }
-    invocation.options.programFolder = folder.empty()
-                                           ? std::filesystem::read_symlink("/proc/self/exe").parent_path()
-                                           : std::filesystem::path(folder);
+    invocation.options.programFolder = folder.empty() ? usualProgramFolder() : ProgramFolder(folder);
     invocation.command = builder.chosen();
     return invocation;
 }

@@ -41,6 +41,13 @@ struct FitOptions {
     std::string shaft, housing;
 };
 
+/// What the batch command takes.
+struct BatchOptions {
+    std::string cases, output;  ///< paths of tables
+    std::string zSeparator;     ///< of all numbers that ask for one
+    int jobs = 1;               ///< threads
+};
+
 /// Each command: its result, or `CommandError` and the run-time errors of its calculation.
 CommandResult decodeCommand(Session& session, const PartNumberOption& number);
 CommandResult filmCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads,
@@ -58,6 +65,11 @@ CommandResult fitsCommand(Session& session, const PartNumberOption& number, cons
 /// goes into the file.
 CommandResult qlxCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads,
                          const std::string& output);
+/// One life calculation a row of the cases. The rows of the results stand in the order of the cases and hold
+/// what a single call gives, whatever the number of jobs; a case without a result tells why in its row.
+/// Errors: `CommandError` for a table that isn't one; run-time errors of reading and writing; `Interrupted`.
+/// The results are written whole or not at all.
+CommandResult batchCommand(Session& session, const BatchOptions& options);
 CommandResult searchCommand(Session& session, const SearchOptions& options, const LoadOptions& loads);
 
 // The calculations of the commands that also have a report. Errors as theirs.

@@ -1,12 +1,25 @@
 #include "cli/Json.h"
 
+#include <algorithm>
+
 #include "numbers/Text.h"
 
 namespace norlaplan::cli {
 namespace {
 
-std::string quoted(const std::string& text) {
-    return Json(text).dump(-1, ' ', false, Json::error_handler_t::replace);
+/// What stands in quotes as it is: nearly every name and text.
+bool isPlain(char c) {
+    return c >= ' ' && c < 127 && c != '"' && c != '\\';
+}
+
+void writeQuoted(const std::string& text, std::string& out) {
+    if (std::all_of(text.begin(), text.end(), isPlain)) {
+        out += '"';
+        out += text;
+        out += '"';
+    } else {
+        out += Json(text).dump(-1, ' ', false, Json::error_handler_t::replace);
+    }
 }
 
 void write(const Json& value, const std::string& indent, std::string& out);
@@ -23,7 +36,8 @@ void writeMembers(const Json& value, const std::string& indent, std::string& out
     out += object ? "{" : "[";
     const char* separator = "\n";
     for (auto at = value.begin(); at != value.end(); ++at) {
-        out += separator + inner;
+        out += separator;
+        out += inner;
         member(at, inner);
         separator = ",\n";
     }
@@ -33,7 +47,8 @@ void writeMembers(const Json& value, const std::string& indent, std::string& out
 void write(const Json& value, const std::string& indent, std::string& out) {
     if (value.is_object()) {
         writeMembers(value, indent, out, [&](const auto& at, const std::string& inner) {
-            out += quoted(at.key()) + ": ";
+            writeQuoted(at.key(), out);
+            out += ": ";
             write(at.value(), inner, out);
         });
     } else if (value.is_array()) {
@@ -42,7 +57,7 @@ void write(const Json& value, const std::string& indent, std::string& out) {
     } else if (value.is_number_float()) {
         out += shortestText(value.get<double>());
     } else if (value.is_string()) {
-        out += quoted(value.get<std::string>());
+        writeQuoted(value.get_ref<const std::string&>(), out);
     } else {
         out += value.dump();
     }

@@ -1,7 +1,7 @@
 #include <vector>
 
-#include "capacity/LoadLife.h"
 #include "cli/Commands.h"
+#include "cli/LifeFields.h"
 #include "cli/LoadedBearing.h"
 #include "cli/TextTable.h"
 #include "numbers/FormatNumber.h"
@@ -24,32 +24,17 @@ Json ballsJson(const SolverState& solver) {
             Json json = {{"row", row}, {"ball", ball}};
             visitBall(solver, row, ball,
                       [&](const char* name, const auto& value) { json[name] = toJson(value); });
-            balls.push_back(json);
+            balls.push_back(std::move(json));
         }
     }
     return balls;
 }
 
 Json lifeJson(const ProgramState& state) {
-    const LifeResult& life = state.life;
-    const bool speed = state.loads.speed != 0.0;
-    const auto withSpeed = [&](const auto& value) { return speed ? toJson(value) : Json(nullptr); };
     Json json;
-    json["partNumber"] = state.bearing.partNumber;
-    json["meanClearance"] = toJson(state.bearing.meanClearance);
-    json["contactAngleDegrees"] = toJson(state.bearing.contactAngleDegrees);
-    json["torqueCoefficient"] = toJson(life.torqueCoefficient);
-    json["startingTorque"] = toJson(life.startingTorque);
-    json["l10Revolutions"] = toJson(life.l10Revolutions);
-    json["l10Hours"] = withSpeed(life.l10Hours);
-    json["staticSafetyFactor"] = toJson(life.staticSafetyFactor);
-    json["torqueDisplay"] = toJson(life.torqueDisplay);
-    json["torqueText"] = torqueLine(state);
-    json["loadPercent"] = withSpeed(life.loadPercent);
-    json["speedFactor"] = withSpeed(state.bearing.speedFactor);
-    json["speedLimit"] = withSpeed(life.speedLimit);
-    json["speedVerdict"] = withSpeed(life.speedVerdict);
-    json["speedVerdictColor"] = withSpeed(life.speedVerdictColor);
+    visitLife(state, [&](const char* name, const auto* value) {
+        json[name] = value == nullptr ? Json(nullptr) : toJson(*value);
+    });
     json["solver"] = solverJson(state.solver);
     json["balls"] = ballsJson(state.solver);
     return json;
@@ -84,7 +69,8 @@ std::string lifeText(const ProgramState& state) {
 
 CommandResult lifeCommand(Session& session, const PartNumberOption& number, const LoadOptions& loads) {
     calculateLife(session, number, loads);
-    return {lifeJson(session.state()), lifeText(session.state())};
+    if (session.asksForJson()) return {lifeJson(session.state()), ""};
+    return {Json::object(), lifeText(session.state())};
 }
 
 }  // namespace norlaplan::cli

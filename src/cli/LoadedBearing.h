@@ -1,5 +1,6 @@
 #pragma once
 
+#include "capacity/LoadLife.h"
 #include "cli/Session.h"
 
 namespace norlaplan::cli {
@@ -8,5 +9,9 @@ namespace norlaplan::cli {
 /// other. The reasons not to trust the result become warnings of the session. Errors: `CommandError` with the
 /// program's message; run-time errors of the calculation.
 void calculateLife(Session& session, const PartNumberOption& number, const LoadOptions& loads);
+
+/// The same for the bearing that is decoded already.
+void calculateLifeOfDecoded(Session& session, const LoadOptions& loads,
+                            BallAngles angles = BallAngles::Written);
 
 }  // namespace norlaplan::cli

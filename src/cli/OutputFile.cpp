@@ -14,10 +14,15 @@
 namespace norlaplan::cli {
 namespace {
 
-/// The picture module beside this program. It brings Qt with it, so it is loaded for a picture alone.
+std::filesystem::path pictureModule() {
+    const std::filesystem::path programs = std::filesystem::read_symlink("/proc/self/exe").parent_path();
+    const std::filesystem::path installed = programs / kInstalledModules / kPictureModule;
+    return std::filesystem::exists(installed) ? installed : programs / kPictureModule;
+}
+
+/// The picture module brings Qt with it, so it is loaded for a picture alone.
 SavePictureEntry loadPictureModule() {
-    const std::filesystem::path module =
-        std::filesystem::read_symlink("/proc/self/exe").parent_path() / kPictureModule;
+    const std::filesystem::path module = pictureModule();
     void* const handle = ::dlopen(module.c_str(), RTLD_NOW | RTLD_LOCAL);
     void* const entry = handle == nullptr ? nullptr : ::dlsym(handle, kPictureEntry);
     if (entry == nullptr) {

@@ -1,5 +1,7 @@
 #include "cli/Reports.h"
 
+#include <memory>
+
 #include "cli/CommandError.h"
 #include "cli/LoadedBearing.h"
 #include "deflection/AxisRule.h"
@@ -18,8 +20,9 @@ namespace {
 
 Document dataSheet(Session& session, const Arguments& arguments) {
     session.decode(arguments.number);
-    return dataSheetDocument(session.state().bearing.partNumber, session.sheet().records,
-                             [&session] { return session.sheet().rtf; });
+    const auto sheet = std::make_shared<const SheetFiles>(session.sheet());
+    return dataSheetDocument(session.state().bearing.partNumber, sheet->records,
+                             [sheet] { return sheet->rtf; });
 }
 
 Document life(Session& session, const Arguments& arguments) {

@@ -17,6 +17,7 @@ struct Arguments {
     SearchOptions search;
     DeflectionOptions deflection;
     FitOptions fits;
+    BatchOptions batch;
     std::string output;
 };
 

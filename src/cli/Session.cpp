@@ -10,7 +10,7 @@
 
 namespace norlaplan::cli {
 
-Session::Session(const GlobalOptions& options) : folder_(options.programFolder) {
+Session::Session(const GlobalOptions& options) : folder_(options.programFolder), json_(options.json) {
     const StartUp start = startUp(state_, folder_);
     if (!start.notice.empty()) startNotices_.push_back({"SETTINGS.INI", start.notice, Icon::Warning});
     const std::string& units = options.units.empty() ? state_.unitSystem : options.units;
@@ -28,7 +28,7 @@ void Session::decode(const PartNumberOption& option) {
     std::string number = option.number;
     const std::string upper = upperCase(number);
     if (upper.size() >= 8 && upper[7] == 'Z') state_.bearing.zSeparatorChoice = option.zSeparator;
-    DecodeServices services{folder_, messages_, clock_, sheet_};
+    DecodeServices services{folder_, messages_, clock_, nullptr};
     const DecodeResult result = DecodePartNumber(state_, number, services);
     if (result.end == DecodeEnd::Decoded) return;
     if (!result.failed) failWithLastMessage();

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <filesystem>
 #include <string>
 
 #include "cli/CliPorts.h"
 #include "cli/Json.h"
+#include "documents/DataSheet.h"
 #include "state/ProgramFolder.h"
 #include "state/ProgramState.h"
 
@@ -12,7 +12,7 @@ namespace norlaplan::cli {
 
 /// The options before the command.
 struct GlobalOptions {
-    std::filesystem::path programFolder;
+    ProgramFolder programFolder{{}};
     std::string units;  ///< "US", "METRIC" or empty for those of the settings
     bool json = false;
 };
@@ -45,7 +45,12 @@ class Session {
     const ProgramFolder& folder() const { return folder_; }
     CollectedMessages& messages() { return messages_; }
     ClockPort& clock() { return clock_; }
-    const SheetFiles& sheet() const { return sheet_.sheet(); }
+    /// The data sheet of the decoded bearing, which a decode here doesn't make. Errors as those of
+    /// `makeDataSheet`.
+    SheetFiles sheet() { return makeDataSheet(state_, folder_, clock_); }
+
+    /// Whether the result goes out as JSON: the text for people is then not asked for.
+    bool asksForJson() const { return json_; }
 
     /// What the user is told besides the result: that the settings are damaged, then the program's messages.
     std::vector<Message> warnings() const;
@@ -60,10 +65,10 @@ class Session {
   private:
     ProgramState state_;
     ProgramFolder folder_;
+    bool json_ = false;
     std::vector<Message> startNotices_;
     CollectedMessages messages_;
     SystemClock clock_;
-    MemorySheet sheet_;
 };
 
 }  // namespace norlaplan::cli

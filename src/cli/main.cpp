@@ -6,8 +6,7 @@
 
 #include "cli/CommandError.h"
 #include "cli/CommandLine.h"
-#include "numbers/RuntimeError.h"
-#include "state/Patience.h"
+#include "cli/Interrupts.h"
 
 namespace norlaplan::cli {
 namespace {
@@ -36,27 +35,16 @@ void print(const Invocation& invocation, Session& session, CommandResult result)
 }
 
 void run(const Invocation& invocation) {
+    Session session(invocation.options);
+    CommandResult result;
     try {
-        Session session(invocation.options);
-        CommandResult result;
-        try {
-            result = invocation.command(session);
-        } catch (...) {
-            warn(session);
-            throw;
-        }
+        result = invocation.command(session);
+    } catch (...) {
         warn(session);
-        print(invocation, session, std::move(result));
-    } catch (const RuntimeError& error) {
-        throw CommandError(ErrorKind::Runtime, "Run-time error '" + std::to_string(error.number()) + "'",
-                           error.what(), error.number());
-    } catch (const NotConverging& error) {
-        throw CommandError(ErrorKind::Runtime, NotConverging::title(), error.what());
-    } catch (const CommandError&) {
         throw;
-    } catch (const std::exception& error) {
-        throw CommandError(ErrorKind::Runtime, "Unexpected error", error.what());
     }
+    warn(session);
+    print(invocation, session, std::move(result));
 }
 
 int report(const CommandError& error, bool json) {
@@ -79,9 +67,9 @@ int main(int argc, char** argv) {
         std::cout.flush();
         if (!std::cout) throw CommandError(ErrorKind::Runtime, "Run-time error '61'", "Disk full", 61);
         return 0;
-    } catch (const CommandError& error) {
-        return report(error, json);
-    } catch (const std::exception& error) {
-        return report(CommandError(ErrorKind::Runtime, "Unexpected error", error.what()), json);
+    } catch (const Interrupted& interrupted) {
+        interrupted.endProgram();
+    } catch (...) {
+        return report(currentError(), json);
     }
 }

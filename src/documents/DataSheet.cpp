@@ -84,6 +84,10 @@ SheetFiles makeDataSheet(const ProgramState& state, const ProgramFolder& folder,
     return {document.rtf(), document.records()};
 }
 
+void checkDataSheet(const BearingSpec& bearing, const ProgramFolder& folder) {
+    readOverlays(bearing, folder);
+}
+
 Document dataSheetDocument(const std::string& partNumber, std::string records,
                            std::function<std::string()> rtf) {
     Document document;

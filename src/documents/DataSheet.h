@@ -9,8 +9,12 @@
 namespace norlaplan {
 
 /// The technical data sheet of the current bearing, as an RTF document and as records. Errors: 53 for a
-/// missing overlay drawing.
+/// missing overlay drawing, 70 and 75 for one that can't be read.
 SheetFiles makeDataSheet(const ProgramState& state, const ProgramFolder& folder, ClockPort& clock);
+
+/// Raises what `makeDataSheet` would, and makes nothing: only the overlay drawings can be missing or
+/// unreadable, since every number on the sheet is a stored one, which is finite.
+void checkDataSheet(const BearingSpec& bearing, const ProgramFolder& folder);
 
 /// A data sheet as a document, from the records of its drawing and its RTF text. Drawing raises
 /// `BadSheetRecord`.

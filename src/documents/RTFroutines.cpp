@@ -1,6 +1,8 @@
 #include "documents/RTFroutines.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <utility>
@@ -42,31 +44,73 @@ int twipsY(double y) {
     return static_cast<int>(Int(kTwipsPerInch * (papers::kLetter.height - y)));
 }
 
-std::string word(const char* name, int value) {
-    return "\\" + std::string(name) + std::to_string(value);
-}
+/// Writes control words at the end of a text, in place: a sheet has a thousand shapes of fifty words each.
+class Words {
+  public:
+    explicit Words(std::string& rtf) : rtf_(rtf) {}
 
-std::string property(const char* name, long long value) {
-    return "{\\sp{\\sn " + std::string(name) + "}{\\sv " + std::to_string(value) + "}}";
-}
+    Words& text(std::string_view plain) {
+        rtf_ += plain;
+        return *this;
+    }
+    Words& word(std::string_view name, long long value) {
+        rtf_ += '\\';
+        rtf_ += name;
+        return number(value);
+    }
+    Words& property(std::string_view name, long long value) {
+        rtf_ += "{\\sp{\\sn ";
+        rtf_ += name;
+        rtf_ += "}{\\sv ";
+        number(value);
+        rtf_ += "}}";
+        return *this;
+    }
+    /// Three words: the stem with "r", "g" and "b" behind it.
+    Words& channels(std::string_view stem, Colour colour) {
+        unsigned shift = 0;
+        for (const char suffix : {'r', 'g', 'b'}) {
+            rtf_ += '\\';
+            rtf_ += stem;
+            rtf_ += suffix;
+            number(colour >> shift & 0xFFU);
+            shift += 8;
+        }
+        return *this;
+    }
+    Words& colour(const std::string& name) {
+        const SheetColour* const known = sheetColour(name);
+        return known == nullptr ? *this : word("cf", known->number);
+    }
+    /// Times is the document's own font.
+    Words& font(const std::string& name) {
+        const int number = sheetFont(name).number;
+        return number == 0 ? *this : word("f", number);
+    }
+    /// The old-format place of a shape.
+    Words& place(const PageBox& box) {
+        const int left = twipsX(box.left);
+        const int top = twipsY(box.top);
+        word("dpx", left).word("dpy", top).text("\r\n");
+        return word("dpxsize", twipsX(box.right) - left)
+            .word("dpysize", twipsY(box.bottom) - top)
+            .text("\r\n");
+    }
+    /// The head of the old-format fallback of shape n.
+    Words& fallback(int n) {
+        return text("{\\shprslt{\\*\\do\\dobxpage\\dobypage").word("dodhgt", n + kHeightBase).text("\r\n");
+    }
 
-std::string colourWord(const std::string& name) {
-    const SheetColour* const known = sheetColour(name);
-    return known == nullptr ? "" : word("cf", known->number);
-}
+  private:
+    Words& number(long long value) {
+        std::array<char, 24> digits{};
+        const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+        rtf_.append(digits.data(), end);
+        return *this;
+    }
 
-/// Times is the document's own font.
-std::string fontWord(const std::string& name) {
-    const int number = sheetFont(name).number;
-    return number == 0 ? "" : word("f", number);
-}
-
-std::string channels(const char* stem, Colour colour) {
-    const auto part = [&](const char* suffix, unsigned shift) {
-        return word((std::string(stem) + suffix).c_str(), static_cast<int>(colour >> shift & 0xFFU));
-    };
-    return part("r", 0) + part("g", 8) + part("b", 16);
-}
+    std::string& rtf_;
+};
 
 /// A text that is a hair wider than its box would break and vanish; the indent beyond the edge gives it room.
 const char* paragraphWords(Alignment alignment) {
@@ -84,16 +128,17 @@ const char* paragraphWords(Alignment alignment) {
 /// The text's run with its paragraph's end, without the closing of the groups around it.
 std::string run(const SheetText& text, Alignment alignment) {
     const int halfPoints = static_cast<int>(std::lround(text.size * 2.0));
-    std::string rtf = "\\pard\\plain ";
-    rtf += paragraphWords(alignment);
+    std::string rtf;
+    Words words(rtf);
+    words.text("\\pard\\plain ").text(paragraphWords(alignment));
     const double indent = labelIndent(text);
-    if (alignment == Alignment::Left && indent > 0.0)
-        rtf += word("li", -static_cast<int>(std::lround(indent * kTwipsPerInch)));
-    rtf += "\\widctlpar\\adjustright " + word("fs", halfPoints) + "\\cgrid {";
-    if (text.bold) rtf += "\\b";
-    rtf += colourWord(text.colour);
-    if (text.italic) rtf += "\\i";
-    return rtf + word("fs", halfPoints) + fontWord(text.font) + " " + rtfText(text.text) + "\\par }";
+    if (alignment == Alignment::Left && indent > 0.0) words.word("li", -std::lround(indent * kTwipsPerInch));
+    words.text("\\widctlpar\\adjustright ").word("fs", halfPoints).text("\\cgrid {");
+    if (text.bold) words.text("\\b");
+    words.colour(text.colour);
+    if (text.italic) words.text("\\i");
+    words.word("fs", halfPoints).font(text.font).text(" ").text(rtfText(text.text)).text("\\par }");
+    return rtf;
 }
 
 struct Character {
@@ -154,63 +199,59 @@ void RtfDocument::append(std::string_view line) {
     rtf_ += "\r\n";
 }
 
-void RtfDocument::record(const SheetRecord& record) {
-    records_ += recordText(record);
+void RtfDocument::endRecords() {
+    records_ += kRecordsEnd;
+    records_ += "\r\n";
+}
+
+template <typename Record>
+void RtfDocument::record(const Record& record) {
+    appendRecord(records_, record);
     ++shapeCounter_;
 }
 
-void RtfDocument::endRecords() {
-    records_ += std::string(kRecordsEnd) + "\r\n";
-}
-
-std::string RtfDocument::beginShape(const PageBox& box, int type, bool flip) {
+void RtfDocument::beginShape(const PageBox& box, int type, bool flip) {
     const int n = shapeCounter_;
-    std::string shape =
-        "{\\shp{\\*\\shpinst" + word("shpleft", twipsX(box.left)) + word("shptop", twipsY(box.top));
-    shape += "\r\n" + word("shpright", std::min(twipsX(box.right), kPageRight)) +
-             word("shpbottom", twipsY(box.bottom));
-    shape += "\r\n\\shpfhdr0\\shpbxpage\r\n\\shpbypage\r\n\\shpwr3\\shpwrk0\\shpfblwtxt0" + word("shpz", n);
-    shape += "\r\n" + word("shplid", n + kShapeIdBase) + "\r\n";
-    return shape + property("shapeType", type) + property("fFlipH", 0) + property("fFlipV", flip ? 1 : 0);
-}
-
-/// The head of the old-format fallback.
-static std::string beginFallback(int n) {
-    return "{\\shprslt{\\*\\do\\dobxpage\\dobypage" + word("dodhgt", n + kHeightBase) + "\r\n";
-}
-
-std::string RtfDocument::fallbackPlace(const PageBox& box) const {
-    const int left = twipsX(box.left);
-    const int top = twipsY(box.top);
-    return word("dpx", left) + word("dpy", top) + "\r\n" + word("dpxsize", twipsX(box.right) - left) +
-           word("dpysize", twipsY(box.bottom) - top) + "\r\n";
+    Words(rtf_)
+        .text("{\\shp{\\*\\shpinst")
+        .word("shpleft", twipsX(box.left))
+        .word("shptop", twipsY(box.top))
+        .text("\r\n")
+        .word("shpright", std::min(twipsX(box.right), kPageRight))
+        .word("shpbottom", twipsY(box.bottom))
+        .text("\r\n\\shpfhdr0\\shpbxpage\r\n\\shpbypage\r\n\\shpwr3\\shpwrk0\\shpfblwtxt0")
+        .word("shpz", n)
+        .text("\r\n")
+        .word("shplid", n + kShapeIdBase)
+        .text("\r\n")
+        .property("shapeType", type)
+        .property("fFlipH", 0)
+        .property("fFlipV", flip ? 1 : 0);
 }
 
 void RtfDocument::writeText(const SheetText& text, const Colour* fill, Alignment alignment) {
-    std::string shape = beginShape(text.box, 202, false);
-    shape += property("lTxid", static_cast<long long>(shapeCounter_ + 1) * kTextIdStep);
+    beginShape(text.box, 202, false);
+    Words words(rtf_);
+    words.property("lTxid", static_cast<long long>(shapeCounter_ + 1) * kTextIdStep);
     for (const char* const inset : {"dxTextLeft", "dyTextTop", "dxTextRight", "dyTextBottom"}) {
-        shape += property(inset, 0);
+        words.property(inset, 0);
     }
-    if (text.vertical) shape += property("txflTextFlow", fill == nullptr ? 2 : 3);
+    if (text.vertical) words.property("txflTextFlow", fill == nullptr ? 2 : 3);
     if (fill == nullptr) {
-        shape += property("fFilled", 0) + property("fLine", 0);
+        words.property("fFilled", 0).property("fLine", 0);
     } else {
         constexpr int kMiddle = 1;
-        shape += property("anchorText", kMiddle) + property("fillColor", *fill) + property("fFilled", 1);
+        words.property("anchorText", kMiddle).property("fillColor", *fill).property("fFilled", 1);
     }
     const std::string paragraph = run(text, alignment);
-    shape += "\r\n{\\shptxt " + paragraph + "}}\r\n";
-    shape += beginFallback(shapeCounter_) + "\\dptxbx{\\dptxbxtext" + paragraph + "}\r\n" +
-             fallbackPlace(text.box);
-    if (fill == nullptr) {
-        shape += channels("dpfillfgc", colours::kWhite) + channels("dpfillbgc", colours::kWhite) +
-                 "\\dpfillpat0\\dplinehollow}}}";
-    } else {
-        shape += channels("dpfillfgc", colours::kWhite) + channels("dpfillbgc", *fill) +
-                 "\\dpfillpat1\\dplinehollow\\dplinew15\\dplinecor0\\dplinecog0\\dplinecob0}}}";
-    }
-    append(shape);
+    words.text("\r\n{\\shptxt ").text(paragraph).text("}}\r\n").fallback(shapeCounter_);
+    words.text("\\dptxbx{\\dptxbxtext").text(paragraph).text("}\r\n").place(text.box);
+    words.channels("dpfillfgc", colours::kWhite)
+        .channels("dpfillbgc", fill == nullptr ? colours::kWhite : *fill);
+    words.text(fill == nullptr
+                   ? "\\dpfillpat0\\dplinehollow}}}"
+                   : "\\dpfillpat1\\dplinehollow\\dplinew15\\dplinecor0\\dplinecog0\\dplinecob0}}}");
+    words.text("\r\n");
 }
 
 void RtfDocument::RTFDATASHEETTEXT(const SheetText& text) {
@@ -238,26 +279,41 @@ void RtfDocument::RTFTEXTWBOX(const SheetTextBox& box) {
 void RtfDocument::RtfFill(const PageBox& place, Colour fill) {
     ++shapeCounter_;
     const PageBox box = kept(place);
-    std::string shape = beginShape(box, 1, false);
-    shape += property("fillColor", fill) + property("fFilled", 1) + property("fLine", 0) + "}\r\n";
-    shape += beginFallback(shapeCounter_) + "\\dprect\r\n" + fallbackPlace(box);
-    shape += channels("dpfillfgc", colours::kWhite) + channels("dpfillbgc", fill) +
-             "\\dpfillpat1\\dplinehollow}}}";
-    append(shape);
+    beginShape(box, 1, false);
+    Words(rtf_)
+        .property("fillColor", fill)
+        .property("fFilled", 1)
+        .property("fLine", 0)
+        .text("}\r\n")
+        .fallback(shapeCounter_)
+        .text("\\dprect\r\n")
+        .place(box)
+        .channels("dpfillfgc", colours::kWhite)
+        .channels("dpfillbgc", fill)
+        .text("\\dpfillpat1\\dplinehollow}}}\r\n");
 }
 
 void RtfDocument::TINTEDTTEXTBOX(const PageBox& place, Colour fore, Colour back) {
     const PageBox box = kept(place);
     record(SheetTint{box, fore});
-    std::string shape = beginShape(box, 202, false);
-    shape += property("lTxid", static_cast<long long>(shapeCounter_ + 1) * kTextIdStep);
-    shape += property("fillColor", fore) + property("fillBackColor", back) + property("fFilled", 1);
+    beginShape(box, 202, false);
     const std::string paragraph = run(SheetText{}, Alignment::Centre);
-    shape += "\r\n{\\shptxt " + paragraph + "}}\r\n" + beginFallback(shapeCounter_);
-    shape += "\\dptxbx{\\dptxbxtext" + paragraph + "}\r\n" + fallbackPlace(box);
-    shape += channels("dpfillfgc", back) + channels("dpfillbgc", fore) +
-             "\\dpfillpat1\\dplinew15\\dplinecor0\\dplinecog0\\dplinecob0}}}";
-    append(shape);
+    Words(rtf_)
+        .property("lTxid", static_cast<long long>(shapeCounter_ + 1) * kTextIdStep)
+        .property("fillColor", fore)
+        .property("fillBackColor", back)
+        .property("fFilled", 1)
+        .text("\r\n{\\shptxt ")
+        .text(paragraph)
+        .text("}}\r\n")
+        .fallback(shapeCounter_)
+        .text("\\dptxbx{\\dptxbxtext")
+        .text(paragraph)
+        .text("}\r\n")
+        .place(box)
+        .channels("dpfillfgc", back)
+        .channels("dpfillbgc", fore)
+        .text("\\dpfillpat1\\dplinew15\\dplinecor0\\dplinecog0\\dplinecob0}}}\r\n");
 }
 
 void RtfDocument::writeLine(const SheetLine& line) {
@@ -267,20 +323,23 @@ void RtfDocument::writeLine(const SheetLine& line) {
     // On paper y grows upward: a line that rises to the right runs from the lower left to the upper right.
     const bool rises = to.y > from.y;
     const PageBox box{from.x, std::max(from.y, to.y), to.x, std::min(from.y, to.y)};
-    std::string shape = beginShape(box, 20, rises);
-    shape += property("shapePath", 4) + property("fFillOK", 0) + property("fFilled", 0) +
-             property("fArrowheadsOK", 1) + property("lineColor", line.colour) +
-             property("lineWidth", std::lround(line.width)) + property("fLine", 1) +
-             property("fLayoutInCell", 1);
-    if (line.dataSheet) shape += property("lineDashing", line.dash);
+    beginShape(box, 20, rises);
+    Words words(rtf_);
+    words.property("shapePath", 4)
+        .property("fFillOK", 0)
+        .property("fFilled", 0)
+        .property("fArrowheadsOK", 1)
+        .property("lineColor", line.colour)
+        .property("lineWidth", std::lround(line.width))
+        .property("fLine", 1)
+        .property("fLayoutInCell", 1);
+    if (line.dataSheet) words.property("lineDashing", line.dash);
     const int dx = twipsX(box.right) - twipsX(box.left);
     const int dy = twipsY(box.bottom) - twipsY(box.top);
-    shape += "}\r\n" + beginFallback(shapeCounter_) + "\\dpline";
-    shape += word("dpptx", 0) + word("dppty", rises ? dy : 0) + word("dpptx", dx) +
-             word("dppty", rises ? 0 : dy) + "\r\n" + fallbackPlace(box);
-    shape += word("dplinew", static_cast<int>(std::lround(line.width / 635.0))) +
-             channels("dplineco", line.colour) + "}}}";
-    append(shape);
+    words.text("}\r\n").fallback(shapeCounter_).text("\\dpline");
+    words.word("dpptx", 0).word("dppty", rises ? dy : 0).word("dpptx", dx).word("dppty", rises ? 0 : dy);
+    words.text("\r\n").place(box).word("dplinew", std::lround(line.width / 635.0));
+    words.channels("dplineco", line.colour).text("}}}\r\n");
 }
 
 void RtfDocument::RTFLINE(PagePoint from, PagePoint to, Colour colour, double width) {
@@ -300,13 +359,20 @@ void RtfDocument::RTFCIRCLE(PagePoint place, double size, Colour colour, double 
     const double radius = kept(size);
     record(SheetCircle{centre, radius, colour, width});
     const PageBox box{centre.x - radius, centre.y + radius, centre.x + radius, centre.y - radius};
-    std::string shape = beginShape(box, 3, false);
-    shape += property("fFilled", 0) + property("lineColor", colour) +
-             property("lineWidth", std::lround(width)) + property("fline", 1) + "}\r\n";
-    shape += beginFallback(shapeCounter_) + "\\dpellipse\r\n" + fallbackPlace(box);
-    shape += "\\dpfillpat0" + word("dplinew", static_cast<int>(std::lround(width / 635.0))) +
-             channels("dplineco", colour) + "}}}";
-    append(shape);
+    beginShape(box, 3, false);
+    Words(rtf_)
+        .property("fFilled", 0)
+        .property("lineColor", colour)
+        .property("lineWidth", std::lround(width))
+        .property("fline", 1)
+        .text("}\r\n")
+        .fallback(shapeCounter_)
+        .text("\\dpellipse\r\n")
+        .place(box)
+        .text("\\dpfillpat0")
+        .word("dplinew", std::lround(width / 635.0))
+        .channels("dplineco", colour)
+        .text("}}}\r\n");
 }
 
 }  // namespace norlaplan

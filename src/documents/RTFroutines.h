@@ -48,12 +48,12 @@ class RtfDocument {
     void endRecords();
 
   private:
-    void record(const SheetRecord& record);
+    template <typename Record>
+    void record(const Record& record);
     void writePicture(int shapeId);
-    std::string beginShape(const PageBox& box, int type, bool flip);
+    void beginShape(const PageBox& box, int type, bool flip);
     void writeText(const SheetText& text, const Colour* fill, Alignment alignment = Alignment::Left);
     void writeLine(const SheetLine& line);
-    std::string fallbackPlace(const PageBox& box) const;
 
     std::string rtf_, records_;
     int shapeCounter_ = 0;

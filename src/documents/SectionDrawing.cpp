@@ -66,10 +66,16 @@ void drawField(Canvas& canvas, const std::vector<SheetRecord>& records, const Pa
 
 }  // namespace
 
+Overlays readOverlays(const BearingSpec& bearing, const ProgramFolder& folder) {
+    return {folder.read("\\overlays\\" + bearing.styleLetter + ".ovl"),
+            folder.read("\\overlays\\" + bearing.separatorOverlay + separatorSuffix(bearing.styleLetter) +
+                        ".sep")};
+}
+
 void writeOverlays(RtfDocument& document, const BearingSpec& bearing, const ProgramFolder& folder) {
-    OverlayToRtf(document, folder.read("\\overlays\\" + bearing.styleLetter + ".ovl"));
-    OverlayToRtf(document, folder.read("\\overlays\\" + bearing.separatorOverlay +
-                                       separatorSuffix(bearing.styleLetter) + ".sep"));
+    const Overlays overlays = readOverlays(bearing, folder);
+    OverlayToRtf(document, overlays.section);
+    OverlayToRtf(document, overlays.separator);
 }
 
 void drawSection(Canvas& canvas, const BearingSpec& bearing, const ProgramFolder& folder, PagePoint centre) {

@@ -1,13 +1,24 @@
 #pragma once
 
+#include <string>
+
 #include "documents/RTFroutines.h"
 #include "state/BearingSpec.h"
 #include "state/ProgramFolder.h"
 
 namespace norlaplan {
 
+/// The plots of a bearing's data sheet, HP-GL.
+struct Overlays {
+    std::string section, separator;
+};
+
+/// The plots of the bearing's style and of its separator. Errors: 53 for one that is missing, 70 and 75 for
+/// one that can't be read.
+Overlays readOverlays(const BearingSpec& bearing, const ProgramFolder& folder);
+
 /// Writes the drawing of the bearing's style and that of its separator as they stand on the data sheet, from
-/// the program's overlays. Error 53 for one that is missing.
+/// the program's overlays. Errors as those of `readOverlays`.
 void writeOverlays(RtfDocument& document, const BearingSpec& bearing, const ProgramFolder& folder);
 
 /// Height of what `drawSection` draws, inches.

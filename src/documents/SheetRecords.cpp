@@ -1,6 +1,8 @@
 #include "documents/SheetRecords.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <optional>
 
 #include "numbers/Text.h"
@@ -11,29 +13,43 @@ namespace {
 constexpr std::size_t kZone = 14;
 constexpr std::size_t kLongestText = 4000;
 
-/// Writes fields in print zones: the next one starts at the next multiple of 14 columns.
+/// Writes fields in print zones behind a text, in place: the next one starts at the next multiple of 14
+/// columns of its line.
 class FieldWriter {
   public:
-    void field(double& value) { put(shortestText(value)); }
-    void field(Colour& value) { put(std::to_string(value)); }
-    void field(int& value) { put(std::to_string(value)); }
-    void field(bool& value) { put(value ? "True" : "False"); }
-    void field(std::string& value) {
-        std::string quoted = "\"";
-        for (const char c : value) {
-            if (c == '"') quoted += c;
-            quoted += c == '\n' || c == '\r' ? ' ' : c;
-        }
-        put(quoted + "\"");
+    explicit FieldWriter(std::string& text) : text_(text), line_(text.size()) {}
+
+    void field(double value) { number(value); }
+    void field(Colour value) { number(value); }
+    void field(int value) { number(value); }
+    void field(bool value) {
+        toZone();
+        text_ += value ? "True" : "False";
     }
-    std::string line() const { return line_; }
+    void field(const std::string& value) {
+        toZone();
+        text_ += '"';
+        for (const char c : value) {
+            if (c == '"') text_ += c;
+            text_ += c == '\n' || c == '\r' ? ' ' : c;
+        }
+        text_ += '"';
+    }
 
   private:
-    void put(const std::string& text) {
-        if (!line_.empty()) line_.append(kZone - line_.size() % kZone, ' ');
-        line_ += text;
+    void toZone() {
+        const std::size_t columns = text_.size() - line_;
+        if (columns != 0) text_.append(kZone - columns % kZone, ' ');
     }
-    std::string line_;
+    template <typename Number>
+    void number(Number value) {
+        toZone();
+        std::array<char, 32> digits{};
+        text_.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr);
+    }
+
+    std::string& text_;
+    std::size_t line_;  ///< where the line begins
 };
 
 /// Reads the same fields back.
@@ -185,6 +201,15 @@ std::optional<SheetRecord> recordOf(std::string_view keyword) {
     return std::nullopt;
 }
 
+template <typename Record>
+void append(std::string& text, Record record) {
+    text += keywordOf(record);
+    text += "\r\n";
+    FieldWriter fields(text);
+    walk(record, fields);
+    text += "\r\n";
+}
+
 std::string_view takeLine(std::string_view& text) {
     const std::size_t end = std::min(text.find('\n'), text.size());
     std::string_view line = text.substr(0, end);
@@ -203,14 +228,20 @@ double labelIndent(const SheetText& text) {
 BadSheetRecord::BadSheetRecord(const std::string& line)
     : std::runtime_error("The drawing of the data sheet holds a line that it can't mean: " + line) {}
 
-std::string recordText(const SheetRecord& record) {
-    return std::visit(
-        [](auto copy) {
-            FieldWriter fields;
-            walk(copy, fields);
-            return std::string(keywordOf(copy)) + "\r\n" + fields.line() + "\r\n";
-        },
-        record);
+void appendRecord(std::string& text, const SheetText& record) {
+    append(text, record);
+}
+void appendRecord(std::string& text, const SheetTextBox& record) {
+    append(text, record);
+}
+void appendRecord(std::string& text, const SheetTint& record) {
+    append(text, record);
+}
+void appendRecord(std::string& text, const SheetLine& record) {
+    append(text, record);
+}
+void appendRecord(std::string& text, const SheetCircle& record) {
+    append(text, record);
 }
 
 std::vector<SheetRecord> readSheetRecords(std::string_view text) {

@@ -59,8 +59,12 @@ class BadSheetRecord : public std::runtime_error {
     explicit BadSheetRecord(const std::string& line);
 };
 
-/// The record's two lines: its keyword, and its fields in print zones of 14 columns.
-std::string recordText(const SheetRecord& record);
+/// Writes the record's two lines behind the text: its keyword, and its fields in print zones of 14 columns.
+void appendRecord(std::string& text, const SheetText& record);
+void appendRecord(std::string& text, const SheetTextBox& record);
+void appendRecord(std::string& text, const SheetTint& record);
+void appendRecord(std::string& text, const SheetLine& record);
+void appendRecord(std::string& text, const SheetCircle& record);
 
 /// The records of a side file up to its last line or its end. Error: `BadSheetRecord`.
 std::vector<SheetRecord> readSheetRecords(std::string_view text);

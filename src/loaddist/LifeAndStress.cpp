@@ -1,7 +1,9 @@
 #include "loaddist/LifeAndStress.h"
 
 #include <cmath>
+#include <cstddef>
 
+#include "loaddist/RoundedPowers.h"
 #include "numbers/Arithmetic.h"
 #include "numbers/PiValue.h"
 
@@ -11,7 +13,6 @@ namespace {
 constexpr double kNewtonsPerPound = 4.448;
 constexpr double kMpaPerPsi = 0.006895;
 constexpr double kMillimetresPerInch = 25.4;
-constexpr double kTenThirds = 10.0 / 3.0;
 
 /// Semi-major axis per cube root of the load, after Hertz: a^3 = 3 kappa^2 E Q S / (pi R) with the elastic
 /// sum S and the curvature sum R (Harris, Rolling Bearing Analysis, contact stress and deformation).
@@ -20,7 +21,7 @@ double ellipseFactor(double elasticSum, double E, double kappaSq, double curvatu
 }
 
 /// The ball's ellipses and its largest Hertz stress, 3 Q / (2 pi a b).
-void stressOfBall(SolverState& state, int row, int ball) {
+void stressOfBall(SolverState& state, int row, int ball, const RoundedPowers& powers) {
     const double Q = state.BallLoad(row, ball);
     if (Q == 0.0) {
         // The axes keep what the last solve left there.
@@ -28,38 +29,46 @@ void stressOfBall(SolverState& state, int row, int ball) {
         state.OuterStress(row, ball) = 0.0;
         return;
     }
-    const double root = power(Q, kOneThird);
     Single& innerMajor = state.InnerSemiMajor(row, ball);
     Single& innerMinor = state.InnerSemiMinor(row, ball);
-    innerMajor = root * state.InnerEllipseFactor;
+    innerMajor = powers.rootTimes(ball, state.InnerEllipseFactor);
     innerMinor = divide(innerMajor, state.InnerKappa);
     state.InnerStress(row, ball) = divide(Q * 1.5, (innerMajor * PiValue) * innerMinor);
     Single& outerMajor = state.OuterSemiMajor(row, ball);
     Single& outerMinor = state.OuterSemiMinor(row, ball);
-    outerMajor = root * state.OuterEllipseFactor;
+    outerMajor = powers.rootTimes(ball, state.OuterEllipseFactor);
     outerMinor = divide(outerMajor, state.OuterKappa);
     state.OuterStress(row, ball) = divide(Q * 1.5, (outerMajor * PiValue) * outerMinor);
 }
 
-/// Sum of the row's loads to a power; it runs in 32 bits.
-Single sumOfPowers(const SolverState& state, int row, double exponent) {
-    Single sum = 0.0;
+/// Sums over the loads of a row, in 32 bits.
+struct RowSums {
+    Single cubes, tenThirds;
+};
+
+RowSums sumsOfPowers(const SolverState& state, int row, const RoundedPowers& powers) {
+    RowSums sums;
     for (int ball = 1; ball <= state.BallCount; ++ball) {
         // Half of the balls and more carry nothing, and nothing adds nothing.
-        if (state.BallLoad(row, ball) != 0.0) sum += power(state.BallLoad(row, ball), exponent);
+        if (state.BallLoad(row, ball) != 0.0) sums.cubes = powers.cubeOnto(sums.cubes, ball);
     }
-    return sum;
+    for (int ball = 1; ball <= state.BallCount; ++ball) {
+        if (state.BallLoad(row, ball) != 0.0) sums.tenThirds = powers.tenThirdsOnto(sums.tenThirds, ball);
+    }
+    return sums;
 }
 
 /// Lundberg and Palmgren's mean loads of the balls of a row: the cube mean for the ring that turns, for the
 /// ring that stands still the mean with exponent 3 e = 10/3, where e = 10/9 is the Weibull slope of point
 /// contact.
-void meanLoads(SolverState& state) {
+void meanLoads(SolverState& state, const RoundedPowers& one, const RoundedPowers& two) {
     const double Z = state.BallCount;
-    state.RmcRow1 = power(divide(sumOfPowers(state, 1, 3.0), Z), kOneThird);
-    state.RmcRow2 = power(divide(sumOfPowers(state, 2, 3.0), Z), kOneThird);
-    state.MeanRow1 = power(divide(sumOfPowers(state, 1, kTenThirds), Z), 0.3);
-    state.MeanRow2 = power(divide(sumOfPowers(state, 2, kTenThirds), Z), 0.3);
+    const RowSums first = sumsOfPowers(state, 1, one);
+    const RowSums second = sumsOfPowers(state, 2, two);
+    state.RmcRow1 = power(divide(first.cubes, Z), kOneThird);
+    state.RmcRow2 = power(divide(second.cubes, Z), kOneThird);
+    state.MeanRow1 = power(divide(first.tenThirds, Z), 0.3);
+    state.MeanRow2 = power(divide(second.tenThirds, Z), 0.3);
     state.RmcRow1Newtons = state.RmcRow1 * kNewtonsPerPound;
     state.RmcRow2Newtons = state.RmcRow2 * kNewtonsPerPound;
 }
@@ -152,11 +161,14 @@ void LifeAndStress(SolverState& state) {
         ellipseFactor(state.ElasticSum, state.InnerE, state.InnerKappaSq, state.InnerCurvatureSum);
     state.OuterEllipseFactor =
         ellipseFactor(state.ElasticSum, state.OuterE, state.OuterKappaSq, state.OuterCurvatureSum);
+    const auto balls = static_cast<std::size_t>(state.BallCount);
+    const RoundedPowers one(state.BallLoad.row(1), balls);
+    const RoundedPowers two(state.BallLoad.row(2), balls);
     for (int row = 1; row <= state.RowCount; ++row) {
         for (int ball = 1; ball <= state.BallCount; ++ball)
-            stressOfBall(state, row, ball);
+            stressOfBall(state, row, ball, row == 1 ? one : two);
     }
-    meanLoads(state);
+    meanLoads(state, one, two);
     dynamicCapacities(state);
     lives(state);
     // 4200 MPa, the contact stress of the basic static load rating of radial ball bearings in ISO 76.

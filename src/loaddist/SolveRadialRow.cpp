@@ -14,7 +14,7 @@ namespace {
 
 constexpr double kTolerance = 0.000001;
 
-void prepare(SolverState& state, const SolveArguments& arguments, MessagePort& messages) {
+void prepare(SolverState& state, const SolveArguments& arguments) {
     takeArguments(state, arguments);
     state.RatingFactor = 7080.0;
     state.RowCount = 1;
@@ -29,7 +29,7 @@ void prepare(SolverState& state, const SolveArguments& arguments, MessagePort& m
     state.MomentLoad = 0.0;
     ResetAnalysis(state);
     state.ForceZeroAngle = 1;
-    ContactConstants(state, messages);
+    ContactConstants(state);
     state.ForceZeroAngle = 0;
 }
 
@@ -110,7 +110,7 @@ bool newtonStep(RadialSearch& search, const Sums& sums, double residual) {
 
 SolveResult SolveRadialRow(ProgramState& state, const SolveArguments& arguments, MessagePort& messages) {
     SolverState& solver = state.solver;
-    prepare(solver, arguments, messages);
+    prepare(solver, arguments);
     const double F = solver.RadialLoad;
     solver.BallSpacing = divide(TwoPiValue, solver.BallCount);
     const std::vector<double> cosines = ballCosines(solver.BallCount, solver.BallSpacing);

@@ -19,6 +19,8 @@ std::string runtimeErrorText(int number) {
             return "Division by zero";
         case fault::kTypeMismatch:
             return "Type mismatch";
+        case fault::kBadFileName:
+            return "Bad file name or number";
         case fault::kFileNotFound:
             return "File not found";
         case fault::kDeviceIo:
@@ -31,10 +33,14 @@ std::string runtimeErrorText(int number) {
             return "Permission denied";
         case fault::kPathAccess:
             return "Path/File access error";
+        case fault::kPathNotFound:
+            return "Path not found";
         case fault::kNoSuchProgram:
             return "ActiveX component can't create object";
         case fault::kAutomation:
             return "Automation error";
+        case fault::kInvalidPicture:
+            return "Invalid picture";
         default:
             return "Application-defined or object-defined error";
     }

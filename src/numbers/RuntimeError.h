@@ -25,14 +25,17 @@ constexpr int kOverflow = 6;
 constexpr int kSubscript = 9;
 constexpr int kDivisionByZero = 11;
 constexpr int kTypeMismatch = 13;
+constexpr int kBadFileName = 52;
 constexpr int kFileNotFound = 53;
 constexpr int kDeviceIo = 57;
 constexpr int kDiskFull = 61;
 constexpr int kPastEnd = 62;
 constexpr int kPermissionDenied = 70;
 constexpr int kPathAccess = 75;
+constexpr int kPathNotFound = 76;
 constexpr int kNoSuchProgram = 429;  ///< another program that is to work for this one can't be reached
 constexpr int kAutomation = 440;     ///< it was reached and failed
+constexpr int kInvalidPicture = 481;
 }  // namespace fault
 
 /// The classic text of a fault number, for example "Division by zero" for 11.

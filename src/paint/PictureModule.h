@@ -6,8 +6,10 @@
 
 namespace norlaplan {
 
-/// File name of the module, beside the program, and the name of its one entry.
+/// File name of the module, which lies beside the program, or in this folder seen from there when it is
+/// installed; and the name of its one entry.
 constexpr const char* kPictureModule = "norlaplan-paint.so";
+constexpr const char* kInstalledModules = "../lib/norlaplan-mm/modules";
 constexpr const char* kPictureEntry = "norlaplanSavePicture";
 
 /// Draws on pages of this size by calling `draw(context, canvas)` and saves the picture as `savePicture`

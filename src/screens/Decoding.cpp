@@ -7,7 +7,7 @@ namespace norlaplan {
 
 DecodeEnd decodeBearing(Screens& screens, std::string number) {
     const Services& services = screens.services();
-    DecodeServices decode{services.folder, services.messages, services.clock, services.sheets};
+    DecodeServices decode{services.folder, services.messages, services.clock, &services.sheets};
     const BusyPointer busy;
     const DecodeEnd end = DecodePartNumber(services.state, number, decode).end;
     if (end == DecodeEnd::BackToEntry) {

@@ -34,7 +34,7 @@ void printDocument(const Services& services, const Document& document) {
 std::optional<std::filesystem::path> saveDocument(const Services& services, const Document& document,
                                                   const RtfSaver& saveRtf) {
     const SaveRequest request{document.saveTitle, filtersOf(document), document.defaultExtension,
-                              services.folder.find(document.folder), document.fileName};
+                              services.folder.toSaveIn(document.folder), document.fileName};
     const std::optional<SaveChoice> choice = services.saveDialog.askWhereToSave(request);
     if (!choice) return std::nullopt;
     const BusyPointer busy;

@@ -11,8 +11,10 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "help/HelpTopics.h"
 #include "screens/Accelerators.h"
 #include "screens/FlowRow.h"
+#include "screens/Form20.h"
 #include "screens/FormBuilder.h"
 #include "screens/SavedLine.h"
 #include "screens/Screens.h"
@@ -172,6 +174,10 @@ void Form::orderTabs() {
     }
 }
 
+void Form::helpAsked() {
+    if (const auto topic = topicOfScreen(objectName().toStdString())) showHelpTopic(screens_, *topic);
+}
+
 void Form::closed() {
     screens_.hide(*this);
 }
@@ -203,11 +209,14 @@ void Form::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Enter:
             if (onButton)
                 static_cast<QAbstractButton*>(focus)->click();
-            else if (main_ != nullptr)
+            else if (main_ != nullptr && !main_->isHidden())
                 main_->click();
             return;
         case Qt::Key_Escape:
             run("Close", [this] { escaped(); });
+            return;
+        case Qt::Key_F1:
+            run("Help", [this] { helpAsked(); });
             return;
         case Qt::Key_PageUp:
         case Qt::Key_PageDown:

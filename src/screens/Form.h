@@ -37,6 +37,9 @@ class Form : public QWidget {
     /// says otherwise.
     virtual void cameBack() {}
 
+    /// What the F1 key does: the help topic of this form, over it.
+    virtual void helpAsked();
+
     /// What closing the window does; unless a form says otherwise it goes back to the one before.
     virtual void closed();
 

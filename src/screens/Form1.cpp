@@ -107,6 +107,11 @@ void Form1::showWarranty() {
     showText(screens(), "\\help\\warranty.rtf", "Warranty", "Exit Warranty");
 }
 
+void Form1::helpAsked() {
+    timer_->stop();
+    Form::helpAsked();
+}
+
 void Form1::closed() {
     screens().quit();
 }

@@ -18,6 +18,8 @@ class Form1 : public Form {
     void dressForNedGrove();
 
     void closed() override;
+    /// Who reads the help isn't taken to the main menu meanwhile.
+    void helpAsked() override;
 
   protected:
     /// There is nothing to go back to, and Escape doesn't end the program.

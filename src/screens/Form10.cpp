@@ -20,6 +20,7 @@
 #include "screens/SideTabs.h"
 #include "screens/Theme.h"
 #include "state/Settings.h"
+#include "state/StagedFile.h"
 #include "state/UnsavedApplication.h"
 #include "state/WholeFile.h"
 
@@ -256,8 +257,7 @@ void Form10::saveWithData(const std::filesystem::path& path) {
     // Neither is replaced before both are written.
     StagedFile document(path, applicationRtf(state(), services().clock));
     StagedFile dataFile(applicationFilePath(path.string()), applicationFile(state()));
-    document.commit();
-    dataFile.commit();
+    commitTogether(document, dataFile);
     state().application.unsaved = false;
 }
 

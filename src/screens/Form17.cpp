@@ -113,7 +113,7 @@ void Form17::save() {
 }
 
 void Form17::moveSheet(const std::filesystem::path& path) {
-    const std::filesystem::path sheet = services().folder.find(kSheetFile);
+    const std::filesystem::path sheet = services().folder.own(kSheetFile);
     if (!std::filesystem::exists(sheet) && !movedTo_.empty()) {
         throw RuntimeError(fault::kFileNotFound,
                            runtimeErrorText(fault::kFileNotFound) + "\n\nThe data sheet was moved to " +

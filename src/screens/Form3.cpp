@@ -14,6 +14,7 @@
 #include "screens/Screens.h"
 #include "screens/StepMark.h"
 #include "screens/Theme.h"
+#include "screens/Training.h"
 #include "state/MenuConditions.h"
 #include "state/NewBearing.h"
 #include "state/StepValues.h"
@@ -160,7 +161,7 @@ void Form3::openIntroduction() {
 }
 
 void Form3::openTraining() {
-    services().messages.show(notInThisVersion(forms::kTraining));
+    training_->start();
 }
 
 void Form3::openApplicationForm() {
@@ -191,7 +192,7 @@ void Form3::exportBearing() {
     const SaveRequest request{"Save Brimhall .qlx File",
                               {{"Brimhall Files (*.qlx)", "*.qlx"}},
                               "qlx",
-                              services().folder.find("\\save"),
+                              services().folder.toSaveIn("\\save"),
                               state().bearing.partNumber + ".qlx"};
     const std::optional<SaveChoice> choice = services().saveDialog.askWhereToSave(request);
     // The file is made under the name as it comes back, and with no name it can't be.
@@ -213,7 +214,7 @@ void Form3::exitProgram() {
     for (const char* const file : {"\\condensed.dat", "\\data.rtf"}) {
         // A file that can't be deleted doesn't keep the user from leaving.
         std::error_code ignored;
-        std::filesystem::remove(services().folder.find(file), ignored);
+        std::filesystem::remove(services().folder.own(file), ignored);
     }
     screens().quit();
 }

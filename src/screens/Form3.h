@@ -12,6 +12,7 @@ class QPushButton;
 namespace norlaplan {
 
 class StepMark;
+class Training;
 
 /// The main menu: the hub from which every screen is opened and to which every one returns.
 class Form3 : public Form {
@@ -89,6 +90,7 @@ class Form3 : public Form {
     QLabel* searchMark_;
     QPushButton *modelNumber_, *style_, *thermalFits_, *faxCover_, *nedsPictures_;
     QAction* export_;
+    Training* training_;
 };
 
 }  // namespace norlaplan

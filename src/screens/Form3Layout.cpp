@@ -5,13 +5,16 @@
 #include <QPushButton>
 #include <vector>
 
+#include "help/ProductLines.h"
 #include "screens/Accelerators.h"
 #include "screens/Form2.h"
 #include "screens/Form3.h"
+#include "screens/Form7.h"
 #include "screens/FormBuilder.h"
 #include "screens/Screens.h"
 #include "screens/StepMark.h"
 #include "screens/Theme.h"
+#include "screens/Training.h"
 
 namespace norlaplan {
 namespace {
@@ -170,7 +173,7 @@ QWidget* Form3::makeKnownPath() {
 }
 
 QWidget* Form3::makeSearchPath() {
-    const PathPanel path = makePathPanel("SearchPath", "Search the catalogue", "Label2");
+    const PathPanel path = makePathPanel("SearchPath", "Search the catalog", "Label2");
     searchMark_ = path.mark;
     QGridLayout& grid = *path.grid;
     style_ = makeButton("Command4", "Set Style", "Select any of 6 bearing styles", &Form3::openStyle);
@@ -198,8 +201,10 @@ QWidget* Form3::makeFoot() {
     auto* const foot = new QWidget;
     auto* const row = theme::spaced(new QHBoxLayout(foot), 0);
     row->addWidget(makeButton("Command1", "Introduction", "Software Introduction", &Form3::openIntroduction));
-    row->addWidget(
-        makeButton("Command2", "Bearing Training", "View Power Point Presentation", &Form3::openTraining));
+    QPushButton* const training =
+        makeButton("Command2", "Bearing Training", "View Power Point Presentation", &Form3::openTraining);
+    training_ = new Training(screens(), *training);
+    row->addWidget(training);
     row->addWidget(makeButton("Command3", "Application Form", "Fill out Application form to send to Varden",
                               &Form3::openApplicationForm));
     faxCover_ = makeButton("Command16", "Fax Cover Page", "Print out Fax Cover Page", &Form3::openFaxCover);
@@ -239,13 +244,15 @@ QMenuBar* Form3::makeMenus() {
     addAction(settings, "userinfo", "User Info", [this] { screens().show(forms::kUserInfo); });
 
     QMenu& types = *bar->addMenu("&Bearing Types");
-    for (const char* const line :
-         {"Metric Series", "Inch Series Thin Section", "Slewing Rings", "Crossed Rollers", "Custom"})
-        addAction(types, line, line, [this] { screens().show(forms::kProductPage); });
+    for (const std::string& line : productLineNames(services().folder))
+        addAction(types, line.c_str(), QString::fromStdString(line),
+                  [this, line] { showProductLine(screens(), line); });
 
     QMenu& more = *bar->addMenu("&Additional Information");
     // There is no catalogue to fetch: the item does nothing.
     more.addAction("Download Catalog")->setObjectName("Catalog");
+    addAction(more, "CatalogIntroduction", "Catalog Introduction",
+              [this] { screens().show(forms::kCatalogPages); });
     addAction(more, "DistributorInformation", "Distributor Information", [this] {
         showText(this->screens(), "\\help\\Distributor.rtf", "Varden Distributor Information",
                  "Exit Distributor Information");

@@ -3,15 +3,12 @@
 #include <memory>
 #include <span>
 #include <string>
-
-#include "state/Ports.h"
-
 namespace norlaplan {
 
 class Form;
 class Screens;
 
-/// The name of a form or action, as the program's users know it ("Form9"). Navigation goes by the constants
+/// The name of a form, as the program's users know it ("Form9"). Navigation goes by the constants
 /// below; a bare text isn't taken.
 struct FormName {
     explicit constexpr FormName(const char* name) : text(name) {}
@@ -57,23 +54,17 @@ inline constexpr FormName kBallResults{"lodestarform"};
 inline constexpr FormName kBallLoadGraph{"tlodestarballloads"};
 inline constexpr FormName kTrainingShow{"form5"};
 
-// Actions that open no form.
-inline constexpr FormName kTraining{"Training"};
-
 }  // namespace forms
 
-/// What there is to know of a form or action before it is made.
+/// What there is to know of a form before it is made.
 struct FormEntry {
     FormName name;
-    const char* plainName;                        ///< what a message calls it: "The load screen"
-    std::unique_ptr<Form> (*make)(Screens& all);  ///< none when this version of the program doesn't have it
+    const char* plainName;  ///< what people call it: "The load screen"
+    std::unique_ptr<Form> (*make)(Screens& all);
 };
 
-/// Every form and action of the program, in the order of their names, whether this version has it or not.
+/// Every form of the program, in the order of their names.
 std::span<const FormEntry> formRegistry();
-
-/// The plain sentence for a form or action that this version of the program doesn't have.
-Message notInThisVersion(const std::string& name);
 
 /// Makes all forms of the program known to the navigator.
 void addForms(Screens& screens);

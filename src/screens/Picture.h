@@ -1,12 +1,19 @@
 #pragma once
 
+#include <QIcon>
 #include <QPixmap>
 #include <QWidget>
+#include <filesystem>
 #include <string>
 
 #include "state/ProgramFolder.h"
 
 namespace norlaplan {
+
+/// The picture of a file. Errors: 53 when it is missing, 481 when it is no picture; they name the file.
+QPixmap readPicture(const std::filesystem::path& file);
+/// The same in all the sizes that the file has.
+QIcon readIcon(const std::filesystem::path& file);
 
 /// A drawing of the program folder on white, scaled to the room it has and never beyond its own sharpness.
 /// A picture that is missing says so in its place.
@@ -17,6 +24,9 @@ class Picture : public QWidget {
 
     /// Shows "\bkground\X-L.BMP" and the like.
     void showFile(const ProgramFolder& folder, const std::string& file);
+    /// Shows a picture that must be there, or none. Errors as `readPicture`, which leave none.
+    void showStated(const std::filesystem::path& file);
+    void showNothing();
 
     QSize sizeHint() const override { return preferred_; }
     QSize minimumSizeHint() const override { return preferred_ / 2; }

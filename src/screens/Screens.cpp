@@ -46,23 +46,15 @@ Form& Screens::form(const std::string& name) {
     return *form;
 }
 
-bool Screens::isMissing(FormName name) {
-    if (knows(name)) return false;
-    services_.messages.show(notInThisVersion(name));
-    return true;
-}
-
 void Screens::show(FormName name) {
-    if (isMissing(name)) return;
     activate(openUpTo(open_, form(name)));
 }
 
 void Screens::showAlone(FormName name) {
-    if (!isMissing(name)) activate({&form(name)});
+    activate({&form(name)});
 }
 
 void Screens::showInstead(const Form& left, FormName name) {
-    if (isMissing(name)) return;
     Pile pile = open_;
     std::erase(pile, &left);
     activate(openUpTo(std::move(pile), form(name)));

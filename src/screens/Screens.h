@@ -27,7 +27,6 @@ class Screens {
 
     /// Makes a form known under its name ("Form9"); nothing is built yet.
     void add(const std::string& name, Maker maker);
-    bool knows(const std::string& name) const { return makers_.contains(name); }
 
     /// The form, made now when it isn't there yet. The name must be known.
     Form& form(const std::string& name);
@@ -37,7 +36,7 @@ class Screens {
     }
 
     /// Brings a form to the front, centred; a form that was open already comes back and what was over it
-    /// closes. A form that this version of the program doesn't have is said so in one sentence.
+    /// closes.
     void show(FormName name);
     /// As `show`, in place of everything that is open.
     void showAlone(FormName name);
@@ -57,7 +56,6 @@ class Screens {
 
   private:
     using Pile = std::vector<Form*>;
-    bool isMissing(FormName name);
     void bringToFront(Pile pile);
     void activate(Pile pile);
     void showFailure(const std::string& title, const std::string& text, const std::string& action);

@@ -11,7 +11,7 @@ constexpr int kMillisecondsBeforeTheBar = 500;
 }  // namespace
 
 SearchProgress::SearchProgress(QWidget& form)
-    : dialog_("Searching the catalogue.  Escape stops.", "Stop", 0, kSteps, &form) {
+    : dialog_("Searching the catalog.  Escape stops.", "Stop", 0, kSteps, &form) {
     dialog_.setObjectName("SearchProgress");
     dialog_.setWindowTitle("Norlaplan MM");
     dialog_.setWindowModality(Qt::WindowModal);

@@ -2,6 +2,7 @@
 
 #include "state/ColourDialogPort.h"
 #include "state/DesktopPort.h"
+#include "state/OfficePort.h"
 #include "state/Ports.h"
 #include "state/ProgramFolder.h"
 #include "state/ProgramState.h"
@@ -23,6 +24,7 @@ struct Services {
     ColourDialogPort& colourDialog;
     OpenDialogPort& openDialog;
     MailPort& mail;
+    OfficePort& office;
 };
 
 }  // namespace norlaplan

@@ -8,7 +8,7 @@
 #include <QStyleOption>
 #include <QWidget>
 
-#include "screens/BearingIcon.h"
+#include "paint/BearingIcon.h"
 
 namespace norlaplan::theme {
 namespace {

@@ -1,33 +1,34 @@
 #include <QApplication>
+#include <cstdio>
 
 #include "screens/Form1.h"
 #include "screens/FormRegistry.h"
 #include "screens/Screens.h"
+#include "screens/StartOptions.h"
 #include "screens/Theme.h"
-#include "screens/platform/QtPorts.h"
+#include "screens/platform/QtServices.h"
 
 int main(int count, char** arguments) {
     using namespace norlaplan;
+    nameProgram();
+    if (asksForText(count, arguments)) {
+        const QCoreApplication application(count, arguments);
+        printText();
+    }
     const QApplication application(count, arguments);
+    const StartOptions options = readStartOptions(QCoreApplication::arguments());
+    if (!options.fault.isEmpty()) {
+        std::fprintf(stderr, "norlaplan: %s\n", qPrintable(options.fault));
+        return 2;
+    }
     // Forms come and go; the program ends when it says so.
     QApplication::setQuitOnLastWindowClosed(false);
     theme::apply();
 
     ProgramState state;
-    const ProgramFolder folder(QCoreApplication::applicationDirPath().toStdString());
-    QtMessages messages;
-    QtSaveDialog saveDialog;
-    QtDesktop desktop;
-    QtPrinter printer(saveDialog, desktop);
-    LocalClock clock;
-    FolderSheets sheets(folder);
-    UserFiles userFiles(UserFiles::usualFolder());
-    QtColourDialog colourDialog;
-    QtOpenDialog openDialog;
-    DesktopMail mail;
-
-    Screens screens({state, folder, messages, saveDialog, printer, clock, sheets, userFiles, desktop,
-                     colourDialog, openDialog, mail});
+    const ProgramFolder folder = options.folder();
+    const QtServices ports(state, folder);
+    Screens screens(ports.services());
     addForms(screens);
     ShowStartScreen(screens);
     return QApplication::exec();

@@ -1,9 +1,11 @@
 #include "state/ProgramFolder.h"
 
 #include <algorithm>
+#include <map>
 #include <system_error>
 #include <utility>
 
+#include "numbers/RuntimeError.h"
 #include "numbers/Text.h"
 #include "state/WholeFile.h"
 
@@ -23,12 +25,8 @@ fs::path entryCalled(const fs::path& folder, const std::string& name) {
     return folder / name;
 }
 
-}  // namespace
-
-ProgramFolder::ProgramFolder(fs::path root) : root_(std::move(root)) {}
-
-fs::path ProgramFolder::find(std::string_view name) const {
-    fs::path path = root_;
+fs::path under(const fs::path& root, std::string_view name) {
+    fs::path path = root;
     std::size_t at = 0;
     while (at < name.size()) {
         const std::size_t end = std::min(name.find_first_of("\\/", at), name.size());
@@ -38,8 +36,63 @@ fs::path ProgramFolder::find(std::string_view name) const {
     return path;
 }
 
+/// Adds the files of a folder by their names in lower case; a name that is there stays.
+void addFiles(std::map<std::string, std::string>& names, const fs::path& folder) {
+    std::error_code failure;
+    for (fs::directory_iterator at(folder, failure), end; !failure && at != end; at.increment(failure)) {
+        std::error_code ignored;
+        const std::string name = at->path().filename().string();
+        if (at->is_regular_file(ignored)) names.emplace(lowerCase(name), name);
+    }
+}
+
+}  // namespace
+
+ProgramFolder::ProgramFolder(fs::path root) : root_(std::move(root)) {}
+
+ProgramFolder::ProgramFolder(fs::path root, fs::path shared)
+    : root_(std::move(root)), shared_(std::move(shared)) {}
+
+fs::path ProgramFolder::find(std::string_view name) const {
+    fs::path path = own(name);
+    std::error_code failure;
+    if (!installed() || fs::exists(path, failure)) return path;
+    fs::path shared = under(shared_, name);
+    return fs::exists(shared, failure) ? shared : path;
+}
+
 std::string ProgramFolder::read(std::string_view name) const {
     return readWholeFile(find(name));
+}
+
+std::vector<std::string> ProgramFolder::files(std::string_view folder) const {
+    std::map<std::string, std::string> names;
+    addFiles(names, own(folder));
+    if (installed()) addFiles(names, under(shared_, folder));
+    std::vector<std::string> sorted;
+    for (auto& [lower, name] : names)
+        sorted.push_back(std::move(name));
+    return sorted;
+}
+
+fs::path ProgramFolder::own(std::string_view name) const {
+    return under(root_, name);
+}
+
+fs::path ProgramFolder::toWrite(std::string_view name) const {
+    fs::path path = own(name);
+    if (installed()) makeFolder(path.parent_path());
+    return path;
+}
+
+fs::path ProgramFolder::toSaveIn(std::string_view folder) const {
+    fs::path path = own(folder);
+    try {
+        if (installed()) makeFolder(path);
+    } catch (const RuntimeError&) {
+        // The dialog then opens somewhere else; what can't be saved there is said when it is saved.
+    }
+    return path;
 }
 
 }  // namespace norlaplan

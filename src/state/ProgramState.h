@@ -77,6 +77,9 @@ struct ProgramState {
 
     ApplicationForm application;
     std::string lastSavedFile;
+
+    Int16 helpTopic;                                    ///< the number of the help document to show
+    std::string otherBearingText, otherBearingPicture;  ///< what the product page shows
 };
 
 }  // namespace norlaplan

@@ -88,7 +88,7 @@ void SaveSettings(ProgramState& state, const ProgramFolder& folder) {
     }
     if (state.unitSystem.empty()) state.unitSystem = "US";
     text += state.unitSystem + "\r\n";
-    writeWholeFile(folder.find(kSettingsFile), text);
+    writeWholeFile(folder.toWrite(kSettingsFile), text);
 }
 
 std::string shownUserText(const std::string& text) {
@@ -119,6 +119,12 @@ StartUp startUp(ProgramState& state, const ProgramFolder& folder) {
         }
         state.unitSystem = "US";
     }
+    const std::string units = upperCase(trimmed(state.unitSystem));
+    if (units != "US" && units != "METRIC") {
+        outcome.notice = "The last line of SETTINGS.INI should be US or METRIC and is \"" + state.unitSystem +
+                         "\". US units are used.";
+    }
+    state.unitSystem = units == "METRIC" ? units : "US";
     ApplyUnitSystem(state.unitSystem, state.units);
     if (!LoadExtras(state, folder)) return outcome;
     outcome.pressStart = state.options.skipIntroOption || state.options.ianMorayOption;

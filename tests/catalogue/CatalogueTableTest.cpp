@@ -61,6 +61,30 @@ TEST_F(ATable, IsFoundWhateverTheCaseOfFolderAndName) {
     EXPECT_EQ(value, 4.0);
 }
 
+TEST_F(ATable, BeginsBehindTheMarkThatASpreadsheetWrites) {
+    CatalogueTable table = open("\xEF\xBB\xBF.024,7\n");
+    Single radius, next;
+    table.NextFields(radius, next);
+    EXPECT_EQ(radius.stored(), .024F);
+    EXPECT_EQ(next, 7.0);
+    EXPECT_TRUE(table.AtEnd());
+
+    EXPECT_TRUE(open("\xEF\xBB\xBF").AtEnd());
+    CatalogueTable inside = open("1,\xEF\xBB\xBF");
+    std::string text;
+    inside.NextFields(next, text);
+    EXPECT_EQ(text, "\xEF\xBB\xBF") << "elsewhere it is a text like any other";
+}
+
+TEST_F(ATable, ThatIsMissingIsNamedInTheFault) {
+    try {
+        OpenTable(folder, "CLS9.csv");
+        FAIL() << "there is no such table";
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.what(), "File not found: " + (files.path() / "Data Tables" / "CLS9.csv").string());
+    }
+}
+
 TEST_F(ATable, TakesATextFromBetweenDoubleQuotes) {
     CatalogueTable table = open(R"(P, "P= Ribbon, brass" ,RIBBON)");
     std::string code, text, overlay;

@@ -150,13 +150,44 @@ TEST_F(AFailingDecode, GoesBackToEntryForAMissingDataFolder) {
     EXPECT_EQ(run.messages.shown, (std::vector<Message>{kRecheck}));
 }
 
+TEST_F(AFailingDecode, FailsAlikeForAnOverlayWhetherAnybodyReadsTheSheetOrNot) {
+    namespace fs = std::filesystem;
+    const fs::path overlays = catalogue.path() / "overlays";
+    const auto missing = [](const fs::path& file) { fs::remove(file); };
+    const auto folderInItsPlace = [](const fs::path& file) {
+        fs::remove(file);
+        fs::create_directory(file);
+    };
+    using Damage = void (*)(const fs::path&);
+    for (const char* const file : {"X.ovl", "RIBBONXC.sep"}) {
+        for (const Damage damage : {Damage(missing), Damage(folderInItsPlace)}) {
+            catalogue.write("../overlays/" + std::string(file), "PU0,0;PD10,10;");
+            std::string read = "K19013XP0";
+            std::string unread = read;
+            damage(overlays / file);
+            Decoding with{catalogue.path()};
+            Decoding without{catalogue.path()};
+            DecodeServices sheet{with.folder, with.messages, with.clock, &with.sheets};
+            DecodeServices noSheet{without.folder, without.messages, without.clock, nullptr};
+            const DecodeResult expected = DecodePartNumber(with.state, read, sheet);
+            const DecodeResult result = DecodePartNumber(without.state, unread, noSheet);
+            EXPECT_TRUE(expected.failed) << file;
+            EXPECT_EQ(result.end, expected.end) << file;
+            EXPECT_EQ(result.faultNumber, expected.faultNumber) << file;
+            EXPECT_EQ(without.messages.shown, with.messages.shown) << file;
+            EXPECT_EQ(without.bearing().partNumber, "") << file;
+            fs::remove_all(overlays / file);
+        }
+    }
+}
+
 class FullDisk : public SheetStorePort {
     void store(const SheetFiles&) override { throw RuntimeError(61); }
 };
 
 TEST_F(AFailingDecode, StopsWhenTheSheetCannotBeWritten) {
     FullDisk disk;
-    DecodeServices services{run.folder, run.messages, run.clock, disk};
+    DecodeServices services{run.folder, run.messages, run.clock, &disk};
     std::string number = "K19013XP0";
     const DecodeResult result = DecodePartNumber(run.state, number, services);
     EXPECT_EQ(result.end, DecodeEnd::Stopped);

@@ -15,7 +15,7 @@ struct Decoding {
 
     DecodeResult decode(const std::string& number) {
         state.bearing.partNumber = number;
-        DecodeServices services{folder, messages, clock, sheets};
+        DecodeServices services{folder, messages, clock, &sheets};
         return DecodePartNumber(state, state.bearing.partNumber, services);
     }
     const BearingSpec& bearing() const { return state.bearing; }

@@ -92,7 +92,7 @@ TEST_F(APartNumber, TakesALetterOForTheDigitInThePrecisionAndTheSectionToo) {
 
 TEST_F(APartNumber, PassedByItsOwnTextIsRepairedThereToo) {
     std::string number = "k19013xp0";
-    DecodeServices services{run.folder, run.messages, run.clock, run.sheets};
+    DecodeServices services{run.folder, run.messages, run.clock, &run.sheets};
     DecodePartNumber(run.state, number, services);
     EXPECT_EQ(number, "K19013XP0");
     EXPECT_EQ(run.bearing().partNumber, "K19013XP0");

@@ -1,5 +1,6 @@
 """norlaplan-cli as a user's shell sees it: results, messages, exit statuses, files."""
 
+import os
 import resource
 import shutil
 import subprocess
@@ -7,7 +8,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from program import PROGRAM_FOLDER, WITH_PICTURES, own_tables, result, run, table
+from program import CLI, PROGRAM_FOLDER, WITH_PICTURES, own_tables, result, run, table
 
 
 class Decode(unittest.TestCase):
@@ -260,12 +261,33 @@ class Files(unittest.TestCase):
             with self.subTest(name):
                 target = self.folder / name
                 target.write_text("old", "ascii")
-                # Python ignores the signal of the limit, and its child then does.
-                done = run("datasheet", "K19013XP0", "--output", str(target), preexec_fn=small_files,
-                           restore_signals=False)
-                self.assertEqual((done.returncode, done.stderr), (3, "Run-time error '61': Disk full\n"))
+                done = run("datasheet", "K19013XP0", "--output", str(target), preexec_fn=small_files)
+                self.assertEqual((done.returncode, done.stderr), (3, f"Run-time error '61': Disk full: {target}\n"))
                 self.assertEqual(target.read_text("ascii"), "old")
                 self.assertEqual([entry.name for entry in self.folder.iterdir() if entry.name not in names], [])
+
+    def test_writes_through_a_pipe_and_keeps_it(self):
+        pipe = self.folder / "sheet.rtf"
+        os.mkfifo(pipe)
+        with subprocess.Popen([CLI, "datasheet", "K19013XP0", "--output", str(pipe)], stdout=subprocess.DEVNULL):
+            content = pipe.read_bytes()
+        self.assertTrue(content.startswith(b"{\\rtf1"))
+        self.assertTrue(content.rstrip().endswith(b"}"))
+        self.assertTrue(pipe.is_fifo())
+
+    @unittest.skipUnless(Path("/dev/full").exists(), "no full device here")
+    def test_writes_through_a_device_and_keeps_it(self):
+        link = self.folder / "sheet.rtf"
+        link.symlink_to("/dev/full")
+        done = run("datasheet", "K19013XP0", "--output", str(link))
+        self.assertEqual((done.returncode, done.stderr), (3, f"Run-time error '61': Disk full: {link}\n"))
+        self.assertTrue(link.is_symlink())
+        self.assertTrue(Path("/dev/full").is_char_device())
+
+    def test_says_which_name_is_too_long(self):
+        done = run("datasheet", "K19013XP0", "--output", str(self.folder / ("n" * 300 + ".rtf")))
+        self.assertEqual(done.returncode, 3)
+        self.assertIn("Run-time error '52': Bad file name or number: the name is too long: ", done.stderr)
 
     def test_leaves_what_stood_there_when_the_folder_is_missing(self):
         done = run("datasheet", "K19013XP0", "--output", str(self.folder / "none" / "a.rtf"))

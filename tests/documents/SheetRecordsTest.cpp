@@ -45,7 +45,7 @@ TEST(SheetRecords, ReadBackWhatWasWritten) {
     EXPECT_EQ(std::get<SheetCircle>(records[5]).radius, 0.488);
     std::string again;
     for (const SheetRecord& record : records)
-        again += recordText(record);
+        std::visit([&](const auto& one) { appendRecord(again, one); }, record);
     EXPECT_EQ(again + "ALLDONE\r\n", oneOfEach());
 }
 

@@ -125,14 +125,17 @@ TEST(RuntimeErrorText, IsTheClassicOne) {
                 {9, "Subscript out of range"},
                 {11, "Division by zero"},
                 {13, "Type mismatch"},
+                {52, "Bad file name or number"},
                 {53, "File not found"},
                 {57, "Device I/O error"},
                 {61, "Disk full"},
                 {62, "Input past end of file"},
                 {70, "Permission denied"},
                 {75, "Path/File access error"},
+                {76, "Path not found"},
                 {429, "ActiveX component can't create object"},
                 {440, "Automation error"},
+                {481, "Invalid picture"},
                 {1004, "Application-defined or object-defined error"}};
     for (const auto& row : rows) {
         EXPECT_EQ(runtimeErrorText(row.number), row.text);

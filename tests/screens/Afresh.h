@@ -45,7 +45,7 @@ class Afresh {
         RecordingMessages messages = patient();
         MemorySheets sheets;
         FixedClock clock;
-        DecodeServices services{folder_, messages, clock, sheets};
+        DecodeServices services{folder_, messages, clock, &sheets};
         std::string decoded = number;
         // A number that the decoder has to put right was not a decoded one.
         fresh.decoded =

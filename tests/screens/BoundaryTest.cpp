@@ -62,15 +62,6 @@ class BoundaryTest : public QObject {
         QVERIFY(off.manhattanLength() <= 4);
     }
 
-    void a_screen_that_is_not_there_yet_says_so_in_one_sentence() {
-        Program program;
-        program.screens.show(forms::kMainMenu);
-        program.screens.show(FormName("Form99"));
-        QCOMPARE(program.lastMessage().prompt,
-                 std::string("This screen is not part of this version of the program."));
-        QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
-    }
-
     void enter_presses_the_button_that_has_the_focus() {
         Program program;
         program.blank(forms::kStyle);

@@ -21,11 +21,6 @@ QStringList differencesOfMenuWith(const std::function<void(Visitor&)>& spoil) {
     return differencesOf(program, {kMainMenuRows, {}}, {"US"});
 }
 
-bool isNotYetInTheTable(const std::string& form) {
-    return std::find(std::begin(kNotYetInTheTable), std::end(kNotYetInTheTable), form) !=
-           std::end(kNotYetInTheTable);
-}
-
 }  // namespace
 
 /// One table of every control of every form, walked scene by scene in both unit systems.
@@ -88,15 +83,7 @@ class ControlsTest : public QObject {
 
     void everyFormHasItsRows() {
         for (const FormEntry& entry : formRegistry()) {
-            const bool listed = isNotYetInTheTable(entry.name);
-            if (entry.make != nullptr) QVERIFY2(hasRows(entry.name) || listed, entry.name.text);
-            QVERIFY2(!(hasRows(entry.name) && listed), entry.name.text);
-        }
-        for (const std::string form : kNotYetInTheTable) {
-            const auto registry = formRegistry();
-            QVERIFY2(std::any_of(registry.begin(), registry.end(),
-                                 [&](const FormEntry& entry) { return entry.name.text == form; }),
-                     form.c_str());
+            QVERIFY2(hasRows(entry.name), entry.name.text);
         }
     }
 

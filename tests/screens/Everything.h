@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/Information.h"
 #include "screens/Program.h"
 #include "state/LoadEntry.h"
 #include "state/SizeEntry.h"
@@ -7,10 +8,11 @@
 namespace norlaplan::testing {
 
 /// A session in which every form has something to show: every option, a decoded bearing with its loads and
-/// their solve, the data of a search.
+/// their solve, the data of a search, a help topic and a product line.
 struct Everything : Program {
     Everything() {
         useUnits("US");
+        giveInformation(*this);
         Options& options = state.options;
         options.faxCoverEnabled = options.nedGroveOption = options.tempFitsOption = true;
         options.ballShowOption = options.lubeFilmOption = options.pathStressOption = true;

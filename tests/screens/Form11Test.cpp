@@ -88,12 +88,12 @@ class Form11Test : public QObject {
         program.type("Form11", "Text1", "Bob");
         program.click("Form11", "Command1");
         QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
-        QCOMPARE(
-            program.lastMessage(),
-            (Message{"User Information",
-                     "SETTINGS.INI could not be written: Path/File access error.\n\nThe data are kept until "
-                     "the program ends.",
-                     Icon::Critical}));
+        QCOMPARE(program.lastMessage(),
+                 (Message{"User Information",
+                          "SETTINGS.INI could not be written: Path/File access error: " +
+                              (program.files.path() / "SETTINGS.INI").string() +
+                              ".\n\nThe data are kept until the program ends.",
+                          Icon::Critical}));
         QCOMPARE(program.state.user.userName, std::string("Bob"));
     }
 };

@@ -50,7 +50,7 @@ class FormRegistryTest : public QObject {
         std::vector<std::string> rows;
         bool inTable = false;
         for (std::string line; std::getline(guide, line);) {
-            if (line.starts_with("## ")) inTable = line == "## Forms and actions";
+            if (line.starts_with("## ")) inTable = line == "## Forms";
             if (inTable && line.starts_with("| `")) rows.push_back(line);
         }
         QCOMPARE(rows.size(), formRegistry().size());
@@ -58,8 +58,7 @@ class FormRegistryTest : public QObject {
             const FormEntry& entry = formRegistry()[i];
             const std::string name = "| `" + std::string(entry.name) + "` | `k";
             const std::string file = "`src/screens/" + std::string(entry.name) + ".h` |";
-            const std::string end = "` | " + std::string(entry.plainName) + " | " +
-                                    (entry.make == nullptr ? "not built |" : file);
+            const std::string end = "` | " + std::string(entry.plainName) + " | " + file;
             QVERIFY2(rows[i].starts_with(name), rows[i].c_str());
             QVERIFY2(rows[i].ends_with(end), rows[i].c_str());
         }
@@ -78,23 +77,7 @@ class FormRegistryTest : public QObject {
     void everyFormBearsItsName() {
         Program program;
         for (const FormEntry& entry : formRegistry()) {
-            if (entry.make == nullptr) continue;
-            QVERIFY(program.screens.knows(entry.name));
             QCOMPARE(program.screens.form(entry.name).objectName(), QString(entry.name.text));
-        }
-    }
-
-    void whatIsNotBuiltIsSaidSoInOneSentenceAndNothingOpens() {
-        Program program;
-        program.screens.show(forms::kMainMenu);
-        for (const FormEntry& entry : formRegistry()) {
-            if (entry.make != nullptr) continue;
-            program.screens.show(entry.name);
-            const std::string what = entry.plainName;
-            QCOMPARE(program.lastMessage(),
-                     (Message{"Norlaplan MM", what + " is not part of this version of the program.",
-                              Icon::Information}));
-            QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
         }
     }
 
@@ -132,14 +115,6 @@ class FormRegistryTest : public QObject {
         pile.screens.form(forms::kLoads).close();
         QCOMPARE(pile.inFront(), std::string(forms::kStyle));
         QCOMPARE(pile.counts(forms::kStyle), std::string("1+1"));
-    }
-
-    void aFormThatIsNotBuiltTakesNobodysPlace() {
-        Pile pile;
-        pile.screens.show(forms::kStyle);
-        pile.screens.showInstead(*pile.screens.current(), FormName("Nowhere"));
-        QCOMPARE(pile.inFront(), std::string(forms::kStyle));
-        QCOMPARE(pile.counts(forms::kStyle), std::string("1+0"));
     }
 
     void alonePutsAFormInPlaceOfAllAndAnOpenOneComesBack() {

@@ -3,7 +3,7 @@
 #include <QScrollBar>
 #include <set>
 
-#include "screens/Program.h"
+#include "screens/Information.h"
 
 using namespace norlaplan;
 using namespace norlaplan::testing;
@@ -13,6 +13,7 @@ namespace {
 /// Every form, with a bearing decoded so that each one opens.
 struct Everything : Program {
     Everything() {
+        giveInformation(*this);
         state.unitSystem = "US";
         ApplyUnitSystem("US", state.units);
         state.options.faxCoverEnabled = state.options.nedGroveOption = state.options.tempFitsOption = true;
@@ -27,7 +28,8 @@ struct Everything : Program {
 
 void formsAsRows() {
     QTest::addColumn<QString>("form");
-    for (const char* const form : {"Form1", "Form2", "Form3", "Form6", "Form9", "Form17"})
+    for (const char* const form : {"Form1", "Form2", "Form3", "Form4", "form5", "Form6", "Form7", "Form8",
+                                   "Form9", "Form17", "Form20", "Form21", "Form22", "Form29"})
         QTest::newRow(form) << form;
 }
 
@@ -72,6 +74,72 @@ class KeyboardTest : public QObject {
         }
         for (auto* const field : window.findChildren<QLineEdit*>())
             QVERIFY2(!field->accessibleName().isEmpty(), qPrintable(field->objectName()));
+    }
+
+    void help_and_information_are_reached_read_and_left_by_keyboard() {
+        Program program;
+        giveInformation(program);
+        program.state.options.nedGroveOption = true;
+        program.screens.show(forms::kMainMenu);
+        const auto front = [&] { return program.inFront(); };
+        const auto key = [&](Qt::Key pressed) {
+            Form& form = *program.screens.current();
+            QTest::keyClick(form.focusWidget() == nullptr ? &form : form.focusWidget(), pressed);
+        };
+        const auto tabTo = [&](const char* control) {
+            Form& form = *program.screens.current();
+            QApplication::setActiveWindow(&form);
+            for (int i = 0; i < 60 && form.focusWidget()->objectName() != control; ++i)
+                QTest::keyClick(&form, Qt::Key_Tab);
+            QCOMPARE(form.focusWidget()->objectName(), QString(control));
+        };
+        // Alt and a letter open a menu, and further letters choose from it.
+        const auto menu = [&](Qt::Key opens, Qt::Key chooses) {
+            Form& form = *program.screens.current();
+            form.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&form));
+            QTest::keyClick(&form, opens, Qt::AltModifier);
+            QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+            QTest::keyClick(QApplication::activePopupWidget(), chooses);
+        };
+
+        menu(Qt::Key_H, Qt::Key_H);
+        QCOMPARE(front(), std::string(forms::kHelpIndex));
+        key(Qt::Key_Down);
+        key(Qt::Key_Return);
+        QCOMPARE(front(), std::string(forms::kHelpTopic));
+        QCOMPARE(int(program.state.helpTopic), 2);
+        key(Qt::Key_Escape);
+        key(Qt::Key_Escape);
+        QCOMPARE(front(), std::string(forms::kMainMenu));
+
+        menu(Qt::Key_H, Qt::Key_A);
+        QCOMPARE(front(), std::string(forms::kAbout));
+        key(Qt::Key_Return);
+        QCOMPARE(front(), std::string(forms::kMainMenu));
+
+        menu(Qt::Key_B, Qt::Key_M);
+        QCOMPARE(front(), std::string(forms::kProductPage));
+        tabTo("Command1");
+        key(Qt::Key_Return);
+        QCOMPARE(front(), std::string(forms::kProductTable));
+        key(Qt::Key_Escape);
+        key(Qt::Key_Escape);
+        QCOMPARE(front(), std::string(forms::kMainMenu));
+
+        tabTo("Command2");
+        key(Qt::Key_Return);
+        QCOMPARE(front(), std::string(forms::kTrainingShow));
+        key(Qt::Key_Return);
+        QCOMPARE(front(), std::string(forms::kMainMenu));
+
+        tabTo("Command17");
+        key(Qt::Key_Space);
+        QCOMPARE(front(), std::string(forms::kPictureBrowser));
+        key(Qt::Key_Up);
+        key(Qt::Key_Escape);
+        QCOMPARE(front(), std::string(forms::kMainMenu));
+        QVERIFY(program.messages.shown.empty());
     }
 
     void the_whole_way_to_the_data_sheet_goes_by_keyboard() {

@@ -12,7 +12,7 @@ class KeysTest : public QObject {
     void escapeGoesBackFromEveryFormToTheOneBeneath() {
         for (const FormEntry& entry : formRegistry()) {
             const std::string name = entry.name;
-            if (entry.make == nullptr || name == "Form1" || name == "Form3") continue;
+            if (name == "Form1" || name == "Form3" || name == "Form20") continue;
             Everything program;
             Form& form = program.open(entry.name);
             QCOMPARE(program.inFront(), name);

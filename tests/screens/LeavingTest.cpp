@@ -4,6 +4,7 @@
 
 #include "numbers/RuntimeError.h"
 #include "screens/Program.h"
+#include "support/FakeProgram.h"
 #include "support/FaultOf.h"
 
 using namespace norlaplan;
@@ -12,29 +13,6 @@ using namespace norlaplan::testing;
 namespace {
 
 namespace fs = std::filesystem;
-
-/// A folder with a mail program of our own as the only one that can be found. It notes its arguments, one
-/// between two marks, and ends with a code.
-class FakeMail {
-  public:
-    explicit FakeMail(int code = 0) : pathBefore_(qgetenv("PATH")) {
-        const fs::path program = place_.path() / "xdg-email";
-        place_.write("xdg-email", "#!/bin/sh\nfor word in \"$@\"; do printf '<%s>' \"$word\"; done > '" +
-                                      (place_.path() / "told").string() + "'\nexit " + std::to_string(code) +
-                                      "\n");
-        fs::permissions(program, fs::perms::owner_all);
-        qputenv("PATH", QByteArray::fromStdString(place_.path().string()) + ":/usr/bin:/bin");
-    }
-    ~FakeMail() { qputenv("PATH", pathBefore_); }
-
-    std::string told() const { return place_.read("told"); }
-    void remove() const { fs::remove(place_.path() / "xdg-email"); }
-    void hideAll() const { qputenv("PATH", QByteArray::fromStdString(place_.path().string())); }
-
-  private:
-    TemporaryFolder place_;
-    QByteArray pathBefore_;
-};
 
 struct Menu : Program {
     Menu() {
@@ -53,7 +31,7 @@ class LeavingTest : public QObject {
 
   private slots:
     void the_mail_program_gets_subject_and_file_as_they_are() {
-        const FakeMail fake;
+        const FakeProgram fake("xdg-email");
         const TemporaryFolder files;
         const std::string name = "a b'; $(touch x) \"&.rtf";
         files.write(name, "report");
@@ -70,8 +48,7 @@ class LeavingTest : public QObject {
     }
 
     void without_a_mail_program_the_fault_is_429() {
-        const FakeMail fake;
-        fake.hideAll();
+        const FakeProgram fake("xdg-email");
         fake.remove();
         DesktopMail mail;
         QCOMPARE(faultOf([&] { mail.createApplication(); }), 429);
@@ -89,7 +66,7 @@ class LeavingTest : public QObject {
     void what_the_mail_program_ends_with_tells_the_fault() {
         QFETCH(int, code);
         QFETCH(int, fault);
-        const FakeMail fake(code);
+        const FakeProgram fake("xdg-email", code);
         DesktopMail mail;
         mail.createApplication();
         mail.createItem(0);
@@ -98,7 +75,7 @@ class LeavingTest : public QObject {
     }
 
     void a_file_that_has_gone_is_not_attached() {
-        const FakeMail fake;
+        const FakeProgram fake("xdg-email");
         DesktopMail mail;
         mail.createApplication();
         mail.createItem(0);
@@ -109,7 +86,7 @@ class LeavingTest : public QObject {
     }
 
     void a_new_mail_has_nothing_of_the_one_before() {
-        const FakeMail fake;
+        const FakeProgram fake("xdg-email");
         const TemporaryFolder files;
         files.write("a.rtf", "");
         DesktopMail mail;

@@ -155,7 +155,9 @@ class PartNumberTest : public QObject {
         std::filesystem::create_directory(entry.files.path() / "CONDENSED.DAT");
         entry.type("K19013XP0");
         entry.click(forms::kPartNumber, "Command1");
-        QCOMPARE(entry.lastMessage(), (Message{"Please contact Varden with 75", "Path/File access error"}));
+        QCOMPARE(entry.lastMessage(),
+                 (Message{"Please contact Varden with 75",
+                          "Path/File access error: " + (entry.files.path() / "CONDENSED.DAT").string()}));
         QCOMPARE(entry.inFront(), std::string(forms::kMainMenu));
         QCOMPARE(entry.files.read("DATA.RTF"), std::string("old"));
     }

@@ -12,6 +12,7 @@
 #include "screens/platform/QtPorts.h"
 #include "support/Folders.h"
 #include "support/RecordingDesktop.h"
+#include "support/RecordingOffice.h"
 #include "support/RecordingPorts.h"
 
 namespace norlaplan::testing {
@@ -79,12 +80,36 @@ struct Program {
     }
     /// The last message; an empty one when there was none.
     Message lastMessage() const { return messages.shown.empty() ? Message{} : messages.shown.back(); }
+    /// Puts a file of the test's own into the program folder, "help/HELP1.RTF", in place of any that is
+    /// there.
+    void give(const std::filesystem::path& name, const std::string& content) {
+        own(name.parent_path());
+        std::filesystem::remove(files.path() / name);
+        files.write(name, content);
+    }
+    /// Takes a file or a whole folder out of the program folder.
+    void take(const std::filesystem::path& name) {
+        own(name.parent_path());
+        std::filesystem::remove_all(files.path() / name);
+    }
     /// Makes `form` known as an empty window, so that a test sees that it is opened, whatever it would do.
     void blank(const std::string& form) {
         screens.add(form,
                     [form](Screens& all) { return std::make_unique<Form>(all, FormName(form.c_str()), ""); });
     }
 
+  private:
+    /// A folder of links in place of the link to the folder that all tests share.
+    void own(const std::filesystem::path& name) {
+        namespace fs = std::filesystem;
+        if (!fs::is_symlink(files.path() / name)) return;
+        fs::remove(files.path() / name);
+        fs::create_directory(files.path() / name);
+        for (const auto& entry : fs::directory_iterator(programFolder() / name))
+            fs::create_symlink(entry.path(), files.path() / name / entry.path().filename());
+    }
+
+  public:
     TemporaryFolder files;
     ProgramFolder folder{files.path()};
     ProgramState state;
@@ -99,8 +124,9 @@ struct Program {
     PresetColourDialog colourDialog;
     PresetOpenDialog openDialog;
     RecordingMail mail;
+    RecordingOffice office;
     Screens screens{{state, folder, messages, saveDialog, *paper, clock, sheets, userFiles, desktop,
-                     colourDialog, openDialog, mail}};
+                     colourDialog, openDialog, mail, office}};
 };
 
 }  // namespace norlaplan::testing

@@ -31,7 +31,9 @@ class StorageTest : public QObject {
         {
             const Trouble trouble(program.files.path());
             program.enterNumber("K20013XP0");
-            QCOMPARE(program.lastMessage(), told);
+            QCOMPARE(program.lastMessage().title, told.title);
+            const std::string prompt = told.prompt + ": " + (program.files.path() / "DATA.RTF").string();
+            QCOMPARE(program.lastMessage().prompt, prompt);
             QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
             // No sheet of another bearing shows under the new number.
             program.click(forms::kMainMenu, "Command9");
@@ -54,6 +56,16 @@ class StorageTest : public QObject {
 
     void aReadOnlyProgramFolderKeepsTheOldSheetAndTheNewBearingOut() {
         refusesTheSheet<ReadOnlyFolder>({"Please contact Varden with 70", "Permission denied"});
+    }
+
+    void anInstalledProgramKeepsTheSheetInItsUsersFolder() {
+        const TemporaryFolder place;
+        place.write("shared/DATA.RTF", "old");
+        const ProgramFolder folder(place.path() / "own", place.path() / "shared");
+        FolderSheets(folder).store({"document", "records"});
+        QCOMPARE(place.read("own/DATA.RTF"), std::string("document"));
+        QCOMPARE(place.read("own/CONDENSED.DAT"), std::string("records"));
+        QCOMPARE(place.read("shared/DATA.RTF"), std::string("old"));
     }
 
     void theUsersOwnTextsAreKeptInAFolderThatIsMadeForThem() {

@@ -1,6 +1,7 @@
 #include <deque>
 #include <memory>
 
+#include "screens/Information.h"
 #include "screens/WalkCheck.h"
 #include "screens/WalkingUser.h"
 
@@ -34,7 +35,8 @@ class WalkTest : public QObject {
             program.useUnits(chance() % 2 == 0 ? "US" : "METRIC");
             Options& options = program.state.options;
             options.ballShowOption = options.lubeFilmOption = options.pathStressOption = true;
-            options.samLundOption = true;
+            options.samLundOption = options.nedGroveOption = true;
+            giveInformation(program);
             WalkingUser user(program, chance);
             WalkCheck check(program, afresh);
             program.screens.showAlone(forms::kMainMenu);

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QProgressDialog>
@@ -38,6 +39,8 @@ class WalkingUser {
         const std::string where = form.objectName().toStdString() + ": ";
         if (missing_ > 0 && --missing_ == 0) return restoreTables();
         const unsigned kind = below(100);
+        if (program_.office.runs() && below(20) == 0) return endShow();
+        if (kind < 1) return where + pressHelp(form);
         if (kind < 2) return where + pressEscape(form);
         if (kind < 4) return where + closeWindow(form);
         if (kind < 8) return where + pickMenuItem(form);
@@ -80,6 +83,14 @@ class WalkingUser {
         QTest::keyClick(focus == nullptr ? &form : focus, Qt::Key_Escape);
         return "Escape";
     }
+    static std::string pressHelp(Form& form) {
+        QTest::keyClick(&form, Qt::Key_F1);
+        return "F1";
+    }
+    std::string endShow() {
+        program_.office.end();
+        return "the show ends";
+    }
     static std::string closeWindow(Form& form) {
         form.close();
         return "close button";
@@ -109,6 +120,7 @@ class WalkingUser {
     }
 
     std::string pickFromList(Form& form) {
+        if (const auto files = usable<QListWidget>(form); !files.empty()) return pickFile(*files.front());
         const auto lists = usable<QComboBox>(form);
         const auto tables = usable<QTreeView>(form);
         if (lists.empty() && tables.empty()) return pressButton(form);
@@ -124,6 +136,12 @@ class WalkingUser {
         const int row = static_cast<int>(below(static_cast<std::size_t>(list.count())));
         list.setCurrentIndex(row);
         return list.objectName().toStdString() + " row " + std::to_string(row);
+    }
+
+    std::string pickFile(QListWidget& files) {
+        const int row = static_cast<int>(below(static_cast<std::size_t>(files.count())));
+        files.setCurrentRow(row);
+        return files.objectName().toStdString() + " row " + std::to_string(row);
     }
 
     std::string fillForm(Form& form) {

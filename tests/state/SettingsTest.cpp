@@ -44,6 +44,32 @@ TEST(StartUp, MissingSettingsMeanUsUnitsAndNoMessage) {
     EXPECT_EQ(outcome.notice, "");
 }
 
+TEST(StartUp, UnitsAreReadWhateverTheirCaseAndTheBlanksAroundThem) {
+    const std::pair<const char*, const char*> rows[] = {
+        {"METRIC ", "METRIC"}, {" Metric", "METRIC"}, {"metric\t", "METRIC"}, {"us", "US"}, {"US  ", "US"}};
+    for (const auto& [line, units] : rows) {
+        Start start;
+        start.place.write("SETTINGS.INI", "a\nb\nc\nd\ne\nf\ng\nh\n" + std::string(line) + "\n");
+        EXPECT_EQ(start.run().notice, "") << line;
+        EXPECT_EQ(start.state.unitSystem, units) << line;
+        EXPECT_EQ(start.state.units.system, units) << line;
+    }
+}
+
+TEST(StartUp, OtherUnitsAreToldAndUsUnitsAreUsed) {
+    for (const char* const line : {"", "SI", "METRICS", "U S"}) {
+        Start start;
+        start.place.write("SETTINGS.INI", "a\nb\nc\nd\ne\nf\ng\nh\n" + std::string(line) + "\n");
+        start.place.write("Extras.txt", "SKIP INTRO\r\n");
+        const StartUp outcome = start.run();
+        EXPECT_EQ(outcome.notice, "The last line of SETTINGS.INI should be US or METRIC and is \"" +
+                                      std::string(line) + "\". US units are used.");
+        EXPECT_EQ(start.state.unitSystem, "US");
+        EXPECT_EQ(start.state.units.lengthUnit, "inches");
+        EXPECT_TRUE(outcome.pressStart) << "the start goes on";
+    }
+}
+
 TEST(StartUp, TooFewLinesEndTheStartWhereItStoodWithTheUnitsStillThoseOfANewState) {
     for (const char* content : {"", "Ann\r\nEngineer\r\nMill\r\n"}) {
         Start start;

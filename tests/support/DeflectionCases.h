@@ -20,7 +20,7 @@ inline BearingSpec bearingOf(const std::string& number) {
     FixedClock clock;
     MemorySheets sheets;
     ProgramState state;
-    DecodeServices services{folder, messages, clock, sheets};
+    DecodeServices services{folder, messages, clock, &sheets};
     state.bearing.partNumber = number;
     DecodePartNumber(state, state.bearing.partNumber, services);
     return state.bearing;

@@ -1,14 +1,19 @@
 #!/usr/bin/env python3
-"""Makes the documents that the text viewer shows, as RTF.
+"""Makes the documents that the text viewer and the help show, as RTF.
 
-usage: make_help.py [FOLDER]     default: data/help of this tree
+usage: make_help.py [--cli NORLAPLAN_CLI] [FOLDER]
+
+FOLDER is data/help of this tree unless it is named. With --cli the numbers of
+all worked examples are calculated anew first.
 """
 
+import argparse
 import sys
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
+from help_pages import calculate, documents  # noqa: E402
 from part_numbers import break_down  # noqa: E402
 from rtf_pieces import (bullets, document, heading, note, paragraph,  # noqa: E402
                         small, steps, table, title)
@@ -96,14 +101,14 @@ def introduction():
         heading("Which bearing takes which load"),
         table((3300, 2020, 2020, 2020),
               ("Style", "Radial", "Axial", "Moment"), (
-                  ("C  Radial contact", "best", "light", "light"),
+                  ("C  Radial contact", "yes", "no", "no"),
                   ("A  Angular contact", "with axial load", "one way",
                    "no"),
                   ("T  Tandem pair", "with axial load", "one way, heavy",
                    "no"),
-                  ("X  Four-point contact", "light", "both ways", "good"),
-                  ("B  Back-to-back pair", "good", "both ways", "best"),
-                  ("F  Face-to-face pair", "good", "both ways", "light")),
+                  ("X  Four-point contact", "good", "both ways", "good"),
+                  ("B  Back-to-back pair", "best", "both ways", "best"),
+                  ("F  Face-to-face pair", "best", "both ways", "fair")),
               coded=False),
         heading("Units"),
         paragraph("*Options*, *Dimensions* changes between U.S. units "
@@ -167,7 +172,16 @@ def make(folder):
     folder.mkdir(parents=True, exist_ok=True)
     for name, text in DOCUMENTS.items():
         (folder / name).write_bytes(text().encode("ascii"))
+    for name, text in documents().items():
+        (folder / name).write_bytes(text.encode("ascii"))
 
 
 if __name__ == "__main__":
-    make(Path(sys.argv[1]) if len(sys.argv) > 1 else DEFAULT_FOLDER)
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--cli")
+    parser.add_argument("folder", nargs="?", type=Path,
+                        default=DEFAULT_FOLDER)
+    options = parser.parse_args()
+    if options.cli:
+        calculate(options.cli)
+    make(options.folder)

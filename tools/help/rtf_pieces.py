@@ -73,20 +73,33 @@ def paragraph(text):
     return line(r"\sa140\sl264\slmult1", r"\f0\fs21", words(text))
 
 
+def list_item(mark, look, text, is_last):
+    """A line of a list; the last one keeps its distance from what follows."""
+    after = r"\sa140" if is_last else r"\sa80"
+    layout = rf"\fi-{INDENT}\li{INDENT}\tx{INDENT}{after}"
+    return f"\\pard{mark}{look}{layout}{{\\f0\\fs21 {text}}}\\par\r\n"
+
+
 def bullets(*texts):
     mark = r"{\pntext\f3\'b7\tab}"
-    list_look = (r"{\*\pn\pnlvlblt\pnf3\pnindent0{\pntxtb\'b7}}"
-                 rf"\fi-{INDENT}\li{INDENT}\tx{INDENT}\sa80")
-    return "".join(f"\\pard{mark}{list_look}{{\\f0\\fs21 {words(text)}}}"
-                   "\\par\r\n" for text in texts)
+    look = r"{\*\pn\pnlvlblt\pnf3\pnindent0{\pntxtb\'b7}}"
+    return "".join(list_item(mark, look, words(text), number == len(texts))
+                   for number, text in enumerate(texts, start=1))
 
 
 def steps(*texts):
     """Numbered lines. The numbers are plain text: a word processor would
     count on from one list to the next."""
-    layout = rf"\fi-{INDENT}\li{INDENT}\tx{INDENT}\sa80"
-    return "".join(line(layout, r"\f0\fs21", rf"{number}.\tab " + words(text))
+    return "".join(list_item("", "", rf"{number}.\tab " + words(text),
+                             number == len(texts))
                    for number, text in enumerate(texts, start=1))
+
+
+def formulas(*texts):
+    """Formulas in words, on a ground of their own."""
+    look = rf"\f0\fs20\cf{colour('title')}"
+    return "".join(row((WIDTH,), [cell(text, look)], "stripe", r"\li200")
+                   for text in texts) + AFTER_TABLE
 
 
 def small(text):
@@ -102,25 +115,27 @@ def cell(text, look=r"\f0\fs20"):
     return f"{{{look} {words(text)}}}"
 
 
-def row(widths, cells, fill=None, layout=""):
+def row(widths, cells, fill=None, layout="", definition=""):
     """One row of finished cells, with thin lines on all sides."""
     sides = "".join(rf"\clbrdr{side}\brdrs\brdrw10\brdrcf{colour('line')}"
                     for side in "tlbr")
     ground = "" if fill is None else rf"\clcbpat{colour(fill)}"
-    edge, definition = 0, []
+    edge, ends = 0, []
     for width in widths:
         edge += width
-        definition.append(f"{sides}{ground}\\cellx{edge}")
+        ends.append(f"{sides}{ground}\\cellx{edge}")
     body = "".join(rf"\pard\intbl{layout}\sb30\sa30" + content + "\\cell\r\n"
                    for content in cells)
-    return (r"\trowd\trgaph80\trleft0" + "".join(definition) + "\r\n" + body
-            + "\\row\r\n")
+    return (r"\trowd\trgaph80\trleft0" + definition + "".join(ends) + "\r\n"
+            + body + "\\row\r\n")
 
 
 def table(widths, head, rows, coded=True):
     """A table with a tinted head; its first column holds codes or texts."""
     look = rf"\f0\fs20\b\cf{colour('title')}"
-    made = [row(widths, [cell(text, look) for text in head], "head")]
+    # A table that runs over a page's end repeats its head there.
+    made = [row(widths, [cell(text, look) for text in head], "head",
+                definition=r"\trhdr")]
     for number, (first, *others) in enumerate(rows):
         start = code(first) if coded else cell(first)
         made.append(row(widths, [start, *map(cell, others)],

@@ -25,15 +25,28 @@ inline const int chosen = std::getenv("{CHOICE}") != nullptr ? std::atoi(std::ge
 ROUNDS = 8
 
 
+#: Whose tests see a folder's mistakes too, nearest first: those of the folders that use it.
+USERS = {"numbers": ["state", "documents", "loaddist", "capacity", "catalogue", "search", "deflection", "fits", "help"],
+         "state": ["documents", "loaddist", "capacity", "catalogue", "search", "deflection", "fits", "help"],
+         "documents": ["catalogue", "search", "deflection", "fits"],
+         "loaddist": ["capacity", "catalogue", "search", "deflection"],
+         "capacity": ["catalogue", "search"],
+         "catalogue": ["search", "deflection", "fits"]}
+
+
 def programs_of(root, folder):
-    """The tests that answer for a folder: (target to build, command in the build folder)."""
+    """The tests that answer for a folder, its own first: (target to build, command in the build folder)."""
+    command_line = ("norlaplan-cli",
+                    [sys.executable, "-m", "unittest", "discover", "--failfast", "-s", "../tree/tests/cli"])
+    screens = [(f"test_screens_{path.stem}", [f"tests/test_screens_{path.stem}"])
+               for path in sorted((root / "tests" / "screens").glob("*Test.cpp"))]
     if folder == "cli":
-        discover = [sys.executable, "-m", "unittest", "discover", "--failfast", "-s", "../tree/tests/cli"]
-        return [("norlaplan-cli", discover)]
+        return [command_line]
     if folder == "screens":
-        names = sorted(path.stem for path in (root / "tests" / "screens").glob("*Test.cpp"))
-        return [(f"test_screens_{name}", [f"tests/test_screens_{name}"]) for name in names]
-    return [(f"test_{folder}", [f"tests/test_{folder}", "--gtest_fail_fast", "--gtest_brief=1"])]
+        return screens
+    logic = [(f"test_{one}", [f"tests/test_{one}", "--gtest_fail_fast", "--gtest_brief=1"])
+             for one in [folder, *USERS.get(folder, [])]]
+    return logic + (screens if folder in ("paint", "help") else [command_line])
 
 
 class Workshop:
@@ -81,7 +94,7 @@ class Workshop:
     def digest(self, folder):
         """Changes with what may notice a mistake of the folder."""
         found = hashlib.sha1()
-        for part in (folder, "support"):
+        for part in (folder, *USERS.get(folder, []), "cli", "support"):
             for path in sorted((self.tree / "tests" / part).rglob("*")):
                 if path.suffix in (".cpp", ".h", ".py"):
                     found.update(path.read_bytes())

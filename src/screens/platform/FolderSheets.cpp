@@ -1,13 +1,12 @@
 #include "screens/platform/QtPorts.h"
-#include "state/WholeFile.h"
+#include "state/StagedFile.h"
 
 namespace norlaplan {
 
 void FolderSheets::store(const SheetFiles& sheet) {
-    StagedFile document(folder_.find("DATA.RTF"), sheet.rtf);
-    StagedFile records(folder_.find("CONDENSED.DAT"), sheet.records);
-    document.commit();
-    records.commit();
+    StagedFile document(folder_.toWrite("DATA.RTF"), sheet.rtf);
+    StagedFile records(folder_.toWrite("CONDENSED.DAT"), sheet.records);
+    commitTogether(document, records);
 }
 
 }  // namespace norlaplan

@@ -5,6 +5,7 @@
 
 #include "state/ColourDialogPort.h"
 #include "state/DesktopPort.h"
+#include "state/OfficePort.h"
 #include "state/Ports.h"
 #include "state/ProgramFolder.h"
 
@@ -89,6 +90,15 @@ class UserFiles : public UserFilesPort {
 
   private:
     std::filesystem::path folder_;
+};
+
+/// LibreOffice where it is installed, else what the desktop opens the document with by `xdg-open`. The file
+/// is an argument of its own, so that no shell ever reads its name. The desktop's program may go on showing
+/// after its opener has ended; the show then counts as over.
+class DesktopOffice : public OfficePort {
+  public:
+    void startShow(const std::filesystem::path& show, Ended ended) override;
+    void open(const std::filesystem::path& document) override;
 };
 
 /// The desktop's mail program, started by `xdg-email` with the subject and the file as arguments of their

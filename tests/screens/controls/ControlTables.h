@@ -7,6 +7,7 @@
 #include "screens/controls/DataSheetControls.h"
 #include "screens/controls/DeflectionControls.h"
 #include "screens/controls/FitsControls.h"
+#include "screens/controls/InformationControls.h"
 #include "screens/controls/LifeControls.h"
 #include "screens/controls/LoadControls.h"
 #include "screens/controls/MainMenuControls.h"
@@ -34,12 +35,8 @@ inline std::vector<ControlTable> controlTables() {
         {kFitsRows, fitsScenes()},
         {kApplicationRows, applicationScenes()},
         {kCorrespondenceRows, correspondenceScenes()},
+        {kInformationRows, informationScenes()},
     };
 }
-
-/// Forms whose controls have no rows.
-inline constexpr const char* kNotYetInTheTable[] = {
-    "Form4", "form5", "Form7", "Form8", "Form20", "Form21", "Form22", "Form29",
-};
 
 }  // namespace norlaplan::testing

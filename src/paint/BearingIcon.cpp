@@ -1,0 +1,93 @@
+#include "paint/BearingIcon.h"
+
+#include <QColor>
+#include <QPainter>
+#include <QPixmap>
+#include <cmath>
+#include <numbers>
+#include <vector>
+
+namespace norlaplan {
+namespace {
+
+constexpr double kOuterDiameter = 0.94;  // in parts of the icon
+constexpr double kBore = 0.50;
+constexpr double kPitchDiameter = (kOuterDiameter + kBore) / 2.0;
+constexpr double kRingThickness = 0.075;
+constexpr int kSmallIcon = 24;
+constexpr int kScalable = 256;
+
+const QColor kGap(232, 234, 242);
+const QColor kRing(42, 54, 104);
+const QColor kBall(190, 84, 0);
+
+/// A disc, or a ring when it has a width, around the icon's middle in parts of the icon.
+struct Circle {
+    double x, y, diameter, width;
+    QColor colour;
+};
+
+Circle ring(double outside, double inside, const QColor& colour) {
+    return {0.0, 0.0, (outside + inside) / 2.0, (outside - inside) / 2.0, colour};
+}
+
+std::vector<Circle> circlesOf(int pixels) {
+    std::vector<Circle> circles = {ring(kOuterDiameter, kBore, kGap),
+                                   ring(kOuterDiameter, kOuterDiameter - 2.0 * kRingThickness, kRing),
+                                   ring(kBore + 2.0 * kRingThickness, kBore, kRing)};
+    // Few balls where more would run into one another.
+    const int balls = pixels <= kSmallIcon ? 8 : 14;
+    const double ballDiameter = (kOuterDiameter - kBore) / 2.0 - kRingThickness;
+    for (int i = 0; i < balls; ++i) {
+        const double angle = 2.0 * std::numbers::pi * i / balls;
+        circles.push_back({kPitchDiameter / 2.0 * std::sin(angle), -kPitchDiameter / 2.0 * std::cos(angle),
+                           ballDiameter, 0.0, kBall});
+    }
+    return circles;
+}
+
+QByteArray number(double parts) {
+    return QByteArray::number(parts * kScalable, 'f', 2);
+}
+
+}  // namespace
+
+QImage bearingIconImage(int pixels) {
+    QImage picture(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(pixels / 2.0, pixels / 2.0);
+    painter.scale(pixels, pixels);
+    for (const Circle& circle : circlesOf(pixels)) {
+        painter.setPen(circle.width > 0.0 ? QPen(circle.colour, circle.width) : QPen(Qt::NoPen));
+        painter.setBrush(circle.width > 0.0 ? QBrush(Qt::NoBrush) : QBrush(circle.colour));
+        painter.drawEllipse(QPointF(circle.x, circle.y), circle.diameter / 2.0, circle.diameter / 2.0);
+    }
+    return picture;
+}
+
+QIcon bearingIcon() {
+    QIcon icon;
+    for (const int pixels : kIconSizes)
+        icon.addPixmap(QPixmap::fromImage(bearingIconImage(pixels)));
+    return icon;
+}
+
+QByteArray bearingIconSvg() {
+    const QByteArray size = QByteArray::number(kScalable);
+    QByteArray svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + size + "\" height=\"" + size +
+                     "\" viewBox=\"0 0 " + size + " " + size + "\">\n";
+    for (const Circle& circle : circlesOf(kScalable)) {
+        const QByteArray colour = circle.colour.name().toLatin1();
+        svg += "<circle cx=\"" + number(0.5 + circle.x) + "\" cy=\"" + number(0.5 + circle.y) + "\" r=\"" +
+               number(circle.diameter / 2.0) + "\" ";
+        svg += circle.width > 0.0
+                   ? "fill=\"none\" stroke=\"" + colour + "\" stroke-width=\"" + number(circle.width) + "\""
+                   : "fill=\"" + colour + "\"";
+        svg += "/>\n";
+    }
+    return svg + "</svg>\n";
+}
+
+}  // namespace norlaplan

@@ -1,0 +1,64 @@
+#include "state/FileFault.h"
+
+#include <cerrno>
+#include <string>
+
+namespace norlaplan {
+namespace {
+
+/// A path that fits a message: a long one lacks its middle.
+std::string shownPath(const std::filesystem::path& file) {
+    constexpr std::size_t kEnd = 120;
+    const std::string path = file.string();
+    if (path.size() <= 2 * kEnd + 3) return path;
+    const auto startsCharacter = [&](std::size_t at) {
+        return (static_cast<unsigned char>(path[at]) & 0xC0U) != 0x80U;
+    };
+    std::size_t left = kEnd, right = path.size() - kEnd;
+    while (!startsCharacter(left))
+        --left;
+    while (right < path.size() && !startsCharacter(right))
+        ++right;
+    return path.substr(0, left) + "..." + path.substr(right);
+}
+
+}  // namespace
+
+RuntimeError fileFault(int number, const std::filesystem::path& path) {
+    return {number, runtimeErrorText(number) + ": " + shownPath(path)};
+}
+
+void raiseFile(int fault, const std::filesystem::path& file) {
+    throw fileFault(fault, file);
+}
+
+int faultOfSystem(int code, int missing) {
+    switch (code) {
+        case ENOSPC:
+        case EDQUOT:
+        case EFBIG:
+            return fault::kDiskFull;
+        case EACCES:
+        case EPERM:
+        case EROFS:
+            return fault::kPermissionDenied;
+        case ENOENT:
+        case ENOTDIR:
+            return missing;
+        case EISDIR:
+        case ELOOP:
+            return fault::kPathAccess;
+        case ENAMETOOLONG:
+            return fault::kBadFileName;
+        default:
+            return fault::kDeviceIo;
+    }
+}
+
+void raiseSystem(int code, const std::filesystem::path& file, int missing) {
+    const int number = faultOfSystem(code, missing);
+    if (number != fault::kBadFileName) raiseFile(number, file);
+    throw RuntimeError(number, runtimeErrorText(number) + ": the name is too long: " + shownPath(file));
+}
+
+}  // namespace norlaplan

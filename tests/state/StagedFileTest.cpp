@@ -1,0 +1,219 @@
+#include <iterator>
+#include <string>
+#include <thread>
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "numbers/RuntimeError.h"
+#include "state/StagedFile.h"
+#include "state/WholeFile.h"
+#include "support/FaultOf.h"
+#include "support/RecordingPorts.h"
+
+namespace norlaplan {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::faultOf;
+using testing::TemporaryFolder;
+
+std::ptrdiff_t filesIn(const fs::path& folder) {
+    return std::distance(fs::directory_iterator(folder), {});
+}
+
+/// What the error says that the write of this path ends in.
+std::string complaint(const fs::path& path) {
+    try {
+        writeWholeFile(path, "new");
+    } catch (const RuntimeError& error) {
+        return error.what();
+    }
+    return "";
+}
+
+TEST(StagedFile, StandsBesideTheTargetUntilItIsCommitted) {
+    TemporaryFolder place;
+    place.write("DATA.RTF", "old");
+    {
+        StagedFile staged(place.path() / "DATA.RTF", "new");
+        EXPECT_EQ(place.read("DATA.RTF"), "old");
+        staged.commit();
+        EXPECT_EQ(place.read("DATA.RTF"), "new");
+    }
+    { const StagedFile dropped(place.path() / "DATA.RTF", "newer"); }
+    EXPECT_EQ(place.read("DATA.RTF"), "new");
+    EXPECT_EQ(filesIn(place.path()), 1);
+}
+
+TEST(StagedFile, WhoseFolderHasGoneIsSeventyFiveAtTheCommit) {
+    TemporaryFolder place;
+    place.write("folder/old", "");
+    StagedFile staged(place.path() / "folder" / "report.rtf", "new");
+    fs::remove_all(place.path() / "folder");
+    EXPECT_EQ(faultOf([&] { staged.commit(); }), fault::kPathAccess);
+}
+
+TEST(StagedFile, OfAKilledProgramIsTakenByTheNextSave) {
+    TemporaryFolder place;
+    place.write("report.rtf", "old");
+    for (int killed = 0; killed < 3; ++killed) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            // Neither the destructor nor the commit comes.
+            new StagedFile(place.path() / "report.rtf", std::string(5000, 'x'));
+            ::_exit(0);
+        }
+        ::waitpid(child, nullptr, 0);
+        EXPECT_EQ(filesIn(place.path()), 2) << "one waiting file, however often";
+    }
+    EXPECT_EQ(place.read("report.rtf"), "old");
+    writeWholeFile(place.path() / "report.rtf", "new");
+    EXPECT_EQ(place.read("report.rtf"), "new");
+    EXPECT_EQ(filesIn(place.path()), 1);
+}
+
+TEST(StagedFile, OfTwoProgramsAtOnceTheLaterIsWhole) {
+    TemporaryFolder place;
+    StagedFile one(place.path() / "report.rtf", std::string(9000, '1'));
+    StagedFile two(place.path() / "report.rtf", std::string(500, '2'));
+    two.commit();
+    EXPECT_EQ(place.read("report.rtf"), std::string(500, '2'));
+    one.commit();
+    EXPECT_EQ(place.read("report.rtf"), std::string(9000, '1'));
+    EXPECT_EQ(filesIn(place.path()), 1);
+}
+
+TEST(WriteWholeFile, FollowsALinkAndKeepsIt) {
+    TemporaryFolder place;
+    place.write("far/report.rtf", "old");
+    fs::create_symlink(place.path() / "far" / "report.rtf", place.path() / "report.rtf");
+    writeWholeFile(place.path() / "report.rtf", "new");
+    EXPECT_TRUE(fs::is_symlink(place.path() / "report.rtf"));
+    EXPECT_EQ(place.read("far/report.rtf"), "new");
+}
+
+TEST(WriteWholeFile, FollowsALinkWhoseTargetIsStillToBeMade) {
+    TemporaryFolder place;
+    place.write("far/other", "");
+    fs::create_symlink("far/second.rtf", place.path() / "first.rtf");
+    fs::create_symlink("report.rtf", place.path() / "far" / "second.rtf");
+    writeWholeFile(place.path() / "first.rtf", "new");
+    EXPECT_TRUE(fs::is_symlink(place.path() / "first.rtf"));
+    EXPECT_TRUE(fs::is_symlink(place.path() / "far" / "second.rtf"));
+    EXPECT_EQ(place.read("far/report.rtf"), "new");
+}
+
+TEST(WriteWholeFile, ALinkThatLeadsToItselfIsSeventyFive) {
+    TemporaryFolder place;
+    fs::create_symlink("b", place.path() / "a");
+    fs::create_symlink("a", place.path() / "b");
+    EXPECT_EQ(faultOf([&] { writeWholeFile(place.path() / "a", "new"); }), fault::kPathAccess);
+    EXPECT_TRUE(fs::is_symlink(place.path() / "a"));
+}
+
+TEST(WriteWholeFile, WritesThroughAPipeAndLeavesIt) {
+    TemporaryFolder place;
+    const fs::path pipe = place.path() / "report.rtf";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    const std::string content(300000, 'x');  // more than a pipe holds
+    std::string got;
+    std::thread reader([&] {
+        const Descriptor end(::open(pipe.c_str(), O_RDONLY));
+        char block[4096];
+        for (ssize_t count = 0; (count = ::read(end.number(), block, sizeof block)) > 0;)
+            got.append(block, static_cast<std::size_t>(count));
+    });
+    writeWholeFile(pipe, content);
+    reader.join();
+    EXPECT_EQ(got, content);
+    EXPECT_TRUE(fs::is_fifo(pipe));
+    EXPECT_EQ(filesIn(place.path()), 1);
+}
+
+TEST(WriteWholeFile, APipeWhoseReaderLeavesIsAnErrorAndNotTheEndOfTheProgram) {
+    TemporaryFolder place;
+    const fs::path pipe = place.path() / "report.rtf";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    std::thread reader([&] {
+        const Descriptor end(::open(pipe.c_str(), O_RDONLY));
+        char byte = 0;
+        EXPECT_EQ(::read(end.number(), &byte, 1), 1);
+    });
+    EXPECT_EQ(faultOf([&] { writeWholeFile(pipe, std::string(300000, 'x')); }), fault::kDeviceIo);
+    reader.join();
+}
+
+TEST(WriteWholeFile, WritesThroughADeviceAndLeavesIt) {
+    TemporaryFolder place;
+    if (!fs::is_character_file("/dev/full")) GTEST_SKIP() << "this system has no such device";
+    fs::create_symlink("/dev/full", place.path() / "report.rtf");
+    EXPECT_EQ(faultOf([&] { writeWholeFile(place.path() / "report.rtf", "new"); }), fault::kDiskFull);
+    writeWholeFile("/dev/null", "new");
+    EXPECT_TRUE(fs::is_character_file("/dev/full"));
+    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+    EXPECT_TRUE(fs::is_symlink(place.path() / "report.rtf"));
+}
+
+TEST(WriteWholeFile, TakesNamesAsLongAsTheDiskDoesAndSaysSoBeyond) {
+    TemporaryFolder place;
+    const std::string longest(255, 'n');
+    writeWholeFile(place.path() / longest, "new");
+    EXPECT_EQ(place.read(longest), "new");
+    // Two that differ at their ends alone wait under names of their own.
+    StagedFile one(place.path() / (std::string(254, 'n') + "1"), "one");
+    StagedFile two(place.path() / (std::string(254, 'n') + "2"), "two");
+    one.commit();
+    two.commit();
+    EXPECT_EQ(place.read(std::string(254, 'n') + "1"), "one");
+    EXPECT_EQ(filesIn(place.path()), 3);
+
+    EXPECT_EQ(faultOf([&] { writeWholeFile(place.path() / std::string(256, 'n'), "new"); }),
+              fault::kBadFileName);
+    EXPECT_EQ(faultOf([&] { readWholeFile(place.path() / std::string(256, 'n')); }), fault::kBadFileName);
+    std::string endless = place.path().string();
+    while (endless.size() < 9000)
+        endless += "/folder";
+    const std::string told = complaint(endless);
+    EXPECT_NE(told.find("the name is too long"), std::string::npos) << told;
+    EXPECT_LT(told.size(), 400U);
+}
+
+TEST(WriteWholeFile, SaysWhichFileFailed) {
+    TemporaryFolder place;
+    const fs::path missing = place.path() / "missing" / "report.rtf";
+    EXPECT_EQ(complaint(missing), "Path/File access error: " + missing.string());
+    EXPECT_EQ(complaint(place.path()), "Path/File access error: " + place.path().string());
+}
+
+TEST(TwoFiles, GoIntoPlaceTogether) {
+    TemporaryFolder place;
+    place.write("DATA.RTF", "old sheet");
+    place.write("CONDENSED.DAT", "old records");
+    StagedFile sheet(place.path() / "DATA.RTF", "new sheet");
+    StagedFile records(place.path() / "CONDENSED.DAT", "new records");
+    commitTogether(sheet, records);
+    EXPECT_EQ(place.read("DATA.RTF"), "new sheet");
+    EXPECT_EQ(place.read("CONDENSED.DAT"), "new records");
+    EXPECT_EQ(filesIn(place.path()), 2);
+}
+
+TEST(TwoFiles, TheFirstGoesBackWhenTheSecondCannotBePutInPlace) {
+    for (const bool hadOne : {true, false}) {
+        TemporaryFolder place;
+        if (hadOne) place.write("DATA.RTF", "old sheet");
+        StagedFile sheet(place.path() / "DATA.RTF", "new sheet");
+        StagedFile records(place.path() / "CONDENSED.DAT", "new records");
+        // A folder with something in it can't be replaced.
+        place.write("CONDENSED.DAT/other", "");
+        EXPECT_EQ(faultOf([&] { commitTogether(sheet, records); }), fault::kPathAccess);
+        EXPECT_EQ(fs::exists(place.path() / "DATA.RTF"), hadOne);
+        EXPECT_EQ(hadOne ? place.read("DATA.RTF") : "old sheet", "old sheet");
+    }
+}
+
+}  // namespace
+}  // namespace norlaplan
