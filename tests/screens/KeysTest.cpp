@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QLineEdit>
 
 #include "screens/Everything.h"
@@ -20,6 +21,24 @@ class KeysTest : public QObject {
             QTest::keyClick(focus == nullptr ? &form : focus, Qt::Key_Escape);
             QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
         }
+    }
+
+    void whateverTakesTheFocusOnAnyFormIsReadAloud() {
+        Everything program;
+        QStringList silent;
+        for (const FormEntry& entry : formRegistry()) {
+            const Form& form = program.open(entry.name);
+            for (auto* const widget : form.findChildren<QWidget*>()) {
+                // Parts that a control makes for itself are read with it.
+                if ((widget->focusPolicy() & Qt::TabFocus) == 0 || widget->objectName().isEmpty() ||
+                    widget->objectName().startsWith("qt_"))
+                    continue;
+                QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(widget);
+                if (spoken == nullptr || spoken->text(QAccessible::Name).trimmed().isEmpty())
+                    silent << form.objectName() + "." + widget->objectName();
+            }
+        }
+        QVERIFY2(silent.isEmpty(), qPrintable(silent.join(", ")));
     }
 
     void escapeEndsNothingOnTheMainMenu() {
