@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "numbers/RuntimeError.h"
+#include "numbers/Text.h"
 #include "state/FileFault.h"
 
 namespace norlaplan {
@@ -11,13 +12,6 @@ namespace {
 constexpr const char* kFolder = "\\bearing pictures\\";
 constexpr const char* kFile = "\\bearing pictures\\Product Lines.txt";
 constexpr std::size_t kMostLines = 30, kLongestName = 60;
-
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view kBlank = " \t\r";
-    const std::size_t from = text.find_first_not_of(kBlank);
-    if (from == std::string_view::npos) return {};
-    return text.substr(from, text.find_last_not_of(kBlank) - from + 1);
-}
 
 /// Takes the file's lines one by one.
 class LineReader {
@@ -63,7 +57,9 @@ std::vector<ProductLine> readProductLines(std::string_view content) {
     LineReader reader;
     while (!content.empty()) {
         const std::size_t end = std::min(content.find('\n'), content.size());
-        reader.take(trimmed(content.substr(0, end)));
+        std::string_view line = content.substr(0, end);
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        reader.take(trimmed(line));
         content.remove_prefix(std::min(end + 1, content.size()));
     }
     return reader.lines();

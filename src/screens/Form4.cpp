@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "documents/DataSheet.h"
 #include "paint/BearingIcon.h"
 #include "screens/FormBuilder.h"
 #include "screens/Screens.h"
@@ -20,7 +21,7 @@ Form4::Form4(Screens& screens) : Form(screens, forms::kAbout, "About Norlaplan-M
     auto* const image = build::label("Image1");
     image->setPixmap(bearingIcon().pixmap(QSize(kImageSize, kImageSize), devicePixelRatioF()));
     image->setAccessibleName(QStringLiteral("A thin-section ball bearing"));
-    auto* const release = build::heading("Label1", "NORLAPLAN-MM version 1.00");
+    auto* const release = build::heading("Label1", kProgramVersion);
     release->setWordWrap(false);
     auto* const purpose = build::label("Label2", "Selects and calculates Varden thin-section ball bearings.");
     auto* const owner = build::label("Label3", "Copyright © 2026 The NORLAPLAN-MM developers. MIT License.");

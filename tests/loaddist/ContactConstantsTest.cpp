@@ -7,11 +7,14 @@
 #include "loaddist/EllipticEstimate.h"
 #include "loaddist/EllipticIntegrals.h"
 #include "loaddist/radlodestar2.h"
+#include "support/ContactInputs.h"
 #include "support/PlainContact.h"
 #include "support/SolverCases.h"
 
 namespace norlaplan {
 namespace {
+
+using testing::inputsOf;
 
 constexpr double kTruePi = 3.141592653589793;
 constexpr double kTrueHalfPi = kTruePi / 2.0;
@@ -48,20 +51,6 @@ TEST(EllipticEstimate, GivesTheCurvatureRatioOfThePanelsFarWithinItsMargin) {
         worst = std::max(worst, std::fabs(estimate / panels - 1.0));
     }
     EXPECT_LT(worst, 1e-11);
-}
-
-SolverState inputsOf(const plain::Bearing& bearing, double angle) {
-    SolverState state;
-    state.BallDiameter = static_cast<double>(bearing.ballDiameter);
-    state.PitchDiameter = static_cast<double>(bearing.pitchDiameter);
-    state.InnerConformityPct = 100.0 * static_cast<double>(bearing.grooveRadius) / state.BallDiameter;
-    state.OuterConformityPct = state.InnerConformityPct;
-    state.InnerModulusMpsi = 29.0;
-    state.OuterModulusMpsi = 29.0;
-    state.InnerPoisson = 0.25;
-    state.OuterPoisson = 0.25;
-    state.ContactAngle = angle;
-    return state;
 }
 
 void expectSameRace(const plain::Race& expected, Single K, Single E, Single kappaSq, Single kappa,

@@ -11,6 +11,7 @@
 #include "loaddist/SameSolve.h"
 #include "loaddist/radlodestar2.h"
 #include "numbers/RuntimeError.h"
+#include "support/ContactInputs.h"
 #include "support/FullCount.h"
 #include "support/RecordingPorts.h"
 #include "support/SolverCases.h"
@@ -21,6 +22,7 @@ namespace {
 using testing::argumentsOf;
 using testing::expectTheSame;
 using testing::fullCount;
+using testing::inputsOf;
 
 class Chance {
   public:
@@ -147,16 +149,7 @@ TEST(RandomGeometries, HaveTheContactConstantsOfThePlainTranscription) {
         const Single angle = chance.oneOf(std::vector<double>{0.0, 0.5235988, 0.3, 0.9});
         plain::Result expected;
         plain::contactConstants(bearing, angle, expected);
-        SolverState state;
-        state.BallDiameter = static_cast<double>(bearing.ballDiameter);
-        state.PitchDiameter = static_cast<double>(bearing.pitchDiameter);
-        state.InnerConformityPct = 100.0 * static_cast<double>(bearing.grooveRadius) / state.BallDiameter;
-        state.OuterConformityPct = state.InnerConformityPct;
-        state.InnerModulusMpsi = 29.0;
-        state.OuterModulusMpsi = 29.0;
-        state.InnerPoisson = 0.25;
-        state.OuterPoisson = 0.25;
-        state.ContactAngle = angle;
+        SolverState state = inputsOf(bearing, angle);
         ContactConstants(state);
         ASSERT_EQ(state.Kn.stored(), expected.Kn);
         ASSERT_EQ(state.CiCo, expected.CiCo);
