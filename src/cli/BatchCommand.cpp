@@ -83,10 +83,12 @@ class Batch {
             slot.solved = workers_[worker]->solve(slot.row, *slot.part, slot.line);
         });
         Interrupts::check();
+        lines_.clear();
         for (std::size_t i = 0; i < used_; ++i) {
-            results_.append(slots_[i].line);
+            lines_ += slots_[i].line;
             if (!slots_[i].solved) ++failed_;
         }
+        results_.append(lines_);
     }
 
     const BatchOptions& options_;
@@ -96,6 +98,7 @@ class Batch {
     std::vector<std::unique_ptr<BatchWorker>> workers_;
     std::map<std::string, DecodedPart> parts_;
     std::vector<Slot> slots_;
+    std::string lines_;  ///< of the slots, one behind the other
     std::size_t used_ = 0, total_ = 0, failed_ = 0;
 };
 
