@@ -110,9 +110,9 @@ void PrintPreview::layOut(bool hasPrinter) {
             "any computer can print.");
     }
     notice_->setVisible(!hasPrinter);
-    connect(&saved_->open(), &QPushButton::clicked, this, [this] { open(saved_->path()); });
+    connect(&saved_->open(), &QPushButton::clicked, this, [this] { openSaved(saved_->path()); });
     connect(&saved_->showInFolder(), &QPushButton::clicked, this,
-            [this] { open(saved_->path().parent_path()); });
+            [this] { openSaved(saved_->path().parent_path()); });
 
     auto* const top = theme::spaced(new QHBoxLayout, 0);
     top->addWidget(previous_);
@@ -196,7 +196,7 @@ void PrintPreview::saveAsPdf() {
     close_->setFocus();
 }
 
-void PrintPreview::open(const std::filesystem::path& path) {
+void PrintPreview::openSaved(const std::filesystem::path& path) {
     if (desktop_.open(path)) return;
     notice_->setText("This desktop has no program that opens " + QString::fromStdString(path.string()));
     notice_->show();

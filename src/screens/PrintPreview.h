@@ -43,7 +43,7 @@ class PrintPreview : public QDialog {
     void showPageWidth();
     void print();
     void saveAsPdf();
-    void open(const std::filesystem::path& path);
+    void openSaved(const std::filesystem::path& path);
     /// Runs an action of a button. A failure ends the preview, and `run` raises it.
     void guarded(void (PrintPreview::*action)());
 

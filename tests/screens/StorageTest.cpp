@@ -84,7 +84,7 @@ class StorageTest : public QObject {
         files.write("notes", "old");
         {
             const FullDisk disk(home.path());
-            QVERIFY_EXCEPTION_THROWN(files.write("notes", std::string(2000, 'x')), RuntimeError);
+            QVERIFY_THROWS_EXCEPTION(RuntimeError, files.write("notes", std::string(2000, 'x')));
         }
         QCOMPARE(files.read("notes"), std::string("old"));
         QCOMPARE(std::distance(std::filesystem::directory_iterator(home.path()), {}), 1);

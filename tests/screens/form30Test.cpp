@@ -11,7 +11,7 @@ namespace norlaplan::testing {
 namespace {
 
 constexpr const char* kForm = "form30";
-const QColor kGroove(0, 0, 0), kRing(0, 128, 0), kDimension(128, 0, 0), kEllipse(0, 0, 128);
+const QColor kGroove(0, 0, 0), kRing(0, 128, 0), kEllipse(0, 0, 128);
 
 bool hasDrawn(const QImage& image, QPointF place, QColor colour, int reach = 1) {
     return hasInk(image, place, colour, Qt::white, reach);
