@@ -17,6 +17,7 @@ constexpr double kUnitsWide = 15000.0;
 constexpr double kUnitsHigh = 11550.0;
 constexpr double kPageWidth = 11.0;
 constexpr double kPageHeight = 8.5;
+constexpr Paper kScreenPicture{8.5, 8.5};
 
 PagePoint onPage(double x, double y) {
     return {(kPageWidth - kUnitsWide / kUnitsPerInch) / 2.0 + x / kUnitsPerInch,
@@ -84,7 +85,6 @@ void printBallLoads(const ProgramState& state, ClockPort& clock, const BallLoadV
 }
 
 Document ballLoadsDocument(const ProgramState& state, const BallLoadView& view, ClockPort& clock) {
-    constexpr Paper kScreenPicture{8.5, 8.5};
     Document document;
     document.title = "Ball loads of " + state.bearing.partNumber;
     document.filters.clear();

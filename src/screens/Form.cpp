@@ -43,6 +43,13 @@ Form::Form(Screens& screens, FormName name, const QString& caption)
     outer_->setSpacing(0);
 }
 
+Form::~Form() {
+    // The window closes after this: a field that loses the focus there would report to a form that is gone.
+    disconnect(qApp, nullptr, this, nullptr);
+    for (QObject* child : findChildren<QObject*>())
+        disconnect(child, nullptr, this, nullptr);
+}
+
 QVBoxLayout& Form::page() {
     if (page_ == nullptr) {
         page_ = new QWidget;

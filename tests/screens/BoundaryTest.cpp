@@ -5,6 +5,20 @@
 using namespace norlaplan;
 using namespace norlaplan::testing;
 
+namespace {
+
+/// One field that counts how often it was left.
+class FieldForm : public Form {
+  public:
+    FieldForm(Screens& screens, int& left) : Form(screens, forms::kUnits, "") {
+        auto* const field = new QLineEdit;
+        page().addWidget(field);
+        on(field, &QLineEdit::editingFinished, "", [&left] { ++left; });
+    }
+};
+
+}  // namespace
+
 class BoundaryTest : public QObject {
     Q_OBJECT
 
@@ -60,6 +74,20 @@ class BoundaryTest : public QObject {
         const Form& form = program.screens.form(forms::kUnits);
         const QPoint off = form.frameGeometry().center() - form.screen()->geometry().center();
         QVERIFY(off.manhattanLength() <= 4);
+    }
+
+    void the_end_of_a_form_runs_no_action_of_the_field_that_had_the_focus() {
+        int left = 0;
+        {
+            Program program;
+            program.screens.add(forms::kUnits,
+                                [&left](Screens& all) { return std::make_unique<FieldForm>(all, left); });
+            program.screens.show(forms::kUnits);
+            auto* const field = program.screens.form(forms::kUnits).findChild<QLineEdit*>();
+            QTRY_VERIFY(field->hasFocus());
+            QTest::keyClicks(field, "1");
+        }
+        QCOMPARE(left, 0);
     }
 
     void enter_presses_the_button_that_has_the_focus() {
