@@ -3,7 +3,7 @@
 say() { printf '== %s\n' "$*" >&2; }
 
 packages=(
-  g++ cmake ninja-build ccache clang-format-14 python3 pkg-config
+  g++ clang-14 libclang-rt-14-dev llvm-14 cmake ninja-build ccache clang-format-14 python3 pkg-config
   qt6-base-dev qt6-qpa-plugins libgl1-mesa-dev fonts-liberation
   nlohmann-json3-dev libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev
 )
@@ -28,12 +28,17 @@ install_packages() {
     "${missing[@]}" >/dev/null
 }
 
-build() {
-  say "building ($1)"
+# configure PRESET [options of cmake...]
+configure() {
   local launcher=()
   command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
-  cmake --preset "$1" "${launcher[@]}" >/dev/null
-  cmake --build --preset "$1"
+  cmake --preset "$1" "${launcher[@]}" "${@:2}" >/dev/null
+}
+
+# build PRESET [targets...]
+build() {
+  say "building ($1)"
+  cmake --build --preset "$1" ${2:+--target "${@:2}"}
 }
 
 check_format() {

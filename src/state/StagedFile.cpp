@@ -57,7 +57,8 @@ std::string waitingName(const fs::path& target) {
         std::size_t end = kKept;
         while ((static_cast<unsigned char>(name[end]) & 0xC0U) == 0x80U)
             --end;
-        name = name.substr(0, end) + "." + std::to_string(number);
+        name.resize(end);
+        name += "." + std::to_string(number);
     }
     return (target.parent_path() / ("." + name + ".part")).string();
 }

@@ -18,7 +18,7 @@ fail() {
 
 preset=${1:-package}
 build=build/$preset
-if [[ $preset == package ]]; then build package; fi
+if [[ $preset == package ]]; then configure package && build package; fi
 
 say "packing"
 rm -rf "$build/deb"
