@@ -26,7 +26,7 @@ std::string shown(const Int16& value) {
 CommandResult decodeCommand(Session& session, const PartNumberOption& number) {
     session.decode(number);
     CommandResult result;
-    std::vector<std::vector<std::string>> rows;
+    TextRows rows;
     visitBearing(session.state().bearing, [&](const char* name, const auto& value) {
         result.json[name] = toJson(value);
         rows.push_back({name, shown(value)});

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <vector>
 
 #include "cli/CommandError.h"
@@ -7,39 +8,22 @@
 #include "deflection/DeflectionFieldEntry.h"
 #include "deflection/DeflectionTexts.h"
 #include "numbers/FormatNumber.h"
+#include "state/DeflectionValues.h"
 #include "state/MenuConditions.h"
 
 namespace norlaplan::cli {
 namespace {
 
-using Row = std::vector<std::string>;
-
-template <typename Number>
-Json optionalJson(const std::optional<Number>& value) {
-    return value ? toJson(*value) : Json(nullptr);
-}
-
 Json curveJson(const std::vector<CurvePoint>& curve) {
-    if (curve.empty()) return nullptr;
-    Json points = Json::array();
-    for (const CurvePoint& point : curve)
-        points.push_back({toJson(point.load), toJson(point.deflection)});
-    return points;
+    return curve.empty() ? Json(nullptr) : rowsJson(curve, &CurvePoint::load, &CurvePoint::deflection);
 }
 
 Json deflectionJson(const DeflectionResult& result, const DeflectionTexts& texts) {
     Json json;
-    json["radialSpringRate"] = optionalJson(result.radialSpringRate);
-    json["radialReliefLoad"] = optionalJson(result.radialReliefLoad);
-    json["axialSpringRate"] = optionalJson(result.axialSpringRate);
-    json["axialReliefLoad"] = optionalJson(result.axialReliefLoad);
-    json["momentSpringRate"] = optionalJson(result.momentSpringRate);
-    json["momentReliefLoad"] = optionalJson(result.momentReliefLoad);
-    json["radialConstant"] = optionalJson(result.radialConstant);
-    json["momentConstant1"] = optionalJson(result.momentConstant1);
-    json["momentConstant2"] = optionalJson(result.momentConstant2);
-    json["initialTilt"] = optionalJson(result.initialTilt);
-    json["initialAngle"] = texts.initialAngle.empty() ? Json(nullptr) : toJson(texts.initialAngle);
+    visitDeflection(result, [&](const char* name, const auto& value) {
+        json[name] = jsonOrNull(value ? &*value : nullptr);
+    });
+    json["initialAngle"] = jsonOrNull(texts.initialAngle.empty() ? nullptr : &texts.initialAngle);
     json["curveOffset"] = toJson(result.curveOffset);
     json["axialPoints"] = texts.axialPoints.empty() ? Json(nullptr) : Json(texts.axialPoints);
     json["radialCurve"] = curveJson(result.radialCurve);
@@ -48,32 +32,30 @@ Json deflectionJson(const DeflectionResult& result, const DeflectionTexts& texts
     return json;
 }
 
-/// A column for each load that the style carries.
+/// A column for each load that the style carries, and a row for what there is of any of them.
 std::string constantsTable(const DeflectionResult& result, const DeflectionTexts& texts,
                            const UnitMode& units) {
     const std::string linear = " (" + units.loadUnit + ", " + units.lengthUnit + ")";
-    std::vector<Row> rows = {{"", "Radial" + linear}};
-    if (result.input.preload != 0.0) {
-        rows.push_back({"Spring rate", texts.radialSpringRate});
-        rows.push_back({"Relief load", texts.radialReliefLoad});
+    TextRows rows = {{"", "Radial" + linear, "Axial" + linear, "Moment (" + units.momentUnit + ", radians)"},
+                     {"Spring rate", texts.radialSpringRate, texts.axialSpringRate, texts.momentSpringRate},
+                     {"Relief load", texts.radialReliefLoad, texts.axialReliefLoad, texts.momentReliefLoad},
+                     {"Deflection constant", texts.radialConstant, "", texts.momentConstant1},
+                     {"Linear constant", "", "", texts.momentConstant2},
+                     {"Initial tilt", "", "", texts.initialTilt},
+                     {"Initial angle (degrees)", "", "", texts.initialAngle}};
+    if (result.axialPoints.empty()) {
+        for (TextRow& row : rows)
+            row.resize(2);
     }
-    rows.push_back({"Deflection constant", texts.radialConstant});
-    if (result.axialPoints.empty()) return textTable(rows, true);
-    rows[0].insert(rows[0].end(), {"Axial" + linear, "Moment (" + units.momentUnit + ", radians)"});
-    if (result.input.preload != 0.0) {
-        rows[1].insert(rows[1].end(), {texts.axialSpringRate, texts.momentSpringRate});
-        rows[2].insert(rows[2].end(), {texts.axialReliefLoad, texts.momentReliefLoad});
-    }
-    rows.back().insert(rows.back().end(), {"", texts.momentConstant1});
-    rows.push_back({"Linear constant", "", "", texts.momentConstant2});
-    if (result.initialTilt) rows.push_back({"Initial tilt", "", "", texts.initialTilt});
-    if (result.initialAngle) rows.push_back({"Initial angle (degrees)", "", "", texts.initialAngle});
+    std::erase_if(rows, [](const TextRow& row) {
+        return std::all_of(row.begin() + 1, row.end(), [](const std::string& cell) { return cell.empty(); });
+    });
     return textTable(rows, true);
 }
 
 /// Appends a curve's columns in display units.
-void addColumns(std::vector<Row>& rows, const std::vector<CurvePoint>& curve, const Row& heads,
-                double loadFactor, double deflectionFactor) {
+void addColumns(TextRows& rows, const std::vector<CurvePoint>& curve, const TextRow& heads, double loadFactor,
+                double deflectionFactor) {
     if (curve.empty()) return;
     rows[0].insert(rows[0].end(), heads.begin(), heads.end());
     for (std::size_t i = 0; i < curve.size(); ++i) {
@@ -83,7 +65,7 @@ void addColumns(std::vector<Row>& rows, const std::vector<CurvePoint>& curve, co
 }
 
 std::string curvesTable(const DeflectionResult& result, const UnitMode& units) {
-    std::vector<Row> rows(result.radialCurve.size() + 1);
+    TextRows rows(result.radialCurve.size() + 1);
     const std::string deflection = "Deflection (" + units.lengthUnit + ")";
     addColumns(rows, result.radialCurve, {"Radial (" + units.loadUnit + ")", deflection}, units.forceFactor,
                units.lengthFactor);

@@ -17,42 +17,44 @@ Json solverJson(const SolverState& solver) {
     return json;
 }
 
+/// Calls `visit(row, ball)` for every ball, row by row.
+template <typename Visit>
+void forEachBall(const SolverState& solver, Visit visit) {
+    for (int row = 1; row <= solver.RowCount; ++row) {
+        for (int ball = 1; ball <= solver.BallCount; ++ball)
+            visit(row, ball);
+    }
+}
+
 Json ballsJson(const SolverState& solver) {
     Json balls = Json::array();
-    for (int row = 1; row <= solver.RowCount; ++row) {
-        for (int ball = 1; ball <= solver.BallCount; ++ball) {
-            Json json = {{"row", row}, {"ball", ball}};
-            visitBall(solver, row, ball,
-                      [&](const char* name, const auto& value) { json[name] = toJson(value); });
-            balls.push_back(std::move(json));
-        }
-    }
+    forEachBall(solver, [&](int row, int ball) {
+        Json json = {{"row", row}, {"ball", ball}};
+        visitBall(solver, row, ball,
+                  [&](const char* name, const auto& value) { json[name] = toJson(value); });
+        balls.push_back(std::move(json));
+    });
     return balls;
 }
 
 Json lifeJson(const ProgramState& state) {
     Json json;
-    visitLife(state, [&](const char* name, const auto* value) {
-        json[name] = value == nullptr ? Json(nullptr) : toJson(*value);
-    });
+    visitLife(state, [&](const char* name, const auto* value) { json[name] = jsonOrNull(value); });
     json["solver"] = solverJson(state.solver);
     json["balls"] = ballsJson(state.solver);
     return json;
 }
 
 std::string ballTable(const SolverState& solver) {
-    std::vector<std::vector<std::string>> rows = {{"Row", "Ball", "Deflection (in)", "Load (lb)",
-                                                   "Angle (deg)", "Inner stress (psi)",
-                                                   "Outer stress (psi)"}};
-    for (int row = 1; row <= solver.RowCount; ++row) {
-        for (int ball = 1; ball <= solver.BallCount; ++ball) {
-            rows.push_back(
-                {plainText(row), plainText(ball), FormatNumber(solver.BallDeflection(row, ball), "0.000000"),
-                 FormatNumber(solver.BallLoad(row, ball), "0.00"), trimmed(solver.BallAngleText(row, ball)),
-                 FormatNumber(solver.InnerStress(row, ball), "#,##0"),
-                 FormatNumber(solver.OuterStress(row, ball), "#,##0")});
-        }
-    }
+    TextRows rows = {{"Row", "Ball", "Deflection (in)", "Load (lb)", "Angle (deg)", "Inner stress (psi)",
+                      "Outer stress (psi)"}};
+    forEachBall(solver, [&](int row, int ball) {
+        rows.push_back(
+            {plainText(row), plainText(ball), FormatNumber(solver.BallDeflection(row, ball), "0.000000"),
+             FormatNumber(solver.BallLoad(row, ball), "0.00"), trimmed(solver.BallAngleText(row, ball)),
+             FormatNumber(solver.InnerStress(row, ball), "#,##0"),
+             FormatNumber(solver.OuterStress(row, ball), "#,##0")});
+    });
     return textTable(rows, true);
 }
 

@@ -1,4 +1,4 @@
-#include <vector>
+#include <span>
 
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
@@ -12,13 +12,9 @@ namespace norlaplan::cli {
 namespace {
 
 Json playJson(const PlayCurve& play) {
-    Json curve = Json::array();
-    for (int i = 1; i <= play.rowCount; ++i) {
-        const PlayPoint& row = play.row(i);
-        curve.push_back({toJson(row.clearance), toJson(row.axialPlay), toJson(row.tilt)});
-    }
+    const auto rows = std::span(play.rows).subspan(1, static_cast<std::size_t>(play.rowCount));
     return {{"rowCount", play.rowCount},
-            {"curve", curve},
+            {"curve", rowsJson(rows, &PlayPoint::clearance, &PlayPoint::axialPlay, &PlayPoint::tilt)},
             {"clearanceLow", toJson(play.clearanceLow)},
             {"clearanceHigh", toJson(play.clearanceHigh)},
             {"curveClearanceMax", toJson(play.curveClearanceMax)},
@@ -36,7 +32,7 @@ std::string curveTable(const ProgramState& state) {
     const PlayCurve& play = state.play;
     const char* const clearance = isMetric(units) ? "0.00000" : "0.0000";
     const char* const length = isMetric(units) ? "0.0000" : "0.00000";
-    std::vector<std::vector<std::string>> table = {
+    TextRows table = {
         {"Clearance (" + units.lengthUnit + ")", "Axial play (" + units.lengthUnit + ")", "Tilt (radians)"}};
     for (int i = 1; i <= play.rowCount; ++i) {
         const PlayPoint& row = play.row(i);

@@ -76,8 +76,7 @@ CommandResult searchCommand(Session& session, const SearchOptions& options, cons
     CommandResult result;
     result.json["hitCount"] = static_cast<int>(state.search.rows.size());
     Json rows = Json::array();
-    std::vector<std::vector<std::string>> table = {
-        {"Bearing", "Speed limit", "L10 (rev)", "L10 (h)", "Bore", "O.D.", "Height", "Stock"}};
+    TextRows table = {{"Bearing", "Speed limit", "L10 (rev)", "L10 (h)", "Bore", "O.D.", "Height", "Stock"}};
     for (const SearchHit& hit : state.search.rows) {
         rows.push_back({{"name", hit.name},
                         {"speedLimit", hit.speedLimit},

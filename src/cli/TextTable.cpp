@@ -18,7 +18,7 @@ struct Column {
     bool numeric = true;
 };
 
-std::vector<Column> measure(const std::vector<std::vector<std::string>>& rows, bool head) {
+std::vector<Column> measure(const TextRows& rows, bool head) {
     std::vector<Column> columns;
     for (std::size_t row = 0; row < rows.size(); ++row) {
         columns.resize(std::max(columns.size(), rows[row].size()));
@@ -34,7 +34,7 @@ std::vector<Column> measure(const std::vector<std::vector<std::string>>& rows, b
 
 }  // namespace
 
-std::string textTable(const std::vector<std::vector<std::string>>& rows, bool head) {
+std::string textTable(const TextRows& rows, bool head) {
     const std::vector<Column> columns = measure(rows, head);
     std::string text;
     for (const auto& row : rows) {

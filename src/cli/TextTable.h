@@ -5,8 +5,11 @@
 
 namespace norlaplan::cli {
 
+using TextRow = std::vector<std::string>;
+using TextRows = std::vector<TextRow>;
+
 /// Rows of cells as text with the columns in line; the first row is the head when `head` is set. Columns in
 /// which every cell under the head is empty or a number are set to the right.
-std::string textTable(const std::vector<std::vector<std::string>>& rows, bool head);
+std::string textTable(const TextRows& rows, bool head);
 
 }  // namespace norlaplan::cli

@@ -1,4 +1,4 @@
-#include <vector>
+#include <span>
 
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
@@ -20,8 +20,7 @@ Json axesJson(const TorqueAxes& axes) {
 std::string curveTable(const ProgramState& state) {
     const UnitMode& units = state.units;
     const bool metric = isMetric(units);
-    std::vector<std::vector<std::string>> table = {
-        {"Preload (" + units.lengthUnit + ")", "Torque (" + units.momentUnit + ")"}};
+    TextRows table = {{"Preload (" + units.lengthUnit + ")", "Torque (" + units.momentUnit + ")"}};
     for (int i = 1; i <= TorqueCurve::kPoints; ++i) {
         const TorquePoint& row = state.torque.row(i);
         table.push_back({FormatNumber(row.preload * units.lengthFactor, metric ? "0.00000" : "0.0000"),
@@ -43,12 +42,8 @@ CommandResult torqueCommand(Session& session, const PartNumberOption& number) {
     calculateTorque(session, number);
     const ProgramState& state = session.state();
     CommandResult result;
-    Json curve = Json::array();
-    for (int i = 1; i <= TorqueCurve::kPoints; ++i) {
-        const TorquePoint& row = state.torque.row(i);
-        curve.push_back({toJson(row.preload), toJson(row.torque)});
-    }
-    result.json["curve"] = curve;
+    result.json["curve"] = rowsJson(std::span(state.torque.rows).subspan(1, TorqueCurve::kPoints),
+                                    &TorquePoint::preload, &TorquePoint::torque);
     result.json["axes"] = axesJson(computeTorqueAxes(state.torque, state.units));
     result.text = state.bearing.partNumber + "\n\n" + curveTable(state);
     return result;
