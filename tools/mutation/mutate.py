@@ -23,7 +23,7 @@ import kinds  # noqa: E402
 import report  # noqa: E402
 from cpp_text import Source  # noqa: E402
 from mutant import Mutant, read_equivalent  # noqa: E402
-from workshop import Workshop, programs_of  # noqa: E402
+from workshop import Workshop, stages_of  # noqa: E402
 
 ROOT = Path(__file__).resolve().parents[2]
 FOLDERS = ("numbers", "state", "documents", "loaddist", "capacity", "catalogue", "search", "deflection", "fits", "help",
@@ -88,7 +88,7 @@ def main():
             for mutant in chosen:
                 print(f"{mutant.path}:{mutant.line}: {mutant.kind}\n{mutant.difference()}\n")
             continue
-        outcomes[folder] = workshop.try_all(folder, programs_of(ROOT, folder), chosen, equivalent)
+        outcomes[folder] = workshop.try_all(folder, stages_of(ROOT, folder), chosen, equivalent)
         print(report.line(folder, outcomes[folder]), flush=True)
     if not options.list:
         path = options.work / "report.md"

@@ -34,19 +34,20 @@ USERS = {"numbers": ["state", "documents", "loaddist", "capacity", "catalogue", 
          "catalogue": ["search", "deflection", "fits"]}
 
 
-def programs_of(root, folder):
-    """The tests that answer for a folder, its own first: (target to build, command in the build folder)."""
+def stages_of(root, folder):
+    """The tests that answer for a folder, nearest first. Each stage is built once the one before it has left something
+    unnoticed; its programs are (target to build, command in the build folder)."""
     command_line = ("norlaplan-cli",
                     [sys.executable, "-m", "unittest", "discover", "--failfast", "-s", "../tree/tests/cli"])
     screens = [(f"test_screens_{path.stem}", [f"tests/test_screens_{path.stem}"])
                for path in sorted((root / "tests" / "screens").glob("*Test.cpp"))]
     if folder == "cli":
-        return [command_line]
+        return [[command_line]]
     if folder == "screens":
-        return screens
-    logic = [(f"test_{one}", [f"tests/test_{one}", "--gtest_fail_fast", "--gtest_brief=1"])
-             for one in [folder, *USERS.get(folder, [])]]
-    return logic + (screens if folder in ("paint", "help") else [command_line])
+        return [screens]
+    own, *users = [(f"test_{one}", [f"tests/test_{one}", "--gtest_fail_fast", "--gtest_brief=1"])
+                   for one in [folder, *USERS.get(folder, [])]]
+    return [[own], *([users] if users else []), screens if folder in ("paint", "help") else [command_line]]
 
 
 class Workshop:
@@ -59,6 +60,7 @@ class Workshop:
         (work / "chooser.h").write_text(CHOOSER)
         self.results_path = work / "results.json"
         self.results = json.loads(self.results_path.read_text()) if self.results_path.exists() else {}
+        self.seconds = {}  # that each test program takes when nothing is wrong
         self.copy_tree()
         flags = f"-O1 -Wno-error=unused-function -include {work / 'chooser.h'}"
         self.call(["cmake", "-G", "Ninja", "-S", self.tree, "-B", self.build, "-DCMAKE_BUILD_TYPE=",
@@ -100,7 +102,7 @@ class Workshop:
                     found.update(path.read_bytes())
         return found.hexdigest()
 
-    def try_all(self, folder, programs, chosen, equivalent):
+    def try_all(self, folder, stages, chosen, equivalent):
         digest = self.digest(folder)
         todo, outcomes = [], {}
         for mutant in chosen:
@@ -113,13 +115,13 @@ class Workshop:
                 todo.append(mutant)
         if todo:
             self.say(f"{folder}: building")
-            bench = Bench(self, programs)
+            bench = Bench(self, stages)
             for mutant, outcome, by in bench.try_each(todo):
                 outcomes[mutant] = (outcome, by)
                 self.results[mutant.key()] = (outcome, by, digest)
                 self.results_path.write_text(json.dumps(self.results))
                 self.say(f"{outcome}: {mutant.path}:{mutant.line}: {mutant.kind}")
-            bench.check("The unchanged program fails its tests after the mistakes: a mistake has spoilt a file.")
+            bench.check_again()
         return [(mutant, *outcomes[mutant]) for mutant in chosen]
 
     def say(self, what):
@@ -127,27 +129,44 @@ class Workshop:
 
 
 class Bench:
-    """The test programs of one folder, with the times that they take when nothing is wrong."""
+    """The test programs of one folder, stage by stage."""
 
-    def __init__(self, workshop, programs):
-        self.shop, self.programs = workshop, list(programs)
-        self.targets = [target for target, _ in programs] + ["program-folder"]
-        built = workshop.make(self.targets)
+    def __init__(self, workshop, stages):
+        self.shop, self.stages = workshop, stages
+        self.kills = dict.fromkeys((target for stage in stages for target, _ in stage), 0)
+
+    @staticmethod
+    def targets(stage):
+        return [target for target, _ in stage] + ["program-folder"]
+
+    def prepare(self, stage):
+        """Builds the unchanged program and takes the times of the tests that haven't been run yet."""
+        new = [program for program in stage if program[0] not in self.shop.seconds]
+        if not new:
+            return
+        built = self.shop.make(self.targets(stage))
         if built.returncode != 0:
             sys.exit(built.stdout[-4000:] + "\nThe unchanged program doesn't build.")
-        self.seconds = {}
-        self.check("The unchanged program fails its tests.")
-        self.kills = dict.fromkeys((target for target, _ in programs), 0)
+        for program in new:
+            self.check(program, "The unchanged program fails its tests.")
 
-    def check(self, complaint):
-        self.shop.make(self.targets)
-        for target, command in self.programs:
-            before = resource.getrusage(resource.RUSAGE_CHILDREN)
-            done = self.run(command, 0, 600)
-            after = resource.getrusage(resource.RUSAGE_CHILDREN)
-            if done.returncode != 0:
-                sys.exit(f"{done.stdout[-4000:]}\n{target}: {complaint}")
-            self.seconds[target] = after.ru_utime - before.ru_utime + after.ru_stime - before.ru_stime
+    def check(self, program, complaint):
+        target, command = program
+        before = resource.getrusage(resource.RUSAGE_CHILDREN)
+        done = self.run(command, 0, 600)
+        after = resource.getrusage(resource.RUSAGE_CHILDREN)
+        if done.returncode != 0:
+            sys.exit(f"{done.stdout[-4000:]}\n{target}: {complaint}")
+        self.shop.seconds[target] = after.ru_utime - before.ru_utime + after.ru_stime - before.ru_stime
+
+    def check_again(self):
+        """What noticed mistakes finds nothing in the program without them."""
+        for stage in self.stages:
+            used = [program for program in stage if self.kills[program[0]]]
+            if used:
+                self.shop.make(self.targets(used))
+            for program in used:
+                self.check(program, "The unchanged program fails its tests after the mistakes: one spoilt a file.")
 
     def run(self, command, choice, seconds):
         def limits():
@@ -164,10 +183,16 @@ class Bench:
         except subprocess.TimeoutExpired as late:
             return subprocess.CompletedProcess(command, -signal.SIGXCPU, str(late.stdout or ""))
 
-    def judge(self, choice):
-        """Whether a test notices; the programs that noticed most are asked first."""
-        for target, command in sorted(self.programs, key=lambda program: -self.kills[program[0]]):
-            done = self.run(command, choice, 10 + 6 * self.seconds[target])
+    def order(self, stage, mutant):
+        """The tests that are named like the mistake's file first, then those that noticed most, then the quick ones."""
+        stem = Path(mutant.path).stem.lower()
+        return sorted(stage, key=lambda program: (f"_{stem}test" not in program[0].lower(), -self.kills[program[0]],
+                                                  self.shop.seconds[program[0]]))
+
+    def judge(self, stage, mutant, choice):
+        """Whether a test of the stage notices: the outcome, and which one."""
+        for target, command in self.order(stage, mutant):
+            done = self.run(command, choice, 10 + 6 * self.shop.seconds[target])
             if done.returncode in (-signal.SIGXCPU, -signal.SIGKILL):
                 return report.TIMED_OUT, target
             if done.returncode != 0:
@@ -181,33 +206,58 @@ class Bench:
         return next((name for name in found.groups() if name), "") if found else ""
 
     def try_each(self, mutants):
-        inside = [mutant for mutant in mutants if mutant.body]
+        left = {number: mutant for number, mutant in enumerate(mutants, 1) if mutant.body}
         alone = [mutant for mutant in mutants if not mutant.body]
-        left = list(inside)
+        for stage in self.stages:
+            if not left:
+                break
+            self.prepare(stage)
+            for mutant in self.build_together(stage, left, alone):
+                yield mutant, report.NO_BUILD, ""
+            for number, mutant in list(left.items()):
+                outcome, by = self.judge(stage, mutant, number)
+                if outcome != report.SURVIVED:
+                    del left[number]
+                    yield mutant, outcome, by
+            self.restore(mutants)
+        for mutant in left.values():
+            yield mutant, report.SURVIVED, ""
+        for mutant in alone:
+            yield mutant, *self.judge_alone(mutant)
+
+    def judge_alone(self, mutant):
+        for stage in self.stages:
+            self.prepare(stage)
+            self.shop.write(mutant.path, mutant.mutated().encode())
+            built = self.shop.make(self.targets(stage))
+            outcome, by = self.judge(stage, mutant, 0) if built.returncode == 0 else (report.NO_BUILD, "")
+            self.restore([mutant])
+            if outcome != report.SURVIVED:
+                break
+        return outcome, by
+
+    def build_together(self, stage, left, alone):
+        """Builds the stage with the mistakes that are left; gives those that don't compile, and moves to `alone` the
+        ones of files whose trouble nobody can name."""
         for _ in range(ROUNDS):
             spans = self.write_together(left)
-            built = self.shop.make(self.targets, 0)
+            built = self.shop.make(self.targets(stage), 0)
             if built.returncode == 0:
-                break
+                return
             blamed = self.blamed(built.stdout, spans)
-            for mutant in blamed:
-                left.remove(mutant)
-                yield mutant, report.NO_BUILD, ""
+            for number in [number for number, mutant in left.items() if mutant in blamed]:
+                self.restore([left[number]])
+                yield left.pop(number)
             if not blamed:
                 (self.shop.work / "unexplained.log").write_text(built.stdout)
                 paths = {path for path in spans if f"{path.removeprefix('src/')}:" in built.stdout} or set(spans)
-                alone += [mutant for mutant in left if mutant.path in paths]
-                left = [mutant for mutant in left if mutant.path not in paths]
-        else:
-            alone, left = alone + left, []
-        for number, mutant in enumerate(left, 1):
-            yield mutant, *self.judge(number)
-        self.restore(inside)
-        for mutant in alone:
-            self.shop.write(mutant.path, mutant.mutated().encode())
-            built = self.shop.make(self.targets)
-            yield mutant, *(self.judge(0) if built.returncode == 0 else (report.NO_BUILD, ""))
-            self.restore([mutant])
+                self.set_apart(left, alone, paths)
+        self.set_apart(left, alone, {mutant.path for mutant in left.values()})
+
+    def set_apart(self, left, alone, paths):
+        for number in [number for number, mutant in left.items() if mutant.path in paths]:
+            self.restore([left[number]])
+            alone.append(left.pop(number))
 
     def restore(self, mutants):
         for mutant in mutants:
@@ -215,10 +265,9 @@ class Bench:
 
     def write_together(self, mutants):
         """Writes all mistakes of function bodies, each under its number, and tells the lines that each one has."""
-        self.restore(mutants)
         spans = {}
-        for path in {mutant.path for mutant in mutants}:
-            mine = [(number, mutant) for number, mutant in enumerate(mutants, 1) if mutant.path == path]
+        for path in {mutant.path for mutant in mutants.values()}:
+            mine = [(number, mutant) for number, mutant in mutants.items() if mutant.path == path]
             text, at, lines = "", 0, []
             whole = mine[0][1].text
             for first, last in sorted({mutant.body for _, mutant in mine}):
