@@ -205,10 +205,7 @@ class Results(Table):
             self.assertEqual(self.files(), ["cases.csv", "results.csv"])
             self.assertEqual(self.results.read_text("ascii"), "earlier")
 
-    def test_draw_a_bar_on_a_terminal_only(self):
-        self.cases.write_text(HEAD + "K19013XP0,500\n" * 3000, "ascii")
-        done = run("batch", str(self.cases), "--output", str(self.results))
-        self.assertEqual(done.stderr, "")
+    def drawn_on_a_terminal(self):
         leader, follower = pty.openpty()
         child = subprocess.Popen([CLI, "batch", str(self.cases), "--output", str(self.results)],
                                  stdout=subprocess.DEVNULL, stderr=follower)
@@ -221,8 +218,42 @@ class Results(Table):
             pass  # the other end is closed
         os.close(leader)
         self.assertEqual(child.wait(timeout=60), 0)
-        self.assertIn(b"cases", drawn)
-        self.assertTrue(drawn.endswith(b"\r\x1b[K"), drawn)
+        return drawn.decode("ascii")
+
+    def test_draw_a_bar_on_a_terminal_only(self):
+        row, count, at_a_time = "K19013XP0,500\n", 25000, 2048
+        self.cases.write_text(HEAD + row * count, "ascii")
+        done = run("batch", str(self.cases), "--output", str(self.results))
+        self.assertEqual(done.stderr, "")
+        drawn = self.drawn_on_a_terminal()
+        self.assertTrue(drawn.endswith("\r\x1b[K"), drawn)
+        bars = drawn.removesuffix("\r\x1b[K").split("\r")[1:]
+        for bar in bars:
+            cases = int(bar.split("%")[1].removesuffix(" cases").replace(",", ""))
+            self.assertTrue(cases == count or cases % at_a_time == 0, bar)
+            part = (len(HEAD) + cases * len(row)) / (len(HEAD) + count * len(row))
+            full = int(part * 30)
+            self.assertEqual(bar, f"[{'#' * full}{'.' * (30 - full)}] {int(part * 100):3d} %  {cases:,} cases")
+        self.assertIn(f" {at_a_time:,} cases", bars[0])
+
+    def test_work_with_as_many_threads_as_jobs(self):
+        self.long_cases()
+        for jobs in (1, 3):
+            child = subprocess.Popen([CLI, "batch", str(self.cases), "--output", str(self.results), "--jobs", str(jobs)],
+                                     stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            try:
+                end, seen = time.monotonic() + 60.0, []
+                while len(seen) < 200 and time.monotonic() < end and child.poll() is None:
+                    if len(self.files()) > 1:  # the results have been begun
+                        seen.append(len(os.listdir(f"/proc/{child.pid}/task")))
+                    time.sleep(0.005)
+            finally:
+                child.kill()
+                child.wait()
+            self.assertEqual(max(seen), jobs)
+            for name in self.files():
+                if name != "cases.csv":
+                    (self.folder / name).unlink()
 
     def test_take_no_more_memory_for_more_cases(self):
         peaks = []

@@ -1,5 +1,9 @@
+#include <cstdlib>
+
 #include <gtest/gtest.h>
+#include <pwd.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "numbers/RuntimeError.h"
 #include "state/InstalledFolder.h"
@@ -155,6 +159,16 @@ TEST(UsualProgramFolder, OfAProgramWithoutInstalledDataIsItsOwnAndIsNotMade) {
     EXPECT_EQ(folder.toWrite("SETTINGS.INI"), bin / "SETTINGS.INI");
     EXPECT_EQ(folder.toSaveIn("\\save"), bin / "save");
     EXPECT_TRUE(fs::is_empty(place.path()));
+}
+
+TEST(UserHome, KnowsTheHomeOfTheAccountWhateverTheVariablesSay) {
+    ASSERT_NE(::getpwuid(::geteuid()), nullptr);
+    const std::string account = ::getpwuid(::geteuid())->pw_dir;
+    const std::string before = std::getenv("HOME") == nullptr ? account : std::getenv("HOME");
+    ::setenv("HOME", "/elsewhere", 1);
+    EXPECT_EQ(userHome().home, "/elsewhere");
+    EXPECT_EQ(userHome().account, account);
+    ::setenv("HOME", before.c_str(), 1);
 }
 
 TEST(UserHome, KnowsTheVariablesOfTheLogin) {

@@ -1,3 +1,4 @@
+#include <cerrno>
 #include <iterator>
 #include <string>
 #include <thread>
@@ -5,6 +6,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -13,6 +15,16 @@
 #include "state/WholeFile.h"
 #include "support/FaultOf.h"
 #include "support/RecordingPorts.h"
+
+/// What `fsync` fails with, as on a file system that can't do it; 0: it does its work.
+static int syncFailure = 0;
+
+/// In place of the system's.
+extern "C" int fsync(int descriptor) {
+    if (syncFailure == 0) return static_cast<int>(::syscall(SYS_fsync, descriptor));
+    errno = syncFailure;
+    return -1;
+}
 
 namespace norlaplan {
 namespace {
@@ -55,6 +67,36 @@ TEST(StagedFile, WhoseFolderHasGoneIsSeventyFiveAtTheCommit) {
     StagedFile staged(place.path() / "folder" / "report.rtf", "new");
     fs::remove_all(place.path() / "folder");
     EXPECT_EQ(faultOf([&] { staged.commit(); }), fault::kPathAccess);
+}
+
+TEST(StagedFile, GoesIntoPlaceOnAFileSystemThatHasNoCallForTheDisk) {
+    TemporaryFolder place;
+    for (const int failure : {EINVAL, ENOTSUP, ENOSYS}) {
+        syncFailure = failure;
+        EXPECT_EQ(faultOf([&] { writeWholeFile(place.path() / "DATA.RTF", std::to_string(failure)); }), 0);
+        EXPECT_EQ(place.read("DATA.RTF"), std::to_string(failure));
+    }
+    syncFailure = 0;
+}
+
+TEST(StagedFile, WhoseBytesDoNotReachTheDiskLeavesTheOldFile) {
+    TemporaryFolder place;
+    place.write("DATA.RTF", "old");
+    syncFailure = EIO;
+    EXPECT_EQ(faultOf([&] { writeWholeFile(place.path() / "DATA.RTF", "new"); }), fault::kDeviceIo);
+    syncFailure = 0;
+    EXPECT_EQ(place.read("DATA.RTF"), "old");
+    EXPECT_EQ(filesIn(place.path()), 1);
+}
+
+TEST(StagedFile, LeavesAPipeOfItsWaitingNameAlone) {
+    TemporaryFolder place;
+    const fs::path pipe = place.path() / ".DATA.RTF.part";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    writeWholeFile(place.path() / "DATA.RTF", "new");
+    EXPECT_EQ(place.read("DATA.RTF"), "new");
+    EXPECT_TRUE(fs::is_fifo(pipe));
+    EXPECT_EQ(filesIn(place.path()), 2);
 }
 
 TEST(StagedFile, OfAKilledProgramIsTakenByTheNextSave) {

@@ -23,7 +23,7 @@ import kinds  # noqa: E402
 import report  # noqa: E402
 from cpp_text import Source  # noqa: E402
 from mutant import Mutant, read_equivalent  # noqa: E402
-from workshop import Workshop, stages_of  # noqa: E402
+from workshop import Workshop  # noqa: E402
 
 ROOT = Path(__file__).resolve().parents[2]
 FOLDERS = ("numbers", "state", "documents", "loaddist", "capacity", "catalogue", "search", "deflection", "fits", "help",
@@ -68,6 +68,8 @@ def arguments():
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--count", type=int, default=300, help="mistakes in all, shared by the folders (300)")
     parser.add_argument("--folder", action="append", choices=FOLDERS, help="only this folder of src (repeatable)")
+    parser.add_argument("--own", action="store_true",
+                        help="judge by the folder's own tests alone, which is quicker and stricter")
     parser.add_argument("--list", action="store_true", help="list the chosen mistakes and build nothing")
     parser.add_argument("--work", type=Path, default=Path(tempfile.gettempdir()) / "norlaplan-mutation",
                         help="scratch folder (the system's temporary folder)")
@@ -80,7 +82,7 @@ def main():
     folders = [folder for folder in options.folder or FOLDERS if (ROOT / "src" / folder).is_dir()]
     equivalent = read_equivalent(Path(__file__).with_name("equivalent.txt"))
     share, rest = divmod(options.count, len(folders))
-    workshop = None if options.list else Workshop(ROOT, options.work, options.jobs)
+    workshop = None if options.list else Workshop(ROOT, options.work, options.jobs, options.own)
     outcomes = {}
     for i, folder in enumerate(folders):
         chosen = choose(folder, options.seed, share + (i < rest))
@@ -88,7 +90,7 @@ def main():
             for mutant in chosen:
                 print(f"{mutant.path}:{mutant.line}: {mutant.kind}\n{mutant.difference()}\n")
             continue
-        outcomes[folder] = workshop.try_all(folder, stages_of(ROOT, folder), chosen, equivalent)
+        outcomes[folder] = workshop.try_all(folder, chosen, equivalent)
         print(report.line(folder, outcomes[folder]), flush=True)
     if not options.list:
         path = options.work / "report.md"

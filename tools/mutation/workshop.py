@@ -16,13 +16,20 @@ import report
 from mutant import reason
 
 CHOICE = "NORLAPLAN_MUTANT"
-CHOOSER = f"""#pragma once
+#: In front of a file with mistakes, so that the command that compiles every other file is that of a release build
+#: and ccache has it.
+CHOOSER = f"""#ifndef NORLAPLAN_MUTATION
+#define NORLAPLAN_MUTATION
 #include <cstdlib>
 namespace mutation {{
 inline const int chosen = std::getenv("{CHOICE}") != nullptr ? std::atoi(std::getenv("{CHOICE}")) : 0;
 }}
+#pragma GCC diagnostic warning "-Wunused-function"
+#endif
 """
 ROUNDS = 8
+#: Seconds that a test takes of which nothing is known yet.
+SLOW = 60.0
 
 
 #: Whose tests see a folder's mistakes too, nearest first: those of the folders that use it.
@@ -38,7 +45,7 @@ def stages_of(root, folder):
     """The tests that answer for a folder, nearest first. Each stage is built once the one before it has left something
     unnoticed; its programs are (target to build, command in the build folder)."""
     command_line = ("norlaplan-cli",
-                    [sys.executable, "-m", "unittest", "discover", "--failfast", "-s", "../tree/tests/cli"])
+                    [sys.executable, "-m", "unittest", "discover", "--failfast", "-s", "../../tests/cli"])
     screens = [(f"test_screens_{path.stem}", [f"tests/test_screens_{path.stem}"])
                for path in sorted((root / "tests" / "screens").glob("*Test.cpp"))]
     if folder == "cli":
@@ -51,20 +58,20 @@ def stages_of(root, folder):
 
 
 class Workshop:
-    def __init__(self, root, work, jobs):
-        self.root, self.work, self.jobs = root, work, jobs
-        self.tree, self.build = work / "tree", work / "build"
-        os.nice(19)
+    def __init__(self, root, work, jobs, own_only):
+        self.root, self.work, self.jobs, self.own_only = root, work, jobs, own_only
+        self.tree = work / "tree"
+        self.build = self.tree / "build" / "release"  # where a release build stands to its sources
+        os.nice(5)
         for folder in (self.tree, self.build, work / "home"):
             folder.mkdir(parents=True, exist_ok=True)
-        (work / "chooser.h").write_text(CHOOSER)
         self.results_path = work / "results.json"
         self.results = json.loads(self.results_path.read_text()) if self.results_path.exists() else {}
         self.seconds = {}  # that each test program takes when nothing is wrong
         self.copy_tree()
-        flags = f"-O1 -Wno-error=unused-function -include {work / 'chooser.h'}"
-        self.call(["cmake", "-G", "Ninja", "-S", self.tree, "-B", self.build, "-DCMAKE_BUILD_TYPE=",
-                   "-DCMAKE_CXX_COMPILER_LAUNCHER=ccache", f"-DCMAKE_CXX_FLAGS={flags}", "-DNORLAPLAN_BENCH=OFF",
+        self.environment = {**os.environ, "CCACHE_BASEDIR": str(work.resolve()), "CCACHE_NOHASHDIR": "1"}
+        self.call(["cmake", "-G", "Ninja", "-S", self.tree, "-B", self.build, "-DCMAKE_BUILD_TYPE=Release",
+                   "-DCMAKE_CXX_COMPILER_LAUNCHER=ccache", "-DNORLAPLAN_BENCH=OFF",
                    "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST"], check=True)
 
     def call(self, command, check=False, **more):
@@ -78,31 +85,35 @@ class Workshop:
         wanted = {name for name in listed if name and (self.root / name).is_file()}
         for name in wanted:
             self.write(name, (self.root / name).read_bytes())
-        for path in [path for path in self.tree.rglob("*") if path.is_file()]:
+        for path in [path for path in self.tree.rglob("*") if path.is_file() and self.build not in path.parents]:
             if str(path.relative_to(self.tree)) not in wanted:
                 path.unlink()
 
     def write(self, name, content):
+        """True when the file's content is another now."""
         target = self.tree / name
         if target.exists() and target.read_bytes() == content:
-            return
+            return False
         target.parent.mkdir(parents=True, exist_ok=True)
         target.write_bytes(content)
+        return True
 
     def make(self, targets, failures=1):
         """Builds, and stops after so many failures (0: never)."""
-        return self.call(["ninja", "-C", self.build, "-k", failures, "-j", self.jobs, *targets])
+        return self.call(["ninja", "-C", self.build, "-k", failures, "-j", self.jobs, *targets], env=self.environment)
 
     def digest(self, folder):
         """Changes with what may notice a mistake of the folder."""
         found = hashlib.sha1()
-        for part in (folder, *USERS.get(folder, []), "cli", "support"):
+        others = [] if self.own_only else [*USERS.get(folder, []), "cli"]
+        for part in (folder, "support", *others):
             for path in sorted((self.tree / "tests" / part).rglob("*")):
                 if path.suffix in (".cpp", ".h", ".py"):
                     found.update(path.read_bytes())
         return found.hexdigest()
 
-    def try_all(self, folder, stages, chosen, equivalent):
+    def try_all(self, folder, chosen, equivalent):
+        stages = stages_of(self.root, folder)[: 1 if self.own_only else None]
         digest = self.digest(folder)
         todo, outcomes = [], {}
         for mutant in chosen:
@@ -129,28 +140,24 @@ class Workshop:
 
 
 class Bench:
-    """The test programs of one folder, stage by stage."""
+    """The test programs of one folder, stage by stage. A program is built when a mistake comes to it."""
 
     def __init__(self, workshop, stages):
         self.shop, self.stages = workshop, stages
         self.kills = dict.fromkeys((target for stage in stages for target, _ in stage), 0)
+        self.built = set()  # from the sources as they now are
+        forms = (workshop.root / "src" / "screens" / "FormRegistry.h").read_text()
+        self.forms = {form: constant for constant, form in re.findall(r'FormName (k\w+)\{"(\w+)"\}', forms)}
 
-    @staticmethod
-    def targets(stage):
-        return [target for target, _ in stage] + ["program-folder"]
-
-    def prepare(self, stage):
-        """Builds the unchanged program and takes the times of the tests that haven't been run yet."""
-        new = [program for program in stage if program[0] not in self.shop.seconds]
-        if not new:
-            return
-        built = self.shop.make(self.targets(stage))
-        if built.returncode != 0:
-            sys.exit(built.stdout[-4000:] + "\nThe unchanged program doesn't build.")
-        for program in new:
-            self.check(program, "The unchanged program fails its tests.")
+    def build(self, stage, failures=1):
+        targets = [target for target, _ in stage if target not in self.built]
+        built = self.shop.make([*targets, "program-folder"], failures) if targets else None
+        if built is None or built.returncode == 0:
+            self.built.update(targets)
+        return built
 
     def check(self, program, complaint):
+        """A run that notices nothing, and the time that it takes."""
         target, command = program
         before = resource.getrusage(resource.RUSAGE_CHILDREN)
         done = self.run(command, 0, 600)
@@ -161,12 +168,10 @@ class Bench:
 
     def check_again(self):
         """What noticed mistakes finds nothing in the program without them."""
-        for stage in self.stages:
-            used = [program for program in stage if self.kills[program[0]]]
-            if used:
-                self.shop.make(self.targets(used))
-            for program in used:
-                self.check(program, "The unchanged program fails its tests after the mistakes: one spoilt a file.")
+        used = [program for stage in self.stages for program in stage if self.kills[program[0]]]
+        self.build(used)
+        for program in used:
+            self.check(program, "The unchanged program fails its tests after the mistakes: one spoilt a file.")
 
     def run(self, command, choice, seconds):
         def limits():
@@ -184,15 +189,28 @@ class Bench:
             return subprocess.CompletedProcess(command, -signal.SIGXCPU, str(late.stdout or ""))
 
     def order(self, stage, mutant):
-        """The tests that are named like the mistake's file first, then those that noticed most, then the quick ones."""
-        stem = Path(mutant.path).stem.lower()
-        return sorted(stage, key=lambda program: (f"_{stem}test" not in program[0].lower(), -self.kills[program[0]],
-                                                  self.shop.seconds[program[0]]))
+        """The tests that name the mistake's file or form most often first, then those that noticed most."""
+        stem = Path(mutant.path).stem
+
+        def nearness(program):
+            source = self.shop.root / "tests" / "screens" / f"{program[0].removeprefix('test_screens_')}.cpp"
+            text = source.read_text(encoding="utf-8") if source.exists() else ""
+            form = self.forms.get(stem.removesuffix("Layout"))
+            return len(re.findall(rf"\b{stem}(?:Test)?\b", text)) + (text.count(f"forms::{form}") if form else 0)
+
+        return sorted(stage, key=lambda program: (-nearness(program), -self.kills[program[0]],
+                                                  self.shop.seconds.get(program[0], SLOW)))
 
     def judge(self, stage, mutant, choice):
         """Whether a test of the stage notices: the outcome, and which one."""
-        for target, command in self.order(stage, mutant):
-            done = self.run(command, choice, 10 + 6 * self.shop.seconds[target])
+        for program in self.order(stage, mutant):
+            target, command = program
+            built = self.build([program])
+            if built and built.returncode != 0:
+                return report.NO_BUILD, ""
+            if choice and target not in self.shop.seconds:
+                self.check(program, "The unchanged program fails its tests.")
+            done = self.run(command, choice, 5 + 4 * self.shop.seconds.get(target, SLOW))
             if done.returncode in (-signal.SIGXCPU, -signal.SIGKILL):
                 return report.TIMED_OUT, target
             if done.returncode != 0:
@@ -211,7 +229,6 @@ class Bench:
         for stage in self.stages:
             if not left:
                 break
-            self.prepare(stage)
             for mutant in self.build_together(stage, left, alone):
                 yield mutant, report.NO_BUILD, ""
             for number, mutant in list(left.items()):
@@ -227,10 +244,8 @@ class Bench:
 
     def judge_alone(self, mutant):
         for stage in self.stages:
-            self.prepare(stage)
-            self.shop.write(mutant.path, mutant.mutated().encode())
-            built = self.shop.make(self.targets(stage))
-            outcome, by = self.judge(stage, mutant, 0) if built.returncode == 0 else (report.NO_BUILD, "")
+            self.write(mutant.path, mutant.mutated())
+            outcome, by = self.judge(stage, mutant, 0)
             self.restore([mutant])
             if outcome != report.SURVIVED:
                 break
@@ -241,8 +256,9 @@ class Bench:
         ones of files whose trouble nobody can name."""
         for _ in range(ROUNDS):
             spans = self.write_together(left)
-            built = self.shop.make(self.targets(stage), 0)
-            if built.returncode == 0:
+            # All screens' tests stand on the same sources: one shows what compiles.
+            built = self.build(stage[:1] if stage[0][0].startswith("test_screens_") else stage, 0)
+            if built is None or built.returncode == 0:
                 return
             blamed = self.blamed(built.stdout, spans)
             for number in [number for number, mutant in left.items() if mutant in blamed]:
@@ -261,14 +277,18 @@ class Bench:
 
     def restore(self, mutants):
         for mutant in mutants:
-            self.shop.write(mutant.path, mutant.text.encode())
+            self.write(mutant.path, mutant.text)
+
+    def write(self, path, text):
+        if self.shop.write(path, text.encode()):
+            self.built.clear()
 
     def write_together(self, mutants):
         """Writes all mistakes of function bodies, each under its number, and tells the lines that each one has."""
         spans = {}
         for path in {mutant.path for mutant in mutants.values()}:
             mine = [(number, mutant) for number, mutant in mutants.items() if mutant.path == path]
-            text, at, lines = "", 0, []
+            text, at, lines = CHOOSER, 0, []
             whole = mine[0][1].text
             for first, last in sorted({mutant.body for _, mutant in mine}):
                 text += whole[at:first] + "{"
@@ -281,7 +301,7 @@ class Bench:
                         text += "\nelse "
                 text += whole[first:last] + "}"
                 at = last
-            self.shop.write(path, (text + whole[at:]).encode())
+            self.write(path, text + whole[at:])
             spans[path] = lines
         return spans
 
