@@ -18,11 +18,6 @@ class ImagePages {
         : pageWidth_(qRound(width * kDotsPerInch)), pageHeight_(qRound(height * kDotsPerInch)) {
         addPage();
     }
-    ~ImagePages() {
-        if (painter.isActive()) painter.end();
-    }
-    ImagePages(const ImagePages&) = delete;
-    ImagePages& operator=(const ImagePages&) = delete;
 
     void addPage() {
         if (painter.isActive()) painter.end();
@@ -43,7 +38,7 @@ class ImagePages {
     }
 
     QImage image;
-    QPainter painter;
+    QPainter painter;  ///< goes before the image that it paints on
 
   private:
     int pageWidth_, pageHeight_;

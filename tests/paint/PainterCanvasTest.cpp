@@ -84,6 +84,19 @@ TEST(DrawnLine, NeverFadesAwayHoweverThin) {
     }
 }
 
+TEST(DrawnLine, EndsRoundButAtItsPointsWhenItIsAsWideAsAPatchOrDashed) {
+    const auto left = [](const PagePen& pen) {
+        const QImage page = drawn([&](Canvas& canvas) { canvas.line({1.0, 10.0}, {4.0, 10.0}, pen); }, 400);
+        return inkBox(page).left();
+    };
+    // 3 points wide, or 16.7 pixels: a round end is half of that longer.
+    EXPECT_NEAR(left({0, 38099.0, 0}), 392, 1);
+    EXPECT_NEAR(left({0, 38100.0, 0}), 400, 1);
+    EXPECT_NEAR(left({0, 76200.0, 0}), 400, 1);
+    EXPECT_NEAR(left({0, 38099.0, 6}), 400, 1);
+    EXPECT_NEAR(left({0, 38099.0, 8}), 400, 1);
+}
+
 /// How many pieces of ink a line across the page has, and how much of its way is ink.
 struct Dashes {
     int pieces = 0, longest = 0, ink = 0;
