@@ -6,6 +6,7 @@
 #include <QRadioButton>
 #include <QTabBar>
 #include <QTabWidget>
+#include <array>
 #include <set>
 
 #include "screens/Program.h"
@@ -207,6 +208,34 @@ class Form10Test : public QObject {
         QCOMPARE(program.tabs().count(), 12);
         for (int tab = 0; tab < 12; ++tab)
             QCOMPARE(program.tabs().tabText(tab), names[tab]);
+    }
+
+    void each_text_stands_on_the_tab_of_its_section() {
+        Application program;
+        const std::array<int, 12> lastOfTab = {10, 18, 20, 22, 28, 31, 35, 37, 44, 46, 50, 51};
+        std::size_t tab = 0;
+        for (int number = 1; number <= 51; ++number) {
+            if (number > lastOfTab.at(tab)) ++tab;
+            QCOMPARE(program.tabOf(program.box(number)), static_cast<int>(tab));
+        }
+    }
+
+    void a_few_options_stand_side_by_side_and_many_one_under_another() {
+        Application program;
+        const auto place = [&](int option) {
+            return program.control<QWidget>(kForm, qPrintable(QString("Option%1").arg(option))).pos();
+        };
+        QCoreApplication::processEvents();
+        for (const int option : {2, 3, 4, 5, 7, 8, 9}) {
+            QCOMPARE(place(option).y(), place(option - 1).y());
+            QVERIFY(place(option).x() > place(option - 1).x());
+        }
+        program.tabs().setCurrentIndex(4);
+        QCoreApplication::processEvents();
+        for (int option = 15; option <= 20; ++option) {
+            QCOMPARE(place(option).x(), place(option - 1).x());
+            QVERIFY(place(option).y() > place(option - 1).y());
+        }
     }
 
     void a_text_with_the_focus_is_light_yellow() {

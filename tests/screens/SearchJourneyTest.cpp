@@ -8,8 +8,8 @@
 #include <QTimer>
 #include <cmath>
 
-#include "screens/Program.h"
 #include "screens/SearchProgress.h"
+#include "screens/SearchingUser.h"
 #include "state/StyleTable.h"
 #include "support/Folders.h"
 
@@ -21,36 +21,17 @@ class SearchJourneyTest : public QObject {
     Q_OBJECT
 
   private:
-    static void chooseStyle(Program& program, std::size_t row) {
-        program.screens.showAlone(forms::kMainMenu);
-        program.click(forms::kMainMenu, "Command4");
-        program.click(forms::kStyle, qPrintable(QString("Image%1").arg(row + 1)));
-        program.click(forms::kStyle, "Command1");
-    }
-    static void enterSizes(Program& program, const char* bore, const char* od, const char* low,
-                           const char* high) {
-        program.type(forms::kSizes, "Text1", bore);
-        program.type(forms::kSizes, "Text2", od);
-        program.type(forms::kSizes, "Text3", low);
-        program.type(forms::kSizes, "Text4", high);
-        program.click(forms::kSizes, "Command2");
-    }
-    static void enterLoads(Program& program, const char* radial, const char* speed) {
-        program.type(forms::kLoads, "Text1", radial);
-        program.type(forms::kLoads, "Text4", speed);
-        program.click(forms::kLoads, "Command1");
-    }
-    static void search(Program& program, std::size_t row, const char* speed = "") {
-        chooseStyle(program, row);
-        enterSizes(program, "5", "9", ".2", "1.2");
-        enterLoads(program, "500", speed);
+    static void search(SearchingUser& program, std::size_t row, const char* speed = "") {
+        program.chooseStyle(static_cast<int>(row) + 1);
+        program.enterSizes("5", "9", ".2", "1.2");
+        program.enterLoads("500", speed);
     }
     static QComboBox& list(Program& program) { return program.control<QComboBox>(forms::kResults, "Combo1"); }
 
   private slots:
     void listsWhatFitsForEveryStyle() {
         for (std::size_t row = 0; row < kStyles.size(); ++row) {
-            Program program;
+            SearchingUser program;
             search(program, row, "100");
             QCOMPARE(program.inFront(), std::string(forms::kResults));
             QCOMPARE(program.screens.form(forms::kResults).windowTitle(),
@@ -64,14 +45,14 @@ class SearchJourneyTest : public QObject {
 
     void findsTheSameBearingsInBothUnits() {
         for (std::size_t row = 0; row < kStyles.size(); ++row) {
-            Program us;
+            SearchingUser us;
             us.useUnits("US");
             search(us, row, "100");
-            Program metric;
+            SearchingUser metric;
             metric.useUnits("METRIC");
-            chooseStyle(metric, row);
-            enterSizes(metric, "127", "228.6", "5.08", "30.48");
-            enterLoads(metric, "2224", "100");
+            metric.chooseStyle(static_cast<int>(row) + 1);
+            metric.enterSizes("127", "228.6", "5.08", "30.48");
+            metric.enterLoads("2224", "100");
             QCOMPARE(metric.inFront(), std::string(forms::kResults));
             QCOMPARE(list(metric).count(), list(us).count());
             for (std::size_t i = 0; i < us.state.search.rows.size(); ++i) {
@@ -87,7 +68,7 @@ class SearchJourneyTest : public QObject {
     }
 
     void setsTheLongLinesOfSetsWithSpacersInTheSmallerFont() {
-        Program program;
+        SearchingUser program;
         search(program, 0);
         QCOMPARE(list(program).font().families().value(0), QString("MS Sans Serif"));
         const double usual = list(program).font().pointSizeF();
@@ -99,7 +80,7 @@ class SearchJourneyTest : public QObject {
     }
 
     void standsLowButWholeOnTheScreen() {
-        Program program;
+        SearchingUser program;
         search(program, 1);
         const Form& form = program.screens.form(forms::kResults);
         const QRect room = form.screen()->availableGeometry();
@@ -109,14 +90,14 @@ class SearchJourneyTest : public QObject {
     }
 
     void showsNoHoursWithoutASpeed() {
-        Program program;
+        SearchingUser program;
         search(program, 1);
         QVERIFY(!list(program).currentText().contains("hrs."));
         QVERIFY(!program.control<QLabel>(forms::kResults, "Label8").isVisible());
     }
 
     void wantsAStyleFirst() {
-        Program program;
+        SearchingUser program;
         program.screens.showAlone(forms::kMainMenu);
         program.click(forms::kMainMenu, "Command4");
         program.click(forms::kStyle, "Command1");
@@ -125,38 +106,38 @@ class SearchJourneyTest : public QObject {
     }
 
     void wantsEverySizeAndSwapsThoseInTheWrongOrder() {
-        Program program;
-        chooseStyle(program, 1);
+        SearchingUser program;
+        program.chooseStyle(2);
         program.click(forms::kSizes, "Command2");
         QCOMPARE(program.lastMessage().prompt, std::string("Please Enter Minimum Bore"));
-        enterSizes(program, "9", "5", "1.2", ".2");
+        program.enterSizes("9", "5", "1.2", ".2");
         QCOMPARE(program.inFront(), std::string(forms::kLoads));
         QCOMPARE(program.state.criteria.minBore, Single(5.0));
         QCOMPARE(program.control<QLineEdit>(forms::kSizes, "Text1").text(), QString("5"));
     }
 
     void comesBackToTheSizesWhenNothingFits() {
-        Program program;
-        chooseStyle(program, 1);
-        enterSizes(program, "1", "1.1", "1", "2");
-        enterLoads(program, "500", "");
+        SearchingUser program;
+        program.chooseStyle(2);
+        program.enterSizes("1", "1.1", "1", "2");
+        program.enterLoads("500");
         QCOMPARE(program.lastMessage().title, std::string("SEARCH PARAMETERS OUTSIDE OF SIZE RANGE"));
         QCOMPARE(program.inFront(), std::string(forms::kSizes));
     }
 
     void comesBackToTheLoadsWithARunTimeErrorWhenATableIsMissing() {
-        Program program;
-        chooseStyle(program, 1);
-        enterSizes(program, "5", "9", ".2", "1.2");
+        SearchingUser program;
+        program.chooseStyle(2);
+        program.enterSizes("5", "9", ".2", "1.2");
         std::filesystem::remove(program.files.path() / "Data Tables");
-        enterLoads(program, "500", "");
+        program.enterLoads("500");
         QCOMPARE(program.lastMessage().title, std::string("Run-time error '53'"));
         QCOMPARE(program.inFront(), std::string(forms::kLoads));
         QVERIFY(program.state.search.rows.empty());
     }
 
     void holdsThreeHundredRowsAndTellsOfOneMoreAsARunTimeError() {
-        Program program;
+        SearchingUser program;
         const std::filesystem::path tables = program.files.path() / "Data Tables";
         std::filesystem::remove(tables);
         std::filesystem::copy(programFolder() / "Data Tables", tables);
@@ -167,9 +148,9 @@ class SearchJourneyTest : public QObject {
             program.files.write("Data Tables/13-X.csv", table);
         };
         writeRows(300);
-        chooseStyle(program, 1);
-        enterSizes(program, "3.9", "5", ".5", "1.2");
-        enterLoads(program, "500", "");
+        program.chooseStyle(2);
+        program.enterSizes("3.9", "5", ".5", "1.2");
+        program.enterLoads("500");
         QCOMPARE(program.inFront(), std::string(forms::kResults));
         QCOMPARE(list(program).count(), 300);
         program.click(forms::kResults, "Command2");
@@ -190,7 +171,7 @@ class SearchJourneyTest : public QObject {
     }
 
     void sortsByEveryColumnBothWays() {
-        Program program;
+        SearchingUser program;
         search(program, 1, "100");
         const struct {
             const char* option;
@@ -221,7 +202,7 @@ class SearchJourneyTest : public QObject {
     }
 
     void sortsTheListAndDropsItsMarks() {
-        Program program;
+        SearchingUser program;
         search(program, 1, "3000");
         const int rows = list(program).count();
         QVERIFY(list(program).itemText(rows - 1).endsWith("Over Speed!"));
@@ -243,7 +224,7 @@ class SearchJourneyTest : public QObject {
     }
 
     void keepsTheListWhenTheSortScreenIsClosed() {
-        Program program;
+        SearchingUser program;
         search(program, 1);
         const QString first = list(program).itemText(0);
         program.click(forms::kResults, "Command5");
@@ -253,7 +234,7 @@ class SearchJourneyTest : public QObject {
     }
 
     void makesTheChosenBearingTheCurrentOne() {
-        Program program;
+        SearchingUser program;
         search(program, 1);
         list(program).setCurrentIndex(1);
         const std::string chosen = program.state.search.rows[1].name;
@@ -265,7 +246,7 @@ class SearchJourneyTest : public QObject {
     }
 
     void shortCutsToTheDataSheetOfTheSetWithoutSpacers() {
-        Program program;
+        SearchingUser program;
         search(program, 3);
         QVERIFY(program.control<QLabel>(forms::kResults, "Label14").isVisible());
         const std::string number = program.state.search.rows[0].name.substr(0, 9) + "A";
@@ -276,7 +257,7 @@ class SearchJourneyTest : public QObject {
     }
 
     void aRowThatNeverSettlesIsStoppedByEscapeAfterTheBarHasComeUp() {
-        Program program;
+        SearchingUser program;
         program.messages.answers = {Answer::Yes};
         bool barWasThere = false;
         QTimer escape;
@@ -288,9 +269,9 @@ class SearchJourneyTest : public QObject {
             QTest::keyClick(bar, Qt::Key_Escape);
         });
         escape.start(50);
-        chooseStyle(program, 2);
-        enterSizes(program, "0", "4", "0", "1.2");
-        enterLoads(program, "500", "");
+        program.chooseStyle(3);
+        program.enterSizes("0", "4", "0", "1.2");
+        program.enterLoads("500");
         QVERIFY(barWasThere);
         QCOMPARE(program.messages.asked.size(), std::size_t{1});
         QCOMPARE(program.inFront(), std::string(forms::kLoads));
@@ -312,10 +293,10 @@ class SearchJourneyTest : public QObject {
     }
 
     void showsEveryEnteredNumberAsItIs() {
-        Program program;
-        chooseStyle(program, 1);
-        enterSizes(program, "5", "9.25", ".2", "1.2");
-        enterLoads(program, "1200.5", "");
+        SearchingUser program;
+        program.chooseStyle(2);
+        program.enterSizes("5", "9.25", ".2", "1.2");
+        program.enterLoads("1200.5");
         QCOMPARE(program.control<QLabel>(forms::kResults, "Label1").text(),
                  QString("MINIMUM BORE   = 5 inches"));
         QCOMPARE(program.control<QLabel>(forms::kResults, "Label2").text(),
@@ -324,7 +305,7 @@ class SearchJourneyTest : public QObject {
     }
 
     void aChosenBearingWhoseSheetCannotBeWrittenIsToldEachTime() {
-        Program program;
+        SearchingUser program;
         std::filesystem::create_directory(program.files.path() / "CONDENSED.DAT");
         search(program, 1);
         for (std::size_t times = 1; times <= 2; ++times) {
@@ -340,7 +321,7 @@ class SearchJourneyTest : public QObject {
     }
 
     void savesAndPrintsTheList() {
-        Program program;
+        SearchingUser program;
         search(program, 1, "100");
         program.saveDialog.choice = SaveChoice{program.files.path() / "list.rtf", 1};
         program.click(forms::kResults, "Command6");
@@ -351,7 +332,7 @@ class SearchJourneyTest : public QObject {
     }
 
     void convertsWhatWasEnteredOnAChangeOfUnits() {
-        Program program;
+        SearchingUser program;
         program.state.unitSystem = "US";
         search(program, 1);
         program.screens.showAlone(forms::kMainMenu);

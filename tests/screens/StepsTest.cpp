@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QToolButton>
 
-#include "screens/Program.h"
+#include "screens/SearchingUser.h"
 #include "screens/StepMark.h"
 
 using namespace norlaplan;
@@ -11,7 +11,7 @@ using namespace norlaplan::testing;
 
 namespace {
 
-struct Steps : Program {
+struct Steps : SearchingUser {
     Steps() {
         useUnits("US");
         screens.show(forms::kMainMenu);
@@ -24,16 +24,9 @@ struct Steps : Program {
     }
     /// From the main menu through the search's steps up to its loads.
     void chooseStyleSizesAndLoads() {
-        click(forms::kMainMenu, "Command4");
-        click(forms::kStyle, "Image2");
-        click(forms::kStyle, "Command1");
-        type(forms::kSizes, "Text1", "5");
-        type(forms::kSizes, "Text2", "9");
-        type(forms::kSizes, "Text3", ".5");
-        type(forms::kSizes, "Text4", "1.2");
-        click(forms::kSizes, "Command2");
-        type(forms::kLoads, "Text1", "1200");
-        type(forms::kLoads, "Text4", "400");
+        chooseStyle(2);
+        enterSizes("5", "9", ".5", "1.2");
+        typeLoads("1200", "400");
         click(forms::kLoads, "Command3");
     }
 };

@@ -250,6 +250,22 @@ class tlodestarballloadsTest : public QObject {
         QCOMPARE(graph.readout(), QString(kHint));
     }
 
+    void theBallThatIsReadStandsOutFromTheBackground() {
+        const std::pair<Colour, QColor> backgrounds[] = {{rgb(0, 0, 0), Qt::white},
+                                                         {rgb(255, 255, 240), Qt::black}};
+        for (const auto& [background, mark] : backgrounds) {
+            Graph graph;
+            graph.colourDialog.choice = background;
+            graph.click(kForm, "Picture5");
+            const int ball = graph.largestBall(1);
+            const QPoint middle = graph.onSpike(1, ball, 0.5, graph.largestLoad()).toPoint();
+            QVERIFY(graph.image().pixelColor(middle) != mark);
+            for (int i = 0; i < ball; ++i)
+                QTest::keyClick(&graph.picture(), Qt::Key_Right);
+            QCOMPARE(graph.image().pixelColor(middle), mark);
+        }
+    }
+
     void aRadialBearingHasNoSecondRowToWalkTo() {
         Graph graph("K19013CP0", {"500", "", "", "400"});
         QTest::keyClick(&graph.picture(), Qt::Key_Right);
