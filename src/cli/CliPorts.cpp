@@ -1,6 +1,7 @@
 #include "cli/CliPorts.h"
 
 #include <array>
+#include <clocale>
 #include <ctime>
 
 namespace norlaplan::cli {
@@ -11,7 +12,12 @@ std::string now(const char* format) {
     std::tm local{};
     ::localtime_r(&seconds, &local);
     std::array<char, 100> text{};
-    return {text.data(), std::strftime(text.data(), text.size(), format, &local)};
+    // Dates print in the user's locale; numbers never follow it. Few calls print one.
+    static const locale_t kUsers = ::newlocale(LC_TIME_MASK, "", nullptr);
+    const std::size_t length = kUsers == nullptr
+                                   ? std::strftime(text.data(), text.size(), format, &local)
+                                   : ::strftime_l(text.data(), text.size(), format, &local, kUsers);
+    return {text.data(), length};
 }
 
 }  // namespace

@@ -22,54 +22,60 @@ class Builder {
     explicit Builder(CLI::App& app) : app_(app), arguments_(std::make_shared<Arguments>()) {}
 
     void addAll() {
-        CLI::App* const decode = command(app_, "decode", "Every field of the bearing",
-                                         [](Session& s, Arguments& a) { return decodeCommand(s, a.number); });
-        addNumber(decode);
-
-        CLI::App* const life =
-            command(app_, "life", "L10 life, static safety, torque, speed verdict and every ball",
-                    [](Session& s, Arguments& a) { return lifeCommand(s, a.number, a.loads); });
-        addNumber(life);
-        addLoads(life);
-
-        CLI::App* const film = command(
+        command(
+            app_, "decode", "Every field of the bearing",
+            [](Session& s, Arguments& a) { return decodeCommand(s, a.number); },
+            [this](CLI::App* decode) { addNumber(decode); });
+        command(
+            app_, "life", "L10 life, static safety, torque, speed verdict and every ball",
+            [](Session& s, Arguments& a) { return lifeCommand(s, a.number, a.loads); },
+            [this](CLI::App* life) { addNumberAndLoads(life); });
+        command(
             app_, "film", "Lubricant film under the heaviest loaded ball, life factor, least viscosity",
-            [](Session& s, Arguments& a) { return filmCommand(s, a.number, a.loads, a.film); });
-        addNumber(film);
-        addLoads(film);
-        addLubricant(film);
-
-        CLI::App* const contact =
-            command(app_, "contact", "Stress, contact ellipse and land of the heaviest loaded ball of a row",
-                    [](Session& s, Arguments& a) { return contactCommand(s, a.number, a.loads, a.row); });
-        addNumber(contact);
-        addLoads(contact);
-        addRow(contact);
-
-        CLI::App* const search =
-            command(app_, "search", "Bearings that fit an envelope, with their life under the loads",
-                    [](Session& s, Arguments& a) { return searchCommand(s, a.search, a.loads); });
-        addSearch(search);
-        addLoads(search);
-
-        addBatch();
-
-        CLI::App* const deflection =
-            command(app_, "deflection", "Spring rates, relief loads and deflection curves under a preload",
-                    [](Session& s, Arguments& a) { return deflectionCommand(s, a.number, a.deflection); });
-        addNumber(deflection);
-        addDeflection(deflection);
-
+            [](Session& s, Arguments& a) { return filmCommand(s, a.number, a.loads, a.film); },
+            [this](CLI::App* film) {
+                addNumberAndLoads(film);
+                addLubricant(film);
+            });
+        command(
+            app_, "contact", "Stress, contact ellipse and land of the heaviest loaded ball of a row",
+            [](Session& s, Arguments& a) { return contactCommand(s, a.number, a.loads, a.row); },
+            [this](CLI::App* contact) {
+                addNumberAndLoads(contact);
+                addRow(contact);
+            });
+        command(
+            app_, "search", "Bearings that fit an envelope, with their life under the loads",
+            [](Session& s, Arguments& a) { return searchCommand(s, a.search, a.loads); },
+            [this](CLI::App* search) {
+                addSearch(search);
+                addLoads(search);
+            });
+        command(
+            app_, "batch", "One life calculation for each row of a table",
+            [](Session& s, Arguments& a) {
+                a.batch.output = a.output;
+                a.batch.zSeparator = a.number.zSeparator;
+                return batchCommand(s, a.batch);
+            },
+            [this](CLI::App* batch) { addBatch(batch); });
+        command(
+            app_, "deflection", "Spring rates, relief loads and deflection curves under a preload",
+            [](Session& s, Arguments& a) { return deflectionCommand(s, a.number, a.deflection); },
+            [this](CLI::App* deflection) {
+                addNumber(deflection);
+                addDeflection(deflection);
+            });
         addFits();
-
-        CLI::App* const qlx =
-            command(app_, "qlx", "The export file for the analysis program Brimhall",
-                    [](Session& s, Arguments& a) { return qlxCommand(s, a.number, a.loads, a.output); });
-        addNumber(qlx);
-        addLoads(qlx);
-        qlx->add_option("--output", arguments_->output, "File to write, usually with the extension .qlx")
-            ->required();
-
+        command(
+            app_, "qlx", "The export file for the analysis program Brimhall",
+            [](Session& s, Arguments& a) { return qlxCommand(s, a.number, a.loads, a.output); },
+            [this](CLI::App* qlx) {
+                addNumberAndLoads(qlx);
+                qlx->add_option("--output", arguments_->output,
+                                "File to write, usually with the extension .qlx")
+                    ->required();
+            });
         addReport(app_, dataSheetReport());
         addReports();
     }
@@ -79,22 +85,21 @@ class Builder {
   private:
     using Run = std::function<CommandResult(Session&, Arguments&)>;
 
-    CLI::App* command(CLI::App& parent, const char* name, const char* description, Run run) {
+    using Options = std::function<void(CLI::App*)>;
+
+    /// A command. Its options are added when it is named: all of those of all commands would take longer than
+    /// most calls do.
+    void command(CLI::App& parent, const char* name, const char* description, const Run& run,
+                 const Options& options) {
         CLI::App* const command = parent.add_subcommand(name, description);
         command->fallthrough();
+        command->preparse_callback([options, command](std::size_t) { options(command); });
         command->callback([chosen = chosen_, arguments = arguments_, run] {
             *chosen = [arguments, run](Session& session) { return run(session, *arguments); };
         });
-        return command;
     }
 
-    void addBatch() {
-        CLI::App* const batch = command(app_, "batch", "One life calculation for each row of a table",
-                                        [](Session& s, Arguments& a) {
-                                            a.batch.output = a.output;
-                                            a.batch.zSeparator = a.number.zSeparator;
-                                            return batchCommand(s, a.batch);
-                                        });
+    void addBatch(CLI::App* batch) {
         BatchOptions& options = arguments_->batch;
         options.jobs = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
         batch->add_option("CASES", options.cases, "Table of cases, CSV: partNumber,radial,axial,moment,speed")
@@ -107,35 +112,43 @@ class Builder {
     }
 
     void addFits() {
-        CLI::App* const torque = command(app_, "torque", "Unmounted starting torque against preload",
-                                         [](Session& s, Arguments& a) { return torqueCommand(s, a.number); });
-        addNumber(torque);
-
-        CLI::App* const play = command(app_, "play", "Axial play and tilt against diametral clearance",
-                                       [](Session& s, Arguments& a) { return playCommand(s, a.number); });
-        addNumber(play);
-
-        CLI::App* const fits =
-            command(app_, "fits", "Shaft and housing sizes for a range of temperature",
-                    [](Session& s, Arguments& a) { return fitsCommand(s, a.number, a.fits); });
-        addNumber(fits);
-        addFitOptions(fits);
+        const Options number = [this](CLI::App* command) { addNumber(command); };
+        command(
+            app_, "torque", "Unmounted starting torque against preload",
+            [](Session& s, Arguments& a) { return torqueCommand(s, a.number); }, number);
+        command(
+            app_, "play", "Axial play and tilt against diametral clearance",
+            [](Session& s, Arguments& a) { return playCommand(s, a.number); }, number);
+        command(
+            app_, "fits", "Shaft and housing sizes for a range of temperature",
+            [](Session& s, Arguments& a) { return fitsCommand(s, a.number, a.fits); },
+            [this](CLI::App* fits) {
+                addNumber(fits);
+                addFitOptions(fits);
+            });
     }
 
     void addReports() {
         CLI::App* const parent = app_.add_subcommand("report", "A screen's report as a file");
         parent->require_subcommand(1);
         parent->fallthrough();
-        for (const Report& report : reports())
-            addReport(*parent, report);
+        parent->preparse_callback([this, parent](std::size_t) {
+            for (const Report& report : reports())
+                addReport(*parent, report);
+        });
     }
 
     void addReport(CLI::App& parent, const Report& report) {
-        CLI::App* const writer =
-            command(parent, report.name, report.description, [&report](Session& s, Arguments& a) {
+        command(
+            parent, report.name, report.description,
+            [&report](Session& s, Arguments& a) {
                 requireOutputKind(a.output, report.kinds);
                 return writeDocument(report.make(s, a), a.output);
-            });
+            },
+            [this, &report](CLI::App* writer) { addOptions(writer, report); });
+    }
+
+    void addOptions(CLI::App* writer, const Report& report) {
         if (report.options & kNumber) addNumber(writer);
         if (report.options & kSearch) addSearch(writer);
         if (report.options & kLoads) addLoads(writer);
@@ -146,6 +159,11 @@ class Builder {
         }
         if (report.options & kFits) addFitOptions(writer);
         addOutput(writer, report.kinds);
+    }
+
+    void addNumberAndLoads(CLI::App* command) {
+        addNumber(command);
+        addLoads(command);
     }
 
     void addNumber(CLI::App* command) {

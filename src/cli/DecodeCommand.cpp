@@ -25,12 +25,15 @@ std::string shown(const Int16& value) {
 
 CommandResult decodeCommand(Session& session, const PartNumberOption& number) {
     session.decode(number);
+    const BearingSpec& bearing = session.state().bearing;
     CommandResult result;
+    if (session.asksForJson()) {
+        visitBearing(bearing,
+                     [&](const char* name, const auto& value) { result.json[name] = toJson(value); });
+        return result;
+    }
     TextRows rows;
-    visitBearing(session.state().bearing, [&](const char* name, const auto& value) {
-        result.json[name] = toJson(value);
-        rows.push_back({name, shown(value)});
-    });
+    visitBearing(bearing, [&](const char* name, const auto& value) { rows.push_back({name, shown(value)}); });
     result.text = textTable(rows, false);
     return result;
 }

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <clocale>
 #include <iostream>
 #include <string_view>
 #include <utility>
@@ -58,8 +57,6 @@ int report(const CommandError& error, bool json) {
 
 int main(int argc, char** argv) {
     using namespace norlaplan::cli;
-    // Dates print in the user's locale; numbers never follow it.
-    std::setlocale(LC_TIME, "");
     const bool json = std::any_of(argv + 1, argv + argc,
                                   [](const char* word) { return std::string_view(word) == "--json"; });
     try {
