@@ -1,6 +1,7 @@
 #include "paint/BearingIcon.h"
 
 #include <QColor>
+#include <QIconEngine>
 #include <QPainter>
 #include <QPixmap>
 #include <cmath>
@@ -46,6 +47,39 @@ std::vector<Circle> circlesOf(int pixels) {
     return circles;
 }
 
+/// The icon, drawn when somebody first looks at it: eight sizes of it take as long as a window does to
+/// appear.
+class LaterIcon : public QIconEngine {
+  public:
+    void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State state) override {
+        drawn().paint(painter, place, Qt::AlignCenter, mode, state);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        return drawn().pixmap(size, 1.0, mode, state);
+    }
+    QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        return drawn().actualSize(size, mode, state);
+    }
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override {
+        QList<QSize> sizes;
+        for (const int pixels : kIconSizes)
+            sizes.append(QSize(pixels, pixels));
+        return sizes;
+    }
+    QIconEngine* clone() const override { return new LaterIcon(*this); }
+
+  private:
+    const QIcon& drawn() {
+        if (drawn_.isNull()) {
+            for (const int pixels : kIconSizes)
+                drawn_.addPixmap(QPixmap::fromImage(bearingIconImage(pixels)));
+        }
+        return drawn_;
+    }
+
+    QIcon drawn_;
+};
+
 QByteArray number(double parts) {
     return QByteArray::number(parts * kScalable, 'f', 2);
 }
@@ -68,10 +102,7 @@ QImage bearingIconImage(int pixels) {
 }
 
 QIcon bearingIcon() {
-    QIcon icon;
-    for (const int pixels : kIconSizes)
-        icon.addPixmap(QPixmap::fromImage(bearingIconImage(pixels)));
-    return icon;
+    return QIcon(new LaterIcon);
 }
 
 QByteArray bearingIconSvg() {

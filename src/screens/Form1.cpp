@@ -25,7 +25,7 @@ constexpr QSize kExtraPicture(150, 100);
 
 Form1::Form1(Screens& screens) : Form(screens, forms::kStart, "Form1") {
     auto* const picture = new Picture("Image2", "Picture of a thin-section bearing", kStartPicture);
-    picture->showFile(services().folder, "\\bkground\\start.png");
+    picture->showFile(services().folder, "\\bkground\\start.ppm");
     logo_ = picture;
 
     extraPictures_ = new QWidget;

@@ -1,5 +1,7 @@
 #include "screens/Picture.h"
 
+#include <QFileInfo>
+#include <QImageReader>
 #include <QPainter>
 
 #include "screens/Theme.h"
@@ -7,6 +9,21 @@
 
 namespace norlaplan {
 namespace {
+
+/// A picture's file. Its ending tells the format, so that not every module for pictures has to be loaded;
+/// what a file with another one's ending holds they find out together.
+QPixmap read(const QString& file) {
+    if (!QFileInfo::exists(file)) return {};
+    QImageReader reader(file, QFileInfo(file).suffix().toLatin1());
+    reader.setAutoDetectImageFormat(false);
+    const QPixmap picture = QPixmap::fromImage(reader.read());
+    return picture.isNull() ? QPixmap(file) : picture;
+}
+
+/// "start-2x.ppm" beside "start.ppm".
+std::filesystem::path finerOf(const std::filesystem::path& file) {
+    return file.parent_path() / (file.stem().string() + "-2x" + file.extension().string());
+}
 
 /// What is made from a picture's file, if it can be.
 template <typename Made>
@@ -38,7 +55,9 @@ Picture::Picture(const char* name, const QString& spoken, QSize preferred) : pre
 void Picture::showFile(const ProgramFolder& folder, const std::string& file) {
     if (file == file_) return;
     file_ = file;
-    picture_ = QPixmap(QString::fromStdString(folder.find(file).string()));
+    const std::filesystem::path found = folder.find(file);
+    picture_ = read(QString::fromStdString(found.string()));
+    finer_ = finerOf(found);
     update();
 }
 
@@ -50,8 +69,16 @@ void Picture::showStated(const std::filesystem::path& file) {
 
 void Picture::showNothing() {
     picture_ = {};
+    finer_.clear();
     file_.clear();
     update();
+}
+
+void Picture::takeFiner(const QSize& wanted) {
+    if (finer_.empty() || wanted == picture_.size()) return;
+    const QPixmap finer = read(QString::fromStdString(finer_.string()));
+    if (!finer.isNull()) picture_ = finer;
+    finer_.clear();
 }
 
 void Picture::paintEvent(QPaintEvent*) {
@@ -63,9 +90,10 @@ void Picture::paintEvent(QPaintEvent*) {
     const QSize size = picture_.size().scaled(rect().size(), Qt::KeepAspectRatio);
     QRect place(QPoint(0, 0), size);
     place.moveCenter(rect().center());
+    const QSize wanted = size * devicePixelRatioF();
+    takeFiner(wanted);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawPixmap(
-        place, picture_.scaled(size * devicePixelRatioF(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    painter.drawPixmap(place, picture_.scaled(wanted, Qt::KeepAspectRatio, Qt::SmoothTransformation));
 }
 
 }  // namespace norlaplan

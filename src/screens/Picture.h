@@ -15,8 +15,9 @@ QPixmap readPicture(const std::filesystem::path& file);
 /// The same in all the sizes that the file has.
 QIcon readIcon(const std::filesystem::path& file);
 
-/// A drawing of the program folder on white, scaled to the room it has and never beyond its own sharpness.
-/// A picture that is missing says so in its place.
+/// A drawing of the program folder on white, scaled to the room it has: from "start-2x.ppm" with more pixels,
+/// where that lies beside "start.ppm" and the room isn't just that one's size. A picture that is missing says
+/// so in its place.
 class Picture : public QWidget {
   public:
     /// `name` is the object name, `spoken` what a screen reader says.
@@ -35,9 +36,12 @@ class Picture : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void takeFiner(const QSize& wanted);
+
     QSize preferred_;
     QPixmap picture_;
     std::string file_;
+    std::filesystem::path finer_;  ///< the same picture with more pixels, as long as it isn't needed
 };
 
 }  // namespace norlaplan

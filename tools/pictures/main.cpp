@@ -24,7 +24,7 @@ bool told(bool saved, const QString& path) {
     return saved;
 }
 
-bool save(const QDir& folder, const PictureFile& picture) {
+QImage drawn(const PictureFile& picture) {
     // Bitmaps hold no transparency.
     QImage image(picture.size * kScale, QImage::Format_RGB32);
     image.fill(Qt::white);
@@ -34,9 +34,13 @@ bool save(const QDir& folder, const PictureFile& picture) {
         painter.scale(kScale, kScale);
         picture.draw(painter);
     }
+    return image;
+}
+
+bool save(const QDir& folder, const PictureFile& picture) {
     const QString path = folder.filePath(QString::fromLatin1(picture.name));
     const bool lossy = path.endsWith(".jpg", Qt::CaseInsensitive);
-    return told(image.save(path, nullptr, lossy ? kQuality : -1), path);
+    return told(drawn(picture).save(path, nullptr, lossy ? kQuality : -1), path);
 }
 
 bool saveStyle(const QDir& folder, const Style& style) {
@@ -49,6 +53,15 @@ bool saveStyle(const QDir& folder, const Style& style) {
            save(folder, {stem + "-S.BMP", kSketchSize, drawing(drawSizes)});
 }
 
+/// The picture that the program starts with, in a format that is read without unpacking, and in the size in
+/// which it is usually shown beside twice that.
+bool saveStart(const QDir& folder) {
+    const PictureFile twice{"start-2x.ppm", kStartSize, drawStart};
+    const QString path = folder.filePath("start.ppm");
+    const QImage once = drawn(twice).scaled(kStartSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    return save(folder, twice) && told(once.save(path), path);
+}
+
 bool saveBackgrounds(const QDir& folder) {
     bool whole = true;
     for (const Style& style : styles())
@@ -57,7 +70,7 @@ bool saveBackgrounds(const QDir& folder) {
         whole = save(folder, {"C" + QByteArray::number(number) + ".BMP", kDemonstrationSize,
                               [number](QPainter& painter) { drawDemonstration(painter, number); }}) &&
                 whole;
-    return save(folder, {"start.png", kStartSize, drawStart}) && whole;
+    return saveStart(folder) && whole;
 }
 
 bool saveAll(const QDir& folder, const std::vector<PictureFile>& pictures) {
