@@ -18,6 +18,11 @@ std::string variable(const char* name) {
     return value == nullptr ? "" : value;
 }
 
+std::string accountHome() {
+    const passwd* const account = ::getpwuid(::geteuid());
+    return account == nullptr || account->pw_dir == nullptr ? "" : account->pw_dir;
+}
+
 bool isFolder(const fs::path& path) {
     std::error_code failure;
     return fs::is_directory(path, failure);
@@ -36,9 +41,10 @@ fs::path ownFolder(const UserHome& user) {
 }  // namespace
 
 UserHome userHome() {
-    const passwd* const account = ::getpwuid(::geteuid());
-    return {variable("XDG_DATA_HOME"), variable("HOME"),
-            account == nullptr || account->pw_dir == nullptr ? "" : account->pw_dir};
+    UserHome user{variable("XDG_DATA_HOME"), variable("HOME"), ""};
+    // The account is asked last: that takes a good part of a short call.
+    if (!fs::path(user.home).is_absolute()) user.account = accountHome();
+    return user;
 }
 
 ProgramFolder programFolderOf(const fs::path& executables, const UserHome& user) {

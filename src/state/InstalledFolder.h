@@ -11,7 +11,7 @@ namespace norlaplan {
 struct UserHome {
     std::string dataHome;  ///< XDG_DATA_HOME
     std::string home;      ///< HOME
-    std::string account;   ///< the home folder of the user's account
+    std::string account;   ///< the home folder of the user's account, asked where HOME gives no path
 };
 
 /// The home of the running program's user.

@@ -178,5 +178,18 @@ TEST(UserHome, KnowsTheVariablesOfTheLogin) {
     EXPECT_EQ(userHome().dataHome, "");
 }
 
+TEST(UserHome, AsksTheAccountWhereTheLoginNamesNoFolder) {
+    const char* const set = std::getenv("HOME");
+    const std::string before = set == nullptr ? "" : set;
+    const std::string account = ::getpwuid(::geteuid())->pw_dir;
+    for (const char* const home : {"", "not/a/whole/path"}) {
+        ::setenv("HOME", home, 1);
+        EXPECT_EQ(userHome().account, account) << home;
+    }
+    ::setenv("HOME", "/somewhere", 1);
+    EXPECT_EQ(userHome().home, "/somewhere");
+    ::setenv("HOME", before.c_str(), 1);
+}
+
 }  // namespace
 }  // namespace norlaplan
