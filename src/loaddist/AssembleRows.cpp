@@ -74,20 +74,30 @@ void placeLines(const SolverState& state, const RowGeometry& rows, const std::ve
     }
 }
 
-/// Row 2 pulls against row 1 along the axis, so its axial terms over the radial displacement and the tilt
-/// count negative: only so is the sum the derivative of the forces.
-void addStiffness(Matrix3& J, const ContactBlock& one, std::size_t i, const ContactBlock& two, std::size_t j,
-                  double c) {
-    J[1][1] += one.k11[i] + two.k11[j];
-    J[1][2] += one.k12[i] - two.k12[j];
-    J[1][3] += one.k13[i] - two.k13[j];
-    J[2][1] += one.k12[i] - two.k12[j];
-    J[2][2] += one.k22[i] + two.k22[j];
-    J[2][3] += one.k23[i] + two.k23[j];
-    J[3][1] += c * one.k11[i] + c * two.k11[j];
-    J[3][2] += c * one.k12[i] - c * two.k12[j];
-    J[3][3] += c * one.k13[i] - c * two.k13[j];
-}
+/// The sums of the stiffness, ball after ball. Row 2 pulls against row 1 along the axis, so its axial terms
+/// over the radial displacement and the tilt count negative: only so is the sum the derivative of the forces.
+struct StiffnessSums {
+    double k11 = 0.0, k12 = 0.0, k13 = 0.0, k22 = 0.0, k23 = 0.0, k31 = 0.0, k32 = 0.0, k33 = 0.0;
+
+    void add(const ContactBlock& one, std::size_t i, const ContactBlock& two, std::size_t j, double c) {
+        k11 += one.k11[i] + two.k11[j];
+        k12 += one.k12[i] - two.k12[j];
+        k13 += one.k13[i] - two.k13[j];
+        k22 += one.k22[i] + two.k22[j];
+        k23 += one.k23[i] + two.k23[j];
+        k31 += c * one.k11[i] + c * two.k11[j];
+        k32 += c * one.k12[i] - c * two.k12[j];
+        k33 += c * one.k13[i] - c * two.k13[j];
+    }
+
+    Matrix3 matrix() const {
+        Matrix3 J{};
+        J[1] = {0.0, checked(k11), checked(k12), checked(k13)};
+        J[2] = {0.0, checked(k12), checked(k22), checked(k23)};
+        J[3] = {0.0, checked(k31), checked(k32), checked(k33)};
+        return J;
+    }
+};
 
 /// The three force sums, ball after ball.
 struct ForceSums {
@@ -118,28 +128,28 @@ Assembly AssembleRows(SolverState& state, const std::vector<double>& cosines) {
     const RowConstants rowOne = rowConstants(state, rows, 1);
     const RowConstants rowTwo = rowConstants(state, rows, 2);
     const auto balls = static_cast<std::size_t>(state.BallCount);
-    Assembly assembly;
     ForceSums sums;
+    StiffnessSums stiffness;
     for (std::size_t begin = 1; begin <= balls; begin += ContactBlock::kBalls) {
         const std::size_t end = std::min(balls, begin + ContactBlock::kBalls - 1);
-        const ContactBlock one(first, cosines.data(), begin, end, rowOne);
-        const ContactBlock two(second, cosines.data(), begin, end, rowTwo);
+        ContactBlock one(first, cosines.data(), begin, end, rowOne);
+        one.stiffen();
+        ContactBlock two(second, cosines.data(), begin, end, rowTwo);
+        two.stiffen();
         for (std::size_t ball = begin; ball <= end; ++ball) {
             const std::size_t i = one.slot(ball - begin);
             const std::size_t j = two.slot(ball - begin);
             if (i == 0 && j == 0) continue;  // nothing adds nothing to any sum
             sums.add(one, i, two, j);
-            addStiffness(assembly.stiffness, one, i, two, j, cosines[ball]);
+            stiffness.add(one, i, two, j, cosines[ball]);
         }
     }
+    Assembly assembly;
     assembly.lastArm1 = divide(rows.h * first.x[balls], first.y[balls]) + state.PitchDiameter;
     state.ForceAxialSum = checked(sums.axial);
     state.ForceRadialSum = checked(sums.radial);
     state.MomentSum = checked(sums.moment);
-    for (std::size_t i = 1; i <= 3; ++i) {
-        for (std::size_t j = 1; j <= 3; ++j)
-            checked(assembly.stiffness[i][j]);
-    }
+    assembly.stiffness = stiffness.matrix();
     return assembly;
 }
 

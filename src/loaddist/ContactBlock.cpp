@@ -7,41 +7,62 @@
 
 namespace norlaplan {
 
-ContactBlock::ContactBlock(const ContactLines& lines, const double* cosines, std::size_t first,
-                           std::size_t last, const RowConstants& row) {
-    collect(lines, cosines, first, last, row.A0);
-    if (count_ > 0) {
-        load(row);
-        stiffen(row);
+namespace {
+
+/// Raises what is wrong with the first line that can't be: without a finite length, or without a part that
+/// something divides by (the moment's arm by y, the angle's text by x).
+void raiseFault(const ContactLines& lines, std::size_t first, std::size_t last, double A0) {
+    for (std::size_t ball = first; ball <= last; ++ball) {
+        const double e = checked(lines.length[ball] - A0);
+        const bool touches = !(e < 0.0);
+        if (lines.y[ball] == 0.0 || lines.length[ball] == 0.0 || (touches && lines.x[ball] == 0.0))
+            raise(fault::kDivisionByZero);
     }
-    for (Column* column : {&Q, &axialForce, &radialForce, &moment, &k11, &k12, &k13, &k22, &k23})
+}
+
+}  // namespace
+
+ContactBlock::ContactBlock(const ContactLines& lines, const double* cosines, std::size_t first,
+                           std::size_t last, const RowConstants& row)
+    : row_(row) {
+    collect(lines, cosines, first, last);
+    load();
+    for (Column* column : {&Q, &axialForce, &radialForce, &moment})
         column->front() = 0.0;
 }
 
 void ContactBlock::collect(const ContactLines& lines, const double* cosines, std::size_t first,
-                           std::size_t last, double A0) {
+                           std::size_t last) {
+    // Each ball is put in the next free place, which a ball out of touch doesn't take: so nothing has to be
+    // guessed on the way.
+    bool faulty = false;
+    std::size_t count = 0;
     for (std::size_t ball = first; ball <= last; ++ball) {
         const double x = lines.x[ball];
         const double y = lines.y[ball];
         const double d = lines.length[ball];
-        const double e = checked(d - A0);
+        const double e = d - row_.A0;
         const bool touches = !(e < 0.0);
-        // The moment's arm divides by y, the angle's text by x.
-        if (y == 0.0 || d == 0.0 || (touches && x == 0.0)) raise(fault::kDivisionByZero);
-        if (touches) {
-            ++count_;
-            x_[count_] = x;
-            y_[count_] = y;
-            d_[count_] = d;
-            e_[count_] = e;
-            c_[count_] = cosines[ball];
-        }
-        slots_[ball - first] = touches ? count_ : 0;
+        const std::size_t place = count + 1;
+        faulty |= !std::isfinite(e) | (y == 0.0) | (d == 0.0) | (touches & (x == 0.0));
+        x_[place] = x;
+        y_[place] = y;
+        d_[place] = d;
+        e_[place] = e;
+        c_[place] = cosines[ball];
+        slots_[ball - first] = touches ? place : 0;
+        count += touches ? 1 : 0;
     }
+    if (faulty) [[unlikely]]
+        raiseFault(lines, first, last, row_.A0);
+    count_ = count;
 }
 
-void ContactBlock::load(const RowConstants& row) {
-    powersThreeHalves(e_.data() + 1, Q.data() + 1, count_);
+void ContactBlock::load() {
+    const RowConstants& row = row_;
+    for (std::size_t i = 1; i <= count_; ++i)
+        rootOfE_[i] = std::sqrt(e_[i]);
+    powersThreeHalves(e_.data() + 1, rootOfE_.data() + 1, Q.data() + 1, count_);
     for (std::size_t i = 1; i <= count_; ++i) {
         const double sine = y_[i] / d_[i];
         const double cosine = x_[i] / d_[i];
@@ -53,7 +74,10 @@ void ContactBlock::load(const RowConstants& row) {
     }
 }
 
-void ContactBlock::stiffen(const RowConstants& row) {
+void ContactBlock::stiffen() {
+    for (Column* column : {&k11, &k12, &k13, &k22, &k23})
+        column->front() = 0.0;
+    const RowConstants& row = row_;
     Column cubes;
     cubesOf(d_.data() + 1, cubes.data() + 1, count_);
     const double A0 = row.A0;
@@ -65,7 +89,7 @@ void ContactBlock::stiffen(const RowConstants& row) {
         const double d = d_[i];
         const double e = e_[i];
         const double c = c_[i];
-        const double S = std::sqrt(e) / cubes[i];
+        const double S = rootOfE_[i] / cubes[i];
         const double T = A0 + d / 2.0;
         k11[i] = S * (d * (1.5 * (y * y) + x * x) - A0 * (x * x));
         k12[i] = ((c * x) * y) * S * T;

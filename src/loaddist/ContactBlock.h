@@ -29,27 +29,29 @@ class ContactBlock {
     static constexpr std::size_t kBalls = 64;
     using Column = std::array<double, kBalls + 1>;
 
-    /// The balls first..last (at most kBalls of them), their loads and forces and the terms of their
-    /// stiffness. `cosines` are those of the balls' places. Errors: 11 for a line without length or axial
-    /// part, or a loaded one without radial part; 5 and 6 as the powers raise them.
+    /// The balls first..last (at most kBalls of them), their loads and forces. `cosines` are those of the
+    /// balls' places. Errors: 11 for a line without length or axial part, or a loaded one without radial
+    /// part; 5 and 6 as the powers raise them.
     ContactBlock(const ContactLines& lines, const double* cosines, std::size_t first, std::size_t last,
                  const RowConstants& row);
+
+    /// The terms of the balls' stiffness. Errors: 5 and 6 as the powers raise them.
+    void stiffen();
 
     /// Where ball `first + i` stands in the columns; 0, whose terms are zero, when it is out of touch.
     std::size_t slot(std::size_t i) const { return slots_[i]; }
 
     Column Q, axialForce, radialForce, moment;
-    Column k11, k12, k13, k22, k23;  ///< k21 is k12
+    Column k11, k12, k13, k22, k23;  ///< after `stiffen`; k21 is k12
 
   private:
-    void collect(const ContactLines& lines, const double* cosines, std::size_t first, std::size_t last,
-                 double A0);
-    void load(const RowConstants& row);
-    void stiffen(const RowConstants& row);
+    void collect(const ContactLines& lines, const double* cosines, std::size_t first, std::size_t last);
+    void load();
 
+    RowConstants row_;
     std::array<std::size_t, kBalls> slots_;
     std::size_t count_ = 0;
-    Column x_, y_, d_, e_, c_;
+    Column x_, y_, d_, e_, rootOfE_, c_;
 };
 
 }  // namespace norlaplan

@@ -57,12 +57,14 @@ inline bool certain(const Candidate& candidate, double base) {
     return candidate.result == candidate.moved && inRange(base);
 }
 
-inline Candidate threeHalves(double base) {
-    const double root = std::sqrt(base);
+/// With `root` the square root of the base.
+inline Candidate threeHalves(double base, double root) {
     const Sum square = product(root, root);
-    const double rootError = ((base - square.high) - square.low) / (root + root);
     const Sum sum = product(base, root);
-    return rounded({sum.high, sum.low + base * rootError});
+    // The root lacks rest / (2 root), and base / root is root again but for a rounding, so that no quotient
+    // is needed for what the power lacks.
+    const double rest = (base - square.high) - square.low;
+    return rounded({sum.high, sum.low + (rest * root) / 2.0});
 }
 
 inline Candidate cube(double base) {
@@ -71,23 +73,22 @@ inline Candidate cube(double base) {
     return rounded({sum.high, sum.low + square.low * base});
 }
 
-/// Power after power: first all of them side by side, then the library for those in doubt.
-template <Candidate (*Power)(double)>
-void fill(const double* bases, double* results, std::size_t count, double exponent) {
+/// Power after power: first all of them side by side, then the library for those in doubt. `candidateOf(i)`
+/// gives the candidate of bases[i].
+template <typename Power>
+void fill(const double* bases, double* results, std::size_t count, double exponent, Power candidateOf) {
     constexpr std::size_t kBlock = 64;
     std::array<double, kBlock> moved;
     for (std::size_t first = 0; first < count; first += kBlock) {
         const std::size_t size = std::min(kBlock, count - first);
-        const double* base = bases + first;
-        double* result = results + first;
         for (std::size_t i = 0; i < size; ++i) {
-            const Candidate candidate = Power(base[i]);
-            result[i] = candidate.result;
+            const Candidate candidate = candidateOf(first + i);
+            results[first + i] = candidate.result;
             moved[i] = candidate.moved;
         }
-        for (std::size_t i = 0; i < size; ++i) {
-            if (!certain({result[i], moved[i]}, base[i])) [[unlikely]]
-                result[i] = power(base[i], exponent);
+        for (std::size_t i = first; i < first + size; ++i) {
+            if (!certain({results[i], moved[i - first]}, bases[i])) [[unlikely]]
+                results[i] = power(bases[i], exponent);
         }
     }
 }
@@ -96,18 +97,20 @@ void fill(const double* bases, double* results, std::size_t count, double expone
 
 /// base^(3/2). Errors as those of `power`.
 inline double powerThreeHalves(double base) {
-    const exact::Candidate candidate = exact::threeHalves(base);
+    const exact::Candidate candidate = exact::threeHalves(base, std::sqrt(base));
     return exact::certain(candidate, base) ? candidate.result : power(base, 3.0 / 2.0);
 }
 
-/// bases[i]^(3/2) into results[i] for i below `count`; the arrays don't overlap. Errors as those of `power`.
-inline void powersThreeHalves(const double* bases, double* results, std::size_t count) {
-    exact::fill<exact::threeHalves>(bases, results, count, 3.0 / 2.0);
+/// bases[i]^(3/2) into results[i] for i below `count`, with the square roots of the bases in `roots`; the
+/// arrays don't overlap. Errors as those of `power`.
+inline void powersThreeHalves(const double* bases, const double* roots, double* results, std::size_t count) {
+    exact::fill(bases, results, count, 3.0 / 2.0,
+                [=](std::size_t i) { return exact::threeHalves(bases[i], roots[i]); });
 }
 
 /// bases[i]^3 into results[i] for i below `count`; the arrays don't overlap. Errors as those of `power`.
 inline void cubesOf(const double* bases, double* results, std::size_t count) {
-    exact::fill<exact::cube>(bases, results, count, 3.0);
+    exact::fill(bases, results, count, 3.0, [=](std::size_t i) { return exact::cube(bases[i]); });
 }
 
 }  // namespace norlaplan

@@ -49,10 +49,12 @@ TEST(ExactPowers, OfTheEndsOfTheRangeAreTheLibrarys) {
 TEST(ExactPowers, OfManyBasesAreThoseOfEachBase) {
     // Blocks of 64 and what is left of one; every third base is beyond the range.
     for (const std::size_t count : {0u, 1u, 63u, 64u, 65u, 200u}) {
-        std::vector<double> bases, halves(count + 1, -1.0), cubes(count + 1, -1.0);
-        for (std::size_t i = 0; i < count; ++i)
+        std::vector<double> bases, roots, halves(count + 1, -1.0), cubes(count + 1, -1.0);
+        for (std::size_t i = 0; i < count; ++i) {
             bases.push_back(i % 3 == 0 ? 1e40 / (1.0 + double(i)) : 0.001 * double(i));
-        powersThreeHalves(bases.data(), halves.data(), count);
+            roots.push_back(std::sqrt(bases.back()));
+        }
+        powersThreeHalves(bases.data(), roots.data(), halves.data(), count);
         cubesOf(bases.data(), cubes.data(), count);
         for (std::size_t i = 0; i < count; ++i) {
             EXPECT_EQ(halves[i], std::pow(bases[i], 1.5)) << i;
