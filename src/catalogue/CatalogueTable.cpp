@@ -17,6 +17,9 @@ constexpr int kEnd = -1;
 /// No text of a catalogue comes near this; what does isn't a table, and isn't worth the memory.
 constexpr std::size_t kLongestField = 65535;
 
+/// Millions of rows; no file of bearings comes near it.
+constexpr std::size_t kMostTableBytes = 64U << 20U;
+
 bool endsField(int c) {
     return c == kEnd || c == ',' || c == '\n' || c == '\r';
 }
@@ -37,6 +40,7 @@ CatalogueTable::CatalogueTable(const ProgramFolder& folder, std::string_view nam
     if (::fstat(::fileno(file_.get()), &status) != 0 || !S_ISREG(status.st_mode))
         raiseFile(fault::kPathAccess, path);
     size_ = static_cast<double>(status.st_size);
+    if (size_ > kMostTableBytes) raiseTooLarge(path, kMostTableBytes);
     skipByteOrderMark();
 }
 

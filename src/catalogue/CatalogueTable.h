@@ -18,7 +18,8 @@ namespace norlaplan {
 ///
 /// The file is read piece by piece, whatever its size. Errors: 53 when the file or its folder is missing, 62
 /// past the end, 6 for a number that its target doesn't hold and for a field of more than 65535 characters,
-/// 75 for a folder in the table's place, 70 and 57 as the platform raises them.
+/// 75 for a folder in the table's place, 321 for a file of more than 64 MB, 70 and 57 as the platform raises
+/// them.
 class CatalogueTable {
   public:
     /// Opens "13-X.csv" and the like in the data folder; names are matched without regard to case.

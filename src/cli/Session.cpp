@@ -13,6 +13,8 @@ namespace norlaplan::cli {
 Session::Session(const GlobalOptions& options) : folder_(options.programFolder), json_(options.json) {
     const StartUp start = startUp(state_, folder_);
     if (!start.notice.empty()) startNotices_.push_back({"SETTINGS.INI", start.notice, Icon::Warning});
+    if (!start.extrasNotice.empty())
+        startNotices_.push_back({"Extras.txt", start.extrasNotice, Icon::Warning});
     const std::string& units = options.units.empty() ? state_.unitSystem : options.units;
     state_.unitSystem = units == "METRIC" ? "METRIC" : "US";
     ApplyUnitSystem(state_.unitSystem, state_.units);

@@ -12,6 +12,7 @@
 #include "numbers/PiValue.h"
 #include "numbers/Text.h"
 #include "state/LoadEntry.h"
+#include "state/Patience.h"
 
 namespace norlaplan {
 namespace {
@@ -191,9 +192,15 @@ std::optional<SolveResult> SolveCoupledRows(ProgramState& state, const SolveArgu
     startIteration(solver);
     const std::vector<double> cosines = ballCosines(solver.BallCount, solver.BallSpacing);
     Rounds rounds;
+    Patience patience(messages);
     for (;;) {
         const std::optional<Assembly> assembly = tryAssembly(state, cosines, messages);
         if (!assembly || solver.SolveAborted) return std::nullopt;
+        // With tens of thousands of balls ten thousand passes take far longer than anybody waits.
+        if (!patience.worked(solver.BallCount)) {
+            solver.SolveAborted = true;
+            return std::nullopt;
+        }
         if (step(solver, *assembly)) break;
         solver.Iteration = solver.Iteration + 1;
         skipRounds(solver, rounds.closedBy(solver));

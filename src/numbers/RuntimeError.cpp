@@ -13,6 +13,8 @@ std::string runtimeErrorText(int number) {
             return "Invalid procedure call or argument";
         case fault::kOverflow:
             return "Overflow";
+        case fault::kOutOfMemory:
+            return "Out of memory";
         case fault::kSubscript:
             return "Subscript out of range";
         case fault::kDivisionByZero:
@@ -29,12 +31,16 @@ std::string runtimeErrorText(int number) {
             return "Disk full";
         case fault::kPastEnd:
             return "Input past end of file";
+        case fault::kTooManyFiles:
+            return "Too many files";
         case fault::kPermissionDenied:
             return "Permission denied";
         case fault::kPathAccess:
             return "Path/File access error";
         case fault::kPathNotFound:
             return "Path not found";
+        case fault::kInvalidFormat:
+            return "Invalid file format";
         case fault::kNoSuchProgram:
             return "ActiveX component can't create object";
         case fault::kAutomation:

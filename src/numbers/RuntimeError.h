@@ -22,6 +22,7 @@ class RuntimeError : public std::runtime_error {
 namespace fault {
 constexpr int kInvalidCall = 5;  ///< root, logarithm or fractional power of a negative number
 constexpr int kOverflow = 6;
+constexpr int kOutOfMemory = 7;
 constexpr int kSubscript = 9;
 constexpr int kDivisionByZero = 11;
 constexpr int kTypeMismatch = 13;
@@ -30,9 +31,11 @@ constexpr int kFileNotFound = 53;
 constexpr int kDeviceIo = 57;
 constexpr int kDiskFull = 61;
 constexpr int kPastEnd = 62;
+constexpr int kTooManyFiles = 67;
 constexpr int kPermissionDenied = 70;
 constexpr int kPathAccess = 75;
 constexpr int kPathNotFound = 76;
+constexpr int kInvalidFormat = 321;  ///< a file that can't be one of its kind, by its size
 constexpr int kNoSuchProgram = 429;  ///< another program that is to work for this one can't be reached
 constexpr int kAutomation = 440;     ///< it was reached and failed
 constexpr int kInvalidPicture = 481;

@@ -125,6 +125,8 @@ void ShowStartScreen(Screens& screens) {
     if (outcome.showNedGrove) form.dressForNedGrove();
     if (!outcome.pressStart) screens.show(forms::kStart);
     if (!outcome.notice.empty()) services.messages.show({"SETTINGS.INI", outcome.notice, Icon::Warning});
+    if (!outcome.extrasNotice.empty())
+        services.messages.show({"Extras.txt", outcome.extrasNotice, Icon::Warning});
 }
 
 }  // namespace norlaplan

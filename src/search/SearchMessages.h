@@ -30,6 +30,8 @@ class SearchMessages : public MessagePort {
         return counted(answers_.back().second);
     }
 
+    bool stillWanted() override { return watch_.goOn(); }
+
     /// How often the answer was No.
     int refusals() const { return refusals_; }
 

@@ -32,6 +32,13 @@ void raiseFile(int fault, const std::filesystem::path& file) {
     throw fileFault(fault, file);
 }
 
+void raiseTooLarge(const std::filesystem::path& file, std::size_t most) {
+    const std::size_t limit = most >> 20U;
+    throw RuntimeError(fault::kInvalidFormat, runtimeErrorText(fault::kInvalidFormat) +
+                                                  ": it is larger than " + std::to_string(limit) +
+                                                  " MB: " + shownPath(file));
+}
+
 int faultOfSystem(int code, int missing) {
     switch (code) {
         case ENOSPC:
@@ -50,6 +57,11 @@ int faultOfSystem(int code, int missing) {
             return fault::kPathAccess;
         case ENAMETOOLONG:
             return fault::kBadFileName;
+        case EMFILE:
+        case ENFILE:
+            return fault::kTooManyFiles;
+        case ENOMEM:
+            return fault::kOutOfMemory;
         default:
             return fault::kDeviceIo;
     }

@@ -15,7 +15,7 @@ void moveFile(const std::filesystem::path& from, const std::filesystem::path& to
     std::filesystem::rename(from, to, failure);
     if (!failure) return;
     // Another file system, or a folder that isn't there: the copy tells which.
-    writeWholeFile(to, readWholeFile(from));
+    writeWholeFile(to, readWholeFile(from, kAnySize));
     std::filesystem::remove(from, failure);
 }
 

@@ -29,10 +29,16 @@ void Patience::endRepeating() {
 }
 
 void Patience::look() {
-    if (now_() - asked_ < kTimeToAsk) return;
+    if (!goesOn()) throw NotConverging();
+}
+
+bool Patience::goesOn() {
+    if (!messages_.stillWanted()) return false;
+    if (now_() - asked_ < kTimeToAsk) return true;
     const Message question{NotConverging::title(), "Do you want to keep trying?", Icon::Question};
-    if (messages_.ask(question, Buttons::YesNo) != Answer::Yes) throw NotConverging();
+    if (messages_.ask(question, Buttons::YesNo) != Answer::Yes) return false;
     asked_ = now_();
+    return true;
 }
 
 }  // namespace norlaplan

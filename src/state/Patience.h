@@ -20,7 +20,8 @@ class NotConverging : public std::runtime_error {
 
 /// Guards an iteration that has no limit of its own. It ends the calculation at once (`NotConverging`) when
 /// the iteration's state repeats, since it then can't end by itself, and asks "Do you want to keep trying?"
-/// after ten seconds and every ten seconds from there. A converging run is never cut unasked.
+/// after ten seconds and every ten seconds from there. A converging run is never cut unasked, but when nobody
+/// wants its result any more.
 class Patience {
   public:
     using Seconds = std::chrono::duration<double>;
@@ -45,19 +46,31 @@ class Patience {
         if (++passes_ % kPassesBetweenLooks == 0) look();
     }
 
+    /// Work on so many balls is done, in an iteration whose end another rule decides. False when the user
+    /// doesn't want to go on. The clock costs as much as a ball: it is looked at every few thousand balls,
+    /// whatever a pass has.
+    bool worked(int balls) {
+        balls_ += static_cast<std::uint64_t>(balls);
+        if (balls_ < kBallsBetweenLooks) return true;
+        balls_ = 0;
+        return goesOn();
+    }
+
     static Seconds steadySeconds();
 
   private:
     static constexpr std::size_t kStates = 8;
     static constexpr std::uint64_t kPassesBetweenLooks = 64;
+    static constexpr std::uint64_t kBallsBetweenLooks = 8192;
 
     [[noreturn]] static void endRepeating();
     void look();
+    bool goesOn();
 
     MessagePort& messages_;
     Now now_;
     Seconds asked_;
-    std::uint64_t passes_ = 0;
+    std::uint64_t passes_ = 0, balls_ = 0;
     std::array<double, kStates> mark_{};
 };
 

@@ -29,6 +29,8 @@ class MessagePort {
     virtual ~MessagePort() = default;
     virtual void show(const Message& message) = 0;
     virtual Answer ask(const Message& question, Buttons buttons) = 0;
+    /// Asked now and then by a calculation that takes long: false when the user has stopped what it is for.
+    virtual bool stillWanted() { return true; }
 };
 
 struct FileFilter {

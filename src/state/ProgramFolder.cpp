@@ -61,8 +61,8 @@ fs::path ProgramFolder::find(std::string_view name) const {
     return fs::exists(shared, failure) ? shared : path;
 }
 
-std::string ProgramFolder::read(std::string_view name) const {
-    return readWholeFile(find(name));
+std::string ProgramFolder::read(std::string_view name, std::size_t most) const {
+    return readWholeFile(find(name), most);
 }
 
 std::vector<std::string> ProgramFolder::files(std::string_view folder) const {

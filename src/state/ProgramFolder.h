@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "state/WholeFile.h"
+
 namespace norlaplan {
 
 /// The folder under which all of the program's files lie. Names are given as the program states them
@@ -27,8 +29,8 @@ class ProgramFolder {
     /// under `root` where it would stand.
     std::filesystem::path find(std::string_view name) const;
 
-    /// The whole of a file. Error 53 when it or its folder is missing, 70 when it can't be read.
-    std::string read(std::string_view name) const;
+    /// The whole of a file of `most` bytes at most. Errors as `readWholeFile`.
+    std::string read(std::string_view name, std::size_t most = kMostBytes) const;
 
     /// The names of the files in a folder, in their order: under `root` and shared ones, each once whatever
     /// its case. None when there is no such folder.

@@ -16,6 +16,8 @@ constexpr std::string_view kSettingsFile = "SETTINGS.INI";
 constexpr std::string_view kExtrasFile = "Extras.txt";
 constexpr std::string_view kFooterKeyword = "FOOTER";
 constexpr const char* kFilling = " ";
+/// Lines of text and no more; far beyond what anybody has written there.
+constexpr std::size_t kMostSettings = 1U << 20U;
 
 /// The lines of the settings file in their order: the one description that reads and writes it.
 constexpr std::array<std::string UserInfo::*, 8> kUserLines = {
@@ -69,7 +71,7 @@ void applyOption(std::string_view line, Options& options) {
 }  // namespace
 
 void LoadSettings(ProgramState& state, const ProgramFolder& folder) {
-    const std::string text = folder.read(kSettingsFile);
+    const std::string text = folder.read(kSettingsFile, kMostSettings);
     Lines lines(text);
     for (const auto field : kUserLines)
         state.user.*field = lines.next();
@@ -98,8 +100,10 @@ std::string shownUserText(const std::string& text) {
 bool LoadExtras(ProgramState& state, const ProgramFolder& folder) {
     std::string text;
     try {
-        text = folder.read(kExtrasFile);
-    } catch (const RuntimeError&) {
+        text = folder.read(kExtrasFile, kMostSettings);
+    } catch (const RuntimeError& error) {
+        // A missing file is no fault, and one that can't be read is passed over; this one is a mistake.
+        if (error.number() == fault::kInvalidFormat) throw;
         return false;
     }
     for (Lines lines(text); !lines.atEnd();)
@@ -126,7 +130,13 @@ StartUp startUp(ProgramState& state, const ProgramFolder& folder) {
     }
     state.unitSystem = units == "METRIC" ? units : "US";
     ApplyUnitSystem(state.unitSystem, state.units);
-    if (!LoadExtras(state, folder)) return outcome;
+    try {
+        if (!LoadExtras(state, folder)) return outcome;
+    } catch (const RuntimeError& error) {
+        outcome.extrasNotice =
+            "Extras.txt could not be read (" + std::string(error.what()) + "). No option is set.";
+        return outcome;
+    }
     outcome.pressStart = state.options.skipIntroOption || state.options.ianMorayOption;
     outcome.pressEnterModelNumber = state.options.ianMorayOption;
     outcome.showNedGrove = state.options.nedGroveOption;

@@ -9,7 +9,7 @@ namespace norlaplan {
 
 /// Reads the nine lines of SETTINGS.INI into the user texts and `unitSystem`, in the file's order. A field is
 /// set as soon as its line is read. Errors: 53 when the file is missing, 62 when it has fewer than nine
-/// lines.
+/// lines, 321 when it is larger than any settings.
 void LoadSettings(ProgramState& state, const ProgramFolder& folder);
 
 /// Writes SETTINGS.INI. Empty user texts become one blank and an empty `unitSystem` becomes "US", in the
@@ -21,7 +21,8 @@ void SaveSettings(ProgramState& state, const ProgramFolder& folder);
 std::string shownUserText(const std::string& text);
 
 /// Reads the options of Extras.txt. Lines are compared whole after upper-casing; unknown ones are skipped.
-/// False when the file can't be read: the options that were read before stay set.
+/// False when the file can't be read: the options that were read before stay set. Error 321 for a file so
+/// large that it can hold no options.
 bool LoadExtras(ProgramState& state, const ProgramFolder& folder);
 
 /// What the start screen does by itself once the files are read.
@@ -30,6 +31,7 @@ struct StartUp {
     bool pressEnterModelNumber = false;  ///< and go on to the part number screen
     bool showNedGrove = false;           ///< the start screen's changes for that option
     std::string notice;                  ///< a sentence for the user when the settings could not be read
+    std::string extrasNotice;            ///< the same for the options
 };
 
 /// The start: settings, units, options. A missing settings file means US units. Any other fault of that file

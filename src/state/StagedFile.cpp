@@ -223,7 +223,7 @@ void commitTogether(StagedFile& first, StagedFile& second) {
     std::optional<std::string> content;
     const bool linked = ::link(target.c_str(), kept.c_str()) == 0;
     // Some disks know no second name of a file.
-    if (!linked && errno != ENOENT) content = readWholeFile(target);
+    if (!linked && errno != ENOENT) content = readWholeFile(target, kAnySize);
     first.commit();
     try {
         second.commit();

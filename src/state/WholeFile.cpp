@@ -12,15 +12,17 @@
 
 namespace norlaplan {
 
-std::string readWholeFile(const std::filesystem::path& path) {
+std::string readWholeFile(const std::filesystem::path& path, std::size_t most) {
     // A pipe in a file's place must not be waited for.
     const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (file.number() < 0) raiseSystem(errno, path, fault::kFileNotFound);
     struct stat status {};
     if (::fstat(file.number(), &status) != 0) raiseFile(fault::kDeviceIo, path);
     if (!S_ISREG(status.st_mode)) raiseFile(fault::kPathAccess, path);
+    const auto size = static_cast<std::size_t>(status.st_size);
+    if (size > most) raiseTooLarge(path, most);
     std::string content;
-    content.reserve(static_cast<std::size_t>(status.st_size));
+    content.reserve(size);
     char block[65536];
     for (;;) {
         const ssize_t count = ::read(file.number(), block, sizeof block);
@@ -28,6 +30,8 @@ std::string readWholeFile(const std::filesystem::path& path) {
         if (count < 0) raiseFile(fault::kDeviceIo, path);
         if (count == 0) return content;
         content.append(block, static_cast<std::size_t>(count));
+        // It may still be growing, and what the system makes up has no size beforehand.
+        if (content.size() > most) raiseTooLarge(path, most);
     }
 }
 

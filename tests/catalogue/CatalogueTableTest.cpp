@@ -200,6 +200,18 @@ TEST_F(ATable, KeepsNoMoreThanAPieceOfAnEndlessField) {
     EXPECT_EQ(text.size(), 65535U);
 }
 
+TEST_F(ATable, OfAGigabyteIsRefusedUnread) {
+    files.write("Data Tables/13-X.csv", "a,b\n");
+    std::filesystem::resize_file(files.path() / "Data Tables/13-X.csv", 1U << 30U);
+    try {
+        OpenTable(folder, "13-X.csv");
+        FAIL();
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), fault::kInvalidFormat);
+        EXPECT_NE(std::string(error.what()).find("larger than 64 MB"), std::string::npos);
+    }
+}
+
 TEST_F(ATable, OfFiftyMegabytesIsReadThroughInAFewSeconds) {
     std::string row = "name,1,100,116,1,2,3,4,1,50\n";
     std::string content;

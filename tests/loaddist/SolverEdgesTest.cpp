@@ -250,6 +250,34 @@ TEST(CoupledRows, AskAtTheTenThousandthPassAndAbortOnNo) {
     EXPECT_TRUE(messages.shown.empty());
 }
 
+/// Counts how often a solve asks whether it is still wanted, and stops it there.
+struct Onlooker : RecordingMessages {
+    explicit Onlooker(int stopAt) : stopAt_(stopAt) {}
+    bool stillWanted() override { return ++looks < stopAt_; }
+    int looks = 0;
+
+  private:
+    int stopAt_;
+};
+
+TEST(CoupledRows, OfTensOfThousandsOfBallsCanBeStoppedInEveryPass) {
+    plain::Bearing bearing = wanderingBearing();
+    bearing.balls = 30000;
+    ProgramState state;
+    Onlooker messages(3);
+    EXPECT_FALSE(SolveCoupledRows(state, argumentsOf(bearing), messages).has_value());
+    EXPECT_TRUE(state.solver.SolveAborted);
+    EXPECT_EQ(state.solver.Iteration, 3);
+    EXPECT_TRUE(messages.asked.empty());
+}
+
+TEST(CoupledRows, OfAFewBallsAskNobody) {
+    ProgramState state;
+    Onlooker messages(1);
+    EXPECT_TRUE(SolveCoupledRows(state, argumentsOf(solverCases('X')[1]), messages).has_value());
+    EXPECT_EQ(messages.looks, 0);
+}
+
 TEST(CoupledRows, CountTenThousandPassesAnewOnYes) {
     ProgramState state;
     RecordingMessages messages;

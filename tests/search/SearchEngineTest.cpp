@@ -392,6 +392,21 @@ TEST(Search, ThatWasToldToGoOnCanStillBeStoppedInARowThatNeverSettles) {
     EXPECT_EQ(search.messages.asked.size(), 1U);
 }
 
+TEST(Search, CanBeStoppedWithinARowOfTensOfThousandsOfBalls) {
+    Catalogue catalogue;
+    catalogue.section("K10013XP0,1,100,126,0,0,0,.5,1,30000\r\n");
+    catalogue.style("4-POINT CONTACT", "X");
+    catalogue.state.loads.radialLoadDisplay = 500.0;
+    convertLoads(catalogue.state);
+    Watch all;
+    EXPECT_EQ(
+        RunBearingSearch(catalogue.state, ProgramFolder(catalogue.place.path()), catalogue.messages, all),
+        SearchEnd::Found);
+    EXPECT_GT(all.rows, 3) << "a look for the row, and one for each of its passes";
+    EXPECT_EQ(catalogue.run(3), SearchEnd::Stopped);
+    EXPECT_TRUE(catalogue.state.search.rows.empty());
+}
+
 TEST(Search, TellsWhatToEnterInsteadOfALoadOfTheWrongSign) {
     for (const auto& [letter, word] : {std::pair{"C", "radial"}, std::pair{"X", "axial"}}) {
         Catalogue catalogue;

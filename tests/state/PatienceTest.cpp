@@ -117,6 +117,49 @@ TEST(Patience, TakesAStateThatDiffersInOneValueForANewOne) {
     SUCCEED();
 }
 
+TEST(Patience, LooksAtTheClockByTheBallsWhateverAPassHas) {
+    for (const int balls : {1, 60, 30000}) {
+        RecordingMessages messages;
+        seconds = 0.0;
+        Patience patience(messages, &now);
+        seconds = 10.0;
+        long worked = 0;
+        bool wanted = true;
+        while (wanted && worked < 100000) {
+            wanted = patience.worked(balls);
+            worked += balls;
+        }
+        EXPECT_FALSE(wanted) << balls;
+        EXPECT_LE(worked, 8192 + balls) << balls;
+        EXPECT_GE(worked, 8192) << balls;
+        ASSERT_EQ(messages.asked.size(), 1U);
+        EXPECT_EQ(messages.asked[0].prompt, "Do you want to keep trying?");
+    }
+}
+
+TEST(Patience, GoesOnWithTheBallsAfterAYes) {
+    RecordingMessages messages;
+    messages.answers = {Answer::Yes};
+    seconds = 0.0;
+    Patience patience(messages, &now);
+    seconds = 10.0;
+    EXPECT_TRUE(patience.worked(30000));
+    EXPECT_TRUE(patience.worked(30000)) << "the ten seconds count from the answer";
+    EXPECT_EQ(messages.asked.size(), 1U);
+}
+
+TEST(Patience, EndsWithoutAQuestionWhatNobodyWantsAnyMore) {
+    struct Stopped : RecordingMessages {
+        bool stillWanted() override { return false; }
+    } messages;
+    Patience patience(messages);
+    EXPECT_FALSE(patience.worked(30000));
+    patience.begin();
+    EXPECT_THROW(for (int pass = 0; pass < 100; ++pass) patience.pass({static_cast<double>(pass)}),
+                 NotConverging);
+    EXPECT_TRUE(messages.asked.empty());
+}
+
 TEST(NotConverging, SaysWhyTheCalculationWasEnded) {
     EXPECT_STREQ(NotConverging().what(),
                  "The calculation was ended because it comes to no result with these values.");

@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <string>
 #include <utility>
 
@@ -34,6 +35,31 @@ TEST(StartUp, ReadsTheNineLinesInTheOrderOfTheFile) {
     EXPECT_EQ(start.state.user.userMailSuffix, "suffix");
     EXPECT_EQ(start.state.unitSystem, "METRIC");
     EXPECT_EQ(start.state.units.lengthUnit, "mm");
+}
+
+TEST(StartUp, TellsOfSettingsAndOptionsThatAreTooLargeToBeAny) {
+    const auto grow = [](const Start& start, const char* name) {
+        std::filesystem::resize_file(start.place.path() / name, 1U << 30U);
+        return (start.place.path() / name).string();
+    };
+    Start settings;
+    settings.place.write("SETTINGS.INI", kNineLines);
+    const std::string settingsFile = grow(settings, "SETTINGS.INI");
+    EXPECT_EQ(settings.run().notice,
+              "SETTINGS.INI could not be read (Invalid file format: it is larger than 1 MB: " + settingsFile +
+                  "). US units are used until the settings are saved again.");
+
+    Start extras;
+    extras.place.write("SETTINGS.INI", kNineLines);
+    extras.place.write("Extras.txt", "SKIP INTRO\r\n");
+    const std::string extrasFile = grow(extras, "Extras.txt");
+    const StartUp outcome = extras.run();
+    EXPECT_EQ(outcome.notice, "");
+    EXPECT_EQ(outcome.extrasNotice,
+              "Extras.txt could not be read (Invalid file format: it is larger than 1 MB: " + extrasFile +
+                  "). No option is set.");
+    EXPECT_FALSE(outcome.pressStart);
+    EXPECT_EQ(extras.state.unitSystem, "METRIC") << "the settings are read all the same";
 }
 
 TEST(StartUp, MissingSettingsMeanUsUnitsAndNoMessage) {

@@ -56,6 +56,41 @@ TEST(WriteWholeFile, LimitOnFileSizesIsSixtyOneAsAFullDiskAndWhatStoodThereStill
         << "no temporary file stays";
 }
 
+TEST(ReadWholeFile, RefusesAFileThatIsLargerThanItsKindAndTellsTheLimit) {
+    TemporaryFolder place;
+    const std::filesystem::path file = place.path() / "large";
+    place.write("large", std::string(3U << 20U, 'x'));
+    EXPECT_EQ(readWholeFile(file, 3U << 20U).size(), 3U << 20U);
+    try {
+        readWholeFile(file, (3U << 20U) - 1);
+        FAIL();
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), fault::kInvalidFormat);
+        EXPECT_EQ(error.what(), "Invalid file format: it is larger than 2 MB: " + file.string());
+    }
+}
+
+TEST(ReadWholeFile, NeverReadsAGigabyte) {
+    TemporaryFolder place;
+    place.write("huge", "");
+    std::filesystem::resize_file(place.path() / "huge", 1U << 30U);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const rlimit memory{256U << 20U, 256U << 20U};
+        ::setrlimit(RLIMIT_DATA, &memory);
+        ::_exit(faultOf([&] { readWholeFile(place.path() / "huge"); }) == fault::kInvalidFormat ? 0 : 1);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+}
+
+TEST(ReadWholeFile, CountsWhatHasNoSizeBeforehand) {
+    // The system makes its text up as it is read.
+    EXPECT_EQ(faultOf([] { readWholeFile("/proc/self/maps", 10); }), fault::kInvalidFormat);
+    EXPECT_FALSE(readWholeFile("/proc/self/maps").empty());
+}
+
 TEST(ReadWholeFile, DoesNotWaitForAPipeInTheFilesPlace) {
     TemporaryFolder place;
     ASSERT_EQ(::mkfifo((place.path() / "SETTINGS.INI").c_str(), 0600), 0);
