@@ -9,7 +9,7 @@
 namespace norlaplan {
 
 /// The technical data sheet of the current bearing, as an RTF document and as records. Errors: 53 for a
-/// missing overlay drawing, 70 and 75 for one that can't be read.
+/// missing overlay drawing, 70 and 75 for one that can't be read, 321 for one that is too large.
 SheetFiles makeDataSheet(const ProgramState& state, const ProgramFolder& folder, ClockPort& clock);
 
 /// Raises what `makeDataSheet` would, and makes nothing: only the overlay drawings can be missing or

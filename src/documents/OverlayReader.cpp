@@ -20,9 +20,9 @@ constexpr double kLeft = 0.25;
 constexpr double kBottom = 0.625;
 constexpr double kThinLine = 9525.0;
 constexpr double kFirstWidth = 19050.0;
-/// No plot is longer than this; what goes beyond is a file that is none.
-constexpr std::size_t kLongestPlot = 4U << 20U;
-constexpr int kMostShapes = 20000;
+/// Ten times what a drawing of a bearing has. A circle takes as long to draw as many lines.
+constexpr int kMostLines = 5000;
+constexpr int kLinesOfACircle = 10;
 /// An instruction has two points at most; what stands behind them is not read.
 constexpr std::size_t kMostNumbers = 4;
 /// Beyond these coordinates nothing is on the page.
@@ -41,7 +41,7 @@ struct Instruction {
 /// Takes a plot apart into its instructions.
 class PlotReader {
   public:
-    explicit PlotReader(std::string_view plot) : rest_(plot.substr(0, kLongestPlot)) {}
+    explicit PlotReader(std::string_view plot) : rest_(plot.substr(0, kMostPlotBytes)) {}
 
     std::optional<Instruction> next() {
         while (rest_.size() >= 2) {
@@ -127,10 +127,9 @@ constexpr std::array<PenColour, 8> kPens = {
 /// The plotter: pen, colour, width and dash.
 class Plotter {
   public:
-    explicit Plotter(RtfDocument& document)
-        : document_(document), last_(document.shapeCounter() + kMostShapes) {}
+    explicit Plotter(RtfDocument& document) : document_(document) {}
 
-    bool full() const { return document_.shapeCounter() >= last_; }
+    bool full() const { return drawn_ >= kMostLines; }
 
     void run(const Instruction& instruction) {
         const std::string& name = instruction.mnemonic;
@@ -147,9 +146,14 @@ class Plotter {
     void drawTo(const std::vector<double>& numbers) {
         for (std::size_t i = 0; i + 1 < numbers.size() && !full(); i += 2) {
             const PagePoint next = onPage(numbers[i], numbers[i + 1]);
-            document_.RTFDATASHEETLINE(pen_, next, colour_, width_, dash_);
+            drawLine(pen_, next);
             pen_ = next;
         }
+    }
+
+    void drawLine(PagePoint from, PagePoint to) {
+        document_.RTFDATASHEETLINE(from, to, colour_, width_, dash_);
+        ++drawn_;
     }
 
     template <std::size_t N>
@@ -175,6 +179,7 @@ class Plotter {
         const double radius = std::sqrt(dx * dx + dy * dy);
         if (sweep >= 359.0) {
             document_.RTFCIRCLE(centre, radius, colour_, width_);
+            drawn_ += kLinesOfACircle;
             return;
         }
         if (sweep == 0.0) return;
@@ -186,14 +191,13 @@ class Plotter {
             return PagePoint{centre.x + radius * std::cos(angle), centre.y + radius * std::sin(angle)};
         };
         for (int i = 0; i < chords; ++i) {
-            document_.RTFDATASHEETLINE(at(start + i * step), at(start + (i + 1) * step), colour_, width_,
-                                       dash_);
+            drawLine(at(start + i * step), at(start + (i + 1) * step));
         }
         pen_ = at(start + chords * step);
     }
 
     RtfDocument& document_;
-    int last_;
+    int drawn_ = 0;  ///< lines, with what circles count for
     PagePoint pen_ = onPage(0.0, 0.0);
     Colour colour_ = 0;
     double width_ = kFirstWidth;
@@ -202,13 +206,14 @@ class Plotter {
 
 }  // namespace
 
-void OverlayToRtf(RtfDocument& document, std::string_view hpgl) {
+bool OverlayToRtf(RtfDocument& document, std::string_view hpgl) {
     PlotReader reader(hpgl);
     Plotter plotter(document);
     while (const auto instruction = reader.next()) {
-        if (plotter.full()) return;
+        if (plotter.full()) return false;
         plotter.run(*instruction);
     }
+    return true;
 }
 
 }  // namespace norlaplan

@@ -1,14 +1,19 @@
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 #include "documents/RTFroutines.h"
 
 namespace norlaplan {
 
+/// No plot is longer than this; what goes beyond is a file that is none.
+constexpr std::size_t kMostPlotBytes = 4U << 20U;
+
 /// Draws an HP-GL plot into the document: pen moves, lines, arcs, pen widths and colours, line types. Labels
 /// are dropped, unknown mnemonics passed over, and parameters that are no numbers count as 0, so that any
-/// file survives. 1016 plotter units make an inch.
-void OverlayToRtf(RtfDocument& document, std::string_view hpgl);
+/// file survives. 1016 plotter units make an inch. False when the plot has so many lines that it is cut
+/// short.
+bool OverlayToRtf(RtfDocument& document, std::string_view hpgl);
 
 }  // namespace norlaplan

@@ -12,6 +12,8 @@ namespace {
 constexpr PageBox kSection{2.91, 8.84, 4.99, 6.76};
 constexpr PageBox kSetSection{3.41, 8.84, 4.49, 6.76};
 constexpr PageBox kSeparator{6.35, 6.15, 8.15, 5.05};
+/// Above the section, where a drawing that isn't whole is told.
+constexpr PageBox kNote{2.3, 9.4, 6.7, 9.2};
 /// From the middle of the section to that of the separator.
 constexpr double kBeside = 2.4;
 
@@ -67,15 +69,24 @@ void drawField(Canvas& canvas, const std::vector<SheetRecord>& records, const Pa
 }  // namespace
 
 Overlays readOverlays(const BearingSpec& bearing, const ProgramFolder& folder) {
-    return {folder.read("\\overlays\\" + bearing.styleLetter + ".ovl"),
-            folder.read("\\overlays\\" + bearing.separatorOverlay + separatorSuffix(bearing.styleLetter) +
-                        ".sep")};
+    return {
+        folder.read("\\overlays\\" + bearing.styleLetter + ".ovl", kMostPlotBytes),
+        folder.read("\\overlays\\" + bearing.separatorOverlay + separatorSuffix(bearing.styleLetter) + ".sep",
+                    kMostPlotBytes)};
 }
 
 void writeOverlays(RtfDocument& document, const BearingSpec& bearing, const ProgramFolder& folder) {
     const Overlays overlays = readOverlays(bearing, folder);
-    OverlayToRtf(document, overlays.section);
-    OverlayToRtf(document, overlays.separator);
+    const bool section = OverlayToRtf(document, overlays.section);
+    const bool separator = OverlayToRtf(document, overlays.separator);
+    if (section && separator) return;
+    SheetText note;
+    note.box = kNote;
+    note.size = 10.0;
+    note.colour = "RED";
+    note.font = "TNR";
+    note.text = "The drawing is cut short: its overlay has too many lines.";
+    document.RTFDATASHEETTEXT(note);
 }
 
 void drawSection(Canvas& canvas, const BearingSpec& bearing, const ProgramFolder& folder, PagePoint centre) {

@@ -14,11 +14,11 @@ struct Overlays {
 };
 
 /// The plots of the bearing's style and of its separator. Errors: 53 for one that is missing, 70 and 75 for
-/// one that can't be read.
+/// one that can't be read, 321 for one that is too large.
 Overlays readOverlays(const BearingSpec& bearing, const ProgramFolder& folder);
 
 /// Writes the drawing of the bearing's style and that of its separator as they stand on the data sheet, from
-/// the program's overlays. Errors as those of `readOverlays`.
+/// the program's overlays; a line in red tells of one that is cut short. Errors as those of `readOverlays`.
 void writeOverlays(RtfDocument& document, const BearingSpec& bearing, const ProgramFolder& folder);
 
 /// Height of what `drawSection` draws, inches.

@@ -132,6 +132,41 @@ TEST(DataSheet, WithoutItsOverlayIsFileNotFound) {
     }
 }
 
+TEST(DataSheet, TellsInRedOfADrawingThatIsCutShort) {
+    constexpr const char* kNote = "The drawing is cut short: its overlay has too many lines.";
+    const auto notesOf = [](const RecordingCanvas& canvas) {
+        int notes = 0;
+        for (const auto& text : canvas.texts) {
+            if (text.text != kNote) continue;
+            ++notes;
+            EXPECT_EQ(text.look.colour, 255U);
+        }
+        return notes;
+    };
+    Sheet sheet;
+    EXPECT_EQ(notesOf(sheet.draw()), 0);
+    for (const char* const overlay : {"overlays/X.ovl", "overlays/RIBBONXC.sep"}) {
+        Sheet cut;
+        std::string plot = "PU0,0;";
+        for (int i = 0; i < 6000; ++i)
+            plot += "PD1,1;";
+        cut.place.write(overlay, plot);
+        EXPECT_EQ(notesOf(cut.draw()), 1) << overlay;
+    }
+}
+
+TEST(DataSheet, OfAnOverlayThatIsTooLargeIsAnInvalidFormat) {
+    Sheet sheet;
+    sheet.place.write("overlays/X.ovl", std::string((4U << 20U) + 1, ' '));
+    try {
+        checkDataSheet(sheet.state.bearing, ProgramFolder(sheet.place.path()));
+        FAIL();
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), fault::kInvalidFormat);
+        EXPECT_NE(std::string(error.what()).find("X.ovl"), std::string::npos);
+    }
+}
+
 TEST(DataSheet, EndsItsRecordsAndCarriesTheFooter) {
     Sheet sheet;
     sheet.state.options.footerText = " Mill & Co {1}";

@@ -170,6 +170,26 @@ std::string repeated(const std::string& part, std::size_t size) {
     return plot;
 }
 
+TEST(Overlay, DrawsNoMoreThanADrawingOfABearingCouldHave) {
+    const struct {
+        const char* instruction;
+        int times;
+        std::size_t drawn;
+        bool whole;
+    } rows[] = {{"PD1,2;", 5000, 5000, true},         {"PD1,2;", 5001, 5000, false},
+                {"PD1,2,3,4;", 2501, 5000, false},    {"AA0,0,360;", 500, 500, true},
+                {"AA0,0,360;", 20000, 500, false},    {"AA2000,2000,90;", 100, 5000, true},
+                {"AA2000,2000,90;", 101, 5000, false}};
+    for (const auto& row : rows) {
+        RtfDocument document;
+        std::string plot = "PU0,0;";
+        for (int i = 0; i < row.times; ++i)
+            plot += row.instruction;
+        EXPECT_EQ(OverlayToRtf(document, plot), row.whole) << row.instruction << row.times;
+        EXPECT_EQ(readSheetRecords(document.records()).size(), row.drawn) << row.instruction << row.times;
+    }
+}
+
 TEST(Overlay, ReadsNoMoreOfAFileThanADrawingCanHold) {
     constexpr std::size_t kFiftyMegabytes = 50U << 20U;
     EXPECT_LE(shapes(repeated("PD1,2;PD3,4;", kFiftyMegabytes)), 20100U);
