@@ -1,9 +1,19 @@
 #include "cli/CommandError.h"
 
+#include <new>
+
 #include "numbers/RuntimeError.h"
 #include "state/Patience.h"
 
 namespace norlaplan::cli {
+namespace {
+
+CommandError asTold(const RuntimeError& error) {
+    return {ErrorKind::Runtime, "Run-time error '" + std::to_string(error.number()) + "'", error.what(),
+            error.number()};
+}
+
+}  // namespace
 
 int CommandError::exitStatus() const {
     switch (kind_) {
@@ -34,10 +44,11 @@ CommandError currentError() {
     } catch (const CommandError& error) {
         return error;
     } catch (const RuntimeError& error) {
-        return {ErrorKind::Runtime, "Run-time error '" + std::to_string(error.number()) + "'", error.what(),
-                error.number()};
+        return asTold(error);
     } catch (const NotConverging& error) {
         return {ErrorKind::Runtime, NotConverging::title(), error.what()};
+    } catch (const std::bad_alloc&) {
+        return asTold(RuntimeError(fault::kOutOfMemory));
     } catch (const std::exception& error) {
         return {ErrorKind::Runtime, "Unexpected error", error.what()};
     }

@@ -27,6 +27,11 @@ class CommandError : public std::exception {
     std::string text() const { return title_ + ": " + prompt_; }
     Json json() const;
 
+    ErrorKind kind() const { return kind_; }
+    const std::string& title() const { return title_; }
+    const std::string& prompt() const { return prompt_; }
+    std::optional<int> number() const { return number_; }
+
   private:
     ErrorKind kind_;
     std::string title_, prompt_;

@@ -6,6 +6,7 @@
 #include <dlfcn.h>
 
 #include "cli/CommandError.h"
+#include "cli/InOwnProcess.h"
 #include "numbers/RuntimeError.h"
 #include "numbers/Text.h"
 #include "paint/PictureModule.h"
@@ -26,8 +27,10 @@ SavePictureEntry loadPictureModule() {
     void* const handle = ::dlopen(module.c_str(), RTLD_NOW | RTLD_LOCAL);
     void* const entry = handle == nullptr ? nullptr : ::dlsym(handle, kPictureEntry);
     if (entry == nullptr) {
+        const char* const reason = ::dlerror();
         throw CommandError(ErrorKind::Message, "No picture",
-                           "Pictures need the module " + module.string() + ", which can't be loaded");
+                           "Pictures need the module " + module.string() + ", which can't be loaded (" +
+                               (reason == nullptr ? "no reason is told" : reason) + ")");
     }
     return reinterpret_cast<SavePictureEntry>(entry);
 }
@@ -75,9 +78,9 @@ CommandResult writeDocument(const Document& document, const std::filesystem::pat
     if (extension == ".rtf") {
         writeWholeFile(output, document.rtf());
     } else if (extension == ".pdf") {
-        writePicture(document.pages, output);
+        inOwnProcess([&] { writePicture(document.pages, output); });
     } else {
-        writePicture(document.image(), output);
+        inOwnProcess([&] { writePicture(document.image(), output); });
     }
     return {{{"file", output.string()}}, output.string() + "\n"};
 }

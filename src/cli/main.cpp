@@ -3,6 +3,8 @@
 #include <string_view>
 #include <utility>
 
+#include <sys/resource.h>
+
 #include "cli/CommandError.h"
 #include "cli/CommandLine.h"
 #include "cli/Interrupts.h"
@@ -46,6 +48,16 @@ void run(const Invocation& invocation) {
     print(invocation, session, std::move(result));
 }
 
+/// Refuses a stack on which even the command line's parser doesn't fit: an overflow can't be told afterwards.
+void requireStack() {
+    constexpr rlim_t kLeast = 256U << 10U;
+    rlimit stack{};
+    if (::getrlimit(RLIMIT_STACK, &stack) != 0 || stack.rlim_cur >= kLeast) return;
+    constexpr int kOutOfStack = 28;
+    throw CommandError(ErrorKind::Runtime, "Run-time error '28'",
+                       "Out of stack space: the limit on the stack is below 256 KB", kOutOfStack);
+}
+
 int report(const CommandError& error, bool json) {
     std::cerr << error.text() << '\n';
     if (json) std::cout << writeJson(error.json());
@@ -60,6 +72,7 @@ int main(int argc, char** argv) {
     const bool json = std::any_of(argv + 1, argv + argc,
                                   [](const char* word) { return std::string_view(word) == "--json"; });
     try {
+        requireStack();
         if (const auto invocation = parseCommandLine(argc, argv)) run(*invocation);
         std::cout.flush();
         if (!std::cout) throw CommandError(ErrorKind::Runtime, "Run-time error '61'", "Disk full", 61);

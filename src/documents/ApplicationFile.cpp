@@ -108,7 +108,7 @@ ReadApplication readApplicationFile(std::string_view text) {
         refuse("it has " + std::to_string(lines.size()) + " lines in place of " + std::to_string(wanted) +
                ".");
     ReadApplication read;
-    read.unitSystem = lines[kUnitLine];
+    read.unitSystem = fromOneLine(lines[kUnitLine]);
     std::size_t at = kHeadLines;
     for (const ApplicationField& field : applicationFields()) {
         const std::string value = fromOneLine(lines[at++]);

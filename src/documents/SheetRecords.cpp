@@ -29,7 +29,8 @@ class FieldWriter {
     void field(const std::string& value) {
         toZone();
         text_ += '"';
-        for (const char c : value) {
+        // A longer one would make the file one that can't be read.
+        for (const char c : std::string_view(value).substr(0, kLongestText)) {
             if (c == '"') text_ += c;
             text_ += c == '\n' || c == '\r' ? ' ' : c;
         }
