@@ -161,16 +161,6 @@ TEST(UsualProgramFolder, OfAProgramWithoutInstalledDataIsItsOwnAndIsNotMade) {
     EXPECT_TRUE(fs::is_empty(place.path()));
 }
 
-TEST(UserHome, KnowsTheHomeOfTheAccountWhateverTheVariablesSay) {
-    ASSERT_NE(::getpwuid(::geteuid()), nullptr);
-    const std::string account = ::getpwuid(::geteuid())->pw_dir;
-    const std::string before = std::getenv("HOME") == nullptr ? account : std::getenv("HOME");
-    ::setenv("HOME", "/elsewhere", 1);
-    EXPECT_EQ(userHome().home, "/elsewhere");
-    EXPECT_EQ(userHome().account, account);
-    ::setenv("HOME", before.c_str(), 1);
-}
-
 TEST(UserHome, KnowsTheVariablesOfTheLogin) {
     ::setenv("XDG_DATA_HOME", "/somewhere", 1);
     EXPECT_EQ(userHome().dataHome, "/somewhere");
