@@ -4,6 +4,7 @@
 
 #include "documents/ApplicationReport.h"
 #include "documents/SampleApplication.h"
+#include "support/OnPaper.h"
 #include "support/RecordingPorts.h"
 
 namespace norlaplan {
@@ -130,6 +131,31 @@ TEST(ApplicationRtf, HoldsTheStatedPartsInTheirOrder) {
          "}{\\par }}"});
 }
 
+// Cells begin an inch and a half from the margin, the second one 2.9 inches behind the first; the sizes stand
+// in columns 1.2, 2.7 and 4.2 inches behind theirs. An inch is 1440 twips.
+TEST(ApplicationRtf, HasATabStopForEachColumn) {
+    const std::string body = bodyOf(filledApplication());
+    const std::string hanging = "\\pard\\fi-2160\\li2160\\tx2160";
+    for (const char* const head :
+         {"TO:", "FROM:", "LOADS:", "SPEED:", "LIFE:", "TEMPERATURE:", "MATERIAL:"}) {
+        EXPECT_NE(body.find(hanging + "\\tx6336\\sb100{\\fs24\\cf2\\b " + head), std::string::npos) << head;
+    }
+    EXPECT_NE(body.find(hanging + "\\tx3888\\tx6048\\tx8208\\sb100{\\fs24\\cf2\\b BEARING:"),
+              std::string::npos);
+    expectInOrder(body,
+                  {"\\tab Preferred Size : \\tab Bore Text38\\tab O.D. Text39\\tab Width Text40\\par",
+                   "\\sb0\\tab Envelope Size :\\tab Min. Bore Text41\\tab Max. O.D. Text42\\tab Max. Width "
+                   "Text43\\par"});
+}
+
+TEST(ApplicationRtf, GivesALongHeadALineOfItsOwn) {
+    const std::string body = bodyOf(filledApplication());
+    EXPECT_NE(body.find("SPECIAL REQUIREMENTS:}\\plain\\fs20\\cf1\\tab \\par\\tab Allowable"),
+              std::string::npos);
+    EXPECT_NE(body.find("TEMPERATURE:}\\plain\\fs20\\cf1\\tab Normal"), std::string::npos);
+    EXPECT_NE(body.find("LUBRICATION:}\\plain\\fs20\\cf1\\tab Proposed"), std::string::npos);
+}
+
 TEST(ApplicationRtf, TellsOfShockAndOscillationOnlyWhereThereIsSome) {
     ProgramState state = filledApplication();
     EXPECT_EQ(bodyOf(state).find("OSCILLATION"), std::string::npos);
@@ -225,6 +251,57 @@ TEST(ApplicationPrint, HasTheSameOrderWithItsOwnWords) {
                    "|Printed: 3/14/26 9:26 AM"});
 }
 
+TEST(ApplicationPrint, SetsItsCellsInColumnsBesideTheirHead) {
+    FixedClock clock;
+    NarrowCanvas canvas;
+    ProgramState state = filledApplication();
+    state.application.data.maximumWidth = "9";
+    printApplication(state, clock, canvas);
+    const auto place = [&](const std::string& text) {
+        for (const auto& drawn : canvas.texts) {
+            if (drawn.text == text) return drawn.box;
+        }
+        ADD_FAILURE() << text;
+        return PageBox{};
+    };
+    const auto expectRow = [&](const std::string& head, const std::vector<std::string>& cells,
+                               const std::vector<double>& columns) {
+        const PageBox first = place(cells[0]);
+        if (!head.empty()) {
+            EXPECT_NEAR(place(head).left, first.left - 1.5, 1e-9) << head;
+            EXPECT_NEAR(place(head).bottom, first.bottom, 1e-9) << head;
+        }
+        for (std::size_t i = 1; i < cells.size(); ++i) {
+            EXPECT_NEAR(place(cells[i]).left, first.left + columns[i - 1], 1e-9) << cells[i];
+            EXPECT_NEAR(place(cells[i]).top, first.top, 1e-9) << cells[i];
+        }
+    };
+    expectRow("LOADS:", {"Static Radial Max: Text11 pounds", "Dynamic Radial avg.: Text14 pounds"}, {2.9});
+    expectRow("SPEED:", {"RPM (max) Text19", "RPM (min) Text20"}, {2.9});
+    expectRow("BEARING:", {"Preferred Size : ", "Bore Text38", "O.D. Text39", "Width Text40"},
+              {1.2, 2.7, 4.2});
+    expectRow("", {"Envelope Size :", "Min. Bore Text41", "Max. O.D. Text42", "Max. Width 9"},
+              {1.2, 2.7, 4.2});
+    EXPECT_LT(place("Envelope Size :").top, place("Preferred Size : ").top);
+}
+
+TEST(ApplicationPrint, SetsCellsBelowOneAnotherWhereOneIsTooWide) {
+    ProgramState state = filledApplication();
+    state.application.data.preferredBore = std::string(60, 'm');
+    const RecordingCanvas canvas = printed(state);
+    std::vector<PageBox> cells;
+    for (const auto& drawn : canvas.texts) {
+        for (const char* const start : {"Preferred Size", "Bore m", "O.D. Text39", "Width Text40"}) {
+            if (drawn.text.starts_with(start)) cells.push_back(drawn.box);
+        }
+    }
+    ASSERT_EQ(cells.size(), 4U);
+    for (std::size_t i = 1; i < cells.size(); ++i) {
+        EXPECT_NEAR(cells[i].left, cells[0].left, 1e-9);
+        EXPECT_LT(cells[i].top, cells[i - 1].top);
+    }
+}
+
 TEST(ApplicationPrint, OfAFilledFormIsOnePageInTimes) {
     FixedClock clock;
     NarrowCanvas canvas;
@@ -246,7 +323,10 @@ TEST(ApplicationPrint, OfLongTextsGoesOnOnFurtherPagesAndLosesNothing) {
     const RecordingCanvas canvas = printed(state);
     EXPECT_GT(canvas.pages, 1);
     const std::string words = wordsOf(canvas);
-    EXPECT_NE(words.find("Page 1 of " + std::to_string(canvas.pages)), std::string::npos);
+    for (int page = 0; page <= canvas.pages + 1; ++page) {
+        const std::string number = "Page " + std::to_string(page) + " of " + std::to_string(canvas.pages);
+        EXPECT_EQ(words.find(number) != std::string::npos, page >= 1 && page <= canvas.pages) << number;
+    }
     for (const char* const word : {"w0 ", "w999 ", "w1500 "})
         EXPECT_NE(words.find(word), std::string::npos) << word;
     for (const auto& drawn : canvas.texts)
@@ -262,6 +342,14 @@ TEST(ApplicationDocument, IsProposedUnderItsNameInTheSaveFolder) {
     ASSERT_EQ(document.filters.size(), 1U);
     EXPECT_EQ(document.filters[0].label, "Rich Text Files (*.rtf)");
     EXPECT_EQ(document.filters[0].pattern, "*.rtf");
+}
+
+TEST(ApplicationPrint, StandsOnItsPaper) {
+    ProgramState state = filledApplication();
+    EXPECT_EQ(testing::offPaper(printed(state), papers::kLetter), "");
+    state.application.data.oscillation = "YES";
+    state.application.data.remarks = std::string(3000, 'w');
+    EXPECT_EQ(testing::offPaper(printed(state), papers::kLetter), "");
 }
 
 }  // namespace

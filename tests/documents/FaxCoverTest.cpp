@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "documents/FaxCover.h"
+#include "support/OnPaper.h"
 #include "support/RecordingPorts.h"
 
 namespace norlaplan {
@@ -128,6 +129,12 @@ TEST(FaxCover, MovesItsFootBelowALongMessageAndGoesOnOnANewPage) {
     EXPECT_EQ(long2.pages, 2);
     for (const auto& text : long2.texts)
         EXPECT_GT(text.box.bottom, 0.4) << text.text;
+}
+
+TEST(FaxCoverPrint, StandsOnItsPaper) {
+    FaxCover cover;
+    cover.message = std::string(400, 'w');
+    EXPECT_EQ(testing::offPaper(printed(cover), papers::kLetter), "");
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -39,6 +40,66 @@ TEST(LogoMetafile, IsAPlainMetafileWhoseSizesAreTrue) {
     }
     EXPECT_EQ(at + 3, words.size()) << "the last record is the end";
     EXPECT_EQ(words[6], largest);
+}
+
+/// The parameters of the records of one function, as the format has them.
+std::vector<std::vector<int>> recordsOf(std::uint16_t function) {
+    const std::vector<std::uint16_t> words = wordsOf(logoMetafileHex());
+    std::vector<std::vector<int>> found;
+    for (std::size_t at = 9; at + 2 < words.size() && words[at + 2] != 0; at += words[at]) {
+        if (words[at + 2] != function) continue;
+        std::vector<int> parameters;
+        for (std::size_t i = at + 3; i < at + words[at]; ++i)
+            parameters.push_back(static_cast<std::int16_t>(words[i]));
+        found.push_back(parameters);
+    }
+    return found;
+}
+
+// An ellipse is told by its bottom, right, top and left.
+TEST(LogoMetafile, DrawsTheRingsAndTheBallsOfTheMark) {
+    const std::vector<std::vector<int>> ellipses = recordsOf(0x0418);
+    const std::vector<MarkCircle> circles = markCircles();
+    ASSERT_EQ(ellipses.size(), circles.size());
+    for (std::size_t i = 0; i < circles.size(); ++i) {
+        const auto& [x, y, radius] = circles[i];
+        EXPECT_EQ(ellipses[i], (std::vector<int>{y + radius, x + radius, y - radius, x - radius})) << i;
+    }
+}
+
+TEST(LogoMetafile, WritesTheNameInBoldNavyBesideTheMark) {
+    // The window is told by its height and width, a colour by red and green, then blue.
+    EXPECT_EQ(recordsOf(0x020C), (std::vector<std::vector<int>>{{mark::kHeight, mark::kWidth}}));
+    EXPECT_EQ(recordsOf(0x0209), (std::vector<std::vector<int>>{{40 << 8, 110}}));
+    EXPECT_EQ(recordsOf(0x02FA), (std::vector<std::vector<int>>{{0, mark::kPen, 0, 40 << 8, 110}}));
+    const std::vector<std::vector<int>> fonts = recordsOf(0x02FB);
+    ASSERT_EQ(fonts.size(), 1U);
+    EXPECT_EQ(fonts[0][0], -mark::kNameSize) << "the height of its letters, not of its lines";
+    EXPECT_EQ(fonts[0][4], 700) << "bold";
+    EXPECT_EQ(fonts[0][9], 'A' | 'r' << 8);
+    // Its length, two letters a word, then y and x.
+    EXPECT_EQ(recordsOf(0x0521),
+              (std::vector<std::vector<int>>{
+                  {6, 'V' | 'A' << 8, 'R' | 'D' << 8, 'E' | 'N' << 8, mark::kNameTop, mark::kNameLeft}}));
+    EXPECT_EQ(recordsOf(0x012D), (std::vector<std::vector<int>>{{0}, {1}, {2}}))
+        << "pen, brush and font in use";
+}
+
+TEST(LogoMetafile, HasTwelveBallsBetweenItsRings) {
+    const std::vector<MarkCircle> circles = markCircles();
+    ASSERT_EQ(circles.size(), 14U);
+    const MarkCircle outer = circles[0], inner = circles[1];
+    EXPECT_EQ(outer.x, inner.x);
+    EXPECT_EQ(outer.y, inner.y);
+    EXPECT_GT(outer.radius, inner.radius);
+    for (std::size_t i = 0; i < 12; ++i) {
+        const MarkCircle& ball = circles[2 + i];
+        const double angle = static_cast<double>(i) * M_PI / 6.0;
+        const double pitch = (outer.radius + inner.radius) / 2.0;
+        EXPECT_NEAR(ball.x, outer.x + pitch * std::cos(angle), 1.0) << i;
+        EXPECT_NEAR(ball.y, outer.y + pitch * std::sin(angle), 1.0) << i;
+        EXPECT_EQ(ball.radius, circles[2].radius) << i;
+    }
 }
 
 TEST(LogoMetafile, KeepsItsMarkWithinThePicture) {

@@ -60,6 +60,28 @@ TEST(RtfGraph, RecordsItsLinesAndNoneOfItsTexts) {
         EXPECT_TRUE(has(document, std::string(" ") + text + "\\par")) << text;
 }
 
+// x0 = 1, y0 = 4 and H = 4.
+TEST(RtfGraph, HasItsTitlesInTheirPlaces) {
+    const Graph graph = rtfGraph(sample());
+    const auto expectText = [](const GraphText& text, const char* words, const PageBox& box, double points,
+                               Colour colour, bool vertical) {
+        EXPECT_EQ(text.text, words);
+        EXPECT_NEAR(text.box.left, box.left, 1e-9) << words;
+        EXPECT_NEAR(text.box.top, box.top, 1e-9) << words;
+        EXPECT_NEAR(text.box.right, box.right, 1e-9) << words;
+        EXPECT_NEAR(text.box.bottom, box.bottom, 1e-9) << words;
+        EXPECT_EQ(text.look.points, points) << words;
+        EXPECT_EQ(text.look.colour, colour) << words;
+        EXPECT_EQ(text.look.vertical, vertical) << words;
+        EXPECT_FALSE(text.look.bold) << words;
+        EXPECT_EQ(text.look.alignment, Alignment::Centre) << words;
+    };
+    expectText(graph.number, "K19013CP0", {2.05, 9.25, 6.55, 8.5}, 24.0, rgb(255, 0, 0), false);
+    expectText(graph.title, "TITLE", {1.05, 8.85, 7.55, 8.5}, 14.0, rgb(0, 0, 255), false);
+    expectText(graph.xTitle, "X TITLE", {1.05, 3.8, 7.55, 3.5}, 12.0, rgb(0, 0, 255), false);
+    expectText(graph.yTitle, "Y TITLE", {0.2, 7.6, 0.6, 4.0}, 10.0, rgb(0, 0, 255), true);
+}
+
 TEST(RtfGraph, DrawsGridLinesInsideAndTicksAtTheEnds) {
     const auto lines = linesOf(documentOf(sample()));
     expectLine(lines[0], {1.0, 3.95}, {1.0, 4.0});

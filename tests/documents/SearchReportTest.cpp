@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "documents/SearchReport.h"
+#include "support/OnPaper.h"
 #include "support/RecordingPorts.h"
 
 namespace norlaplan {
@@ -224,6 +225,11 @@ TEST(SearchPrint, TakesTwentySixRowsOnTheFirstPageAndFortyOnEachFurtherOne) {
     EXPECT_EQ(searchPages(66), 2);
     EXPECT_EQ(searchPages(67), 3);
     EXPECT_EQ(searchPages(300), 8);
+}
+
+TEST(SearchPrint, StandsOnItsPaper) {
+    for (const std::size_t rows : {std::size_t{0}, std::size_t{1}, std::size_t{60}})
+        EXPECT_EQ(testing::offPaper(printed(resultsOf(rows)), papers::kLetter), "") << rows;
 }
 
 }  // namespace
