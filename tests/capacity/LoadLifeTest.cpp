@@ -143,6 +143,14 @@ TEST(TorqueLine, OfAPairShowsOneDecimalAlsoBelowOne) {
     radial.life.torqueLabel = "Estimated Starting Torque = ";
     radial.life.torqueDisplay = 0.4;
     EXPECT_EQ(torqueLine(radial), "Estimated Starting Torque = 0.40 inch-lbs. ");
+    radial.life.torqueDisplay = 0.99;
+    EXPECT_EQ(torqueLine(radial), "Estimated Starting Torque = 0.99 inch-lbs. ");
+    radial.life.torqueDisplay = 1.0;
+    EXPECT_EQ(torqueLine(radial), "Estimated Starting Torque = 1.0 inch-lbs. ");
+    radial.life.torqueDisplay = 1.04;
+    EXPECT_EQ(torqueLine(radial), "Estimated Starting Torque = 1.0 inch-lbs. ");
+    radial.life.torqueDisplay = 1234.5;
+    EXPECT_EQ(torqueLine(radial), "Estimated Starting Torque = 1,234.5 inch-lbs. ");
 }
 
 TEST(ResultLines, ShowNumbersPlainly) {

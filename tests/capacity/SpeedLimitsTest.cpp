@@ -103,5 +103,23 @@ TEST(WorkingLimits, AreRoundedByThePictureAndReadAGroupedTextWhole) {
     EXPECT_EQ(bearing.limitSpeedMist, 51.0);
 }
 
+TEST(WorkingLimits, OfAFourPointBearingAloneComeFromTheSpeedsOfOtherLoads) {
+    for (const char* const style : {"X", "C", "A", "B", "F"}) {
+        BearingSpec bearing = bearingOf(style, "P");
+        bearing.tableSpeedGrease = "100";
+        bearing.tableSpeedOil = "200";
+        bearing.tableSpeedMist = "300";
+        bearing.otherSpeedGrease = "1,000";
+        bearing.otherSpeedOil = "2,000";
+        bearing.otherSpeedMist = "3,000";
+        bearing.speedFactor = 0.5;
+        setWorkingLimits(bearing);
+        const double scale = std::string(style) == "X" ? 500.0 : 50.0;
+        EXPECT_EQ(bearing.limitSpeedGrease, scale) << style;
+        EXPECT_EQ(bearing.limitSpeedOil, 2.0 * scale) << style;
+        EXPECT_EQ(bearing.limitSpeedMist, 3.0 * scale) << style;
+    }
+}
+
 }  // namespace
 }  // namespace norlaplan

@@ -176,7 +176,7 @@ class Bench:
     def run(self, command, choice, seconds):
         def limits():
             resource.setrlimit(resource.RLIMIT_CPU, (int(seconds), int(seconds) + 5))
-            resource.setrlimit(resource.RLIMIT_AS, (8 << 30, 8 << 30))
+            resource.setrlimit(resource.RLIMIT_AS, (4 << 30, 4 << 30))
             resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
 
         environment = {**os.environ, CHOICE: str(choice), "QT_QPA_PLATFORM": "offscreen", "LC_ALL": "C.UTF-8",
@@ -188,15 +188,25 @@ class Bench:
         except subprocess.TimeoutExpired as late:
             return subprocess.CompletedProcess(command, -signal.SIGXCPU, str(late.stdout or ""))
 
+    def near(self, path):
+        """What a test says that is about a file of the screens: the name of its form or of those that include it."""
+        stem = Path(path).stem
+        inside = f'"screens/{stem}.h"'
+        stems = {stem.removesuffix("Layout")} | {
+            user.stem for user in (self.shop.root / "src" / "screens").glob("*.[ch]*") if inside in user.read_text()}
+        words = [f"{one}(?:Test)?" for one in stems]
+        words += [f"forms::{self.forms[one]}" for one in stems if one in self.forms]
+        return re.compile(rf"\b(?:{'|'.join(sorted(words))})\b")
+
     def order(self, stage, mutant):
-        """The tests that name the mistake's file or form most often first, then those that noticed most."""
-        stem = Path(mutant.path).stem
+        """The tests that speak of the mistake's file most often first, then those that noticed most."""
+        if len(stage) == 1:
+            return stage
+        words = self.near(mutant.path)
 
         def nearness(program):
             source = self.shop.root / "tests" / "screens" / f"{program[0].removeprefix('test_screens_')}.cpp"
-            text = source.read_text(encoding="utf-8") if source.exists() else ""
-            form = self.forms.get(stem.removesuffix("Layout"))
-            return len(re.findall(rf"\b{stem}(?:Test)?\b", text)) + (text.count(f"forms::{form}") if form else 0)
+            return len(words.findall(source.read_text(encoding="utf-8"))) if source.exists() else 0
 
         return sorted(stage, key=lambda program: (-nearness(program), -self.kills[program[0]],
                                                   self.shop.seconds.get(program[0], SLOW)))
