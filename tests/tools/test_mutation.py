@@ -4,12 +4,14 @@ import sys
 import tempfile
 import unittest
 from pathlib import Path
+from types import SimpleNamespace
 
 ROOT = Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "tools" / "mutation"))
 
 import kinds  # noqa: E402
 import mutant as mutants  # noqa: E402
+import workshop  # noqa: E402
 from cpp_text import Source  # noqa: E402
 
 EXAMPLE = """\
@@ -86,6 +88,27 @@ class TheListOfEquivalentOnes(unittest.TestCase):
             lines = [line.strip() for line in (ROOT / path).read_text(encoding="utf-8").splitlines()]
             self.assertTrue(set(before) <= set(lines), f"{path}: {before}")
             self.assertTrue(why, f"{path}: {before} has no reason")
+
+
+class TheTestsOfAFolder(unittest.TestCase):
+    def test_come_before_those_of_its_users_and_of_the_command_line(self):
+        stages = [[target for target, _ in stage] for stage in workshop.stages_of(ROOT, "catalogue")]
+        self.assertEqual(stages, [["test_catalogue"], ["test_search", "test_deflection", "test_fits"], ["norlaplan-cli"]])
+        self.assertEqual(workshop.stages_of(ROOT, "paint")[0][0][0], "test_paint")
+        self.assertEqual(len(workshop.stages_of(ROOT, "screens")), 1)
+
+    def test_of_the_screens_are_asked_by_how_much_they_speak_of_the_form(self):
+        screens = workshop.stages_of(ROOT, "screens")
+        bench = workshop.Bench(SimpleNamespace(root=ROOT, seconds={}), screens)
+
+        def first(name):
+            return bench.order(screens[0], SimpleNamespace(path=f"src/screens/{name}"))[0][0]
+
+        self.assertEqual(first("Form18.cpp"), "test_screens_Form18Test")
+        self.assertEqual(first("Form17.cpp"), "test_screens_DataSheetTest")
+        self.assertEqual(first("BallLoadPicture.cpp"), "test_screens_tlodestarballloadsTest")
+        bench.kills["test_screens_StepsTest"] = 3
+        self.assertEqual(first("NoForm.cpp"), "test_screens_StepsTest")
 
 
 if __name__ == "__main__":
