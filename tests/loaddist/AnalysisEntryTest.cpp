@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <map>
 #include <set>
 #include <stdexcept>
@@ -246,6 +248,76 @@ TEST(AnalysisResults, HoldTheChecksOfTheSolve) {
     EXPECT_EQ(texts["Text60"], "5000000");
     EXPECT_EQ(texts["Text61"], "1.5");
     EXPECT_EQ(texts["Text62"], "12");
+}
+
+/// A number of the form: its field, the number in the solver, and how many of its own units make one of that.
+struct ShownNumber {
+    const char* control;
+    double stored, factor;
+};
+
+/// Every number has a value of its own, so that a field that shows another's is found out.
+TEST(AnalysisNumbers, ShowTheirOwnFieldInTheirOwnUnit) {
+    ProgramState state;
+    SolverState& solver = state.solver;
+    solver.BallDiameter = 2.0;
+    solver.PitchDiameter = 3.0;
+    solver.BallCount = 5;
+    solver.ContactAngleDeg = 7.0;
+    solver.ContactAngle = 11.0;
+    solver.InnerConformityPct = 13.0;
+    solver.OuterConformityPct = 17.0;
+    solver.DiametralClearance = 19.0;
+    solver.GapDistance = 23.0;
+    solver.CenterlineSpacing = 29.0;
+    solver.RadialLoad = 31.0;
+    solver.AxialLoad = 37.0;
+    solver.MomentLoad = 41.0;
+    solver.InnerModulusMpsi = 43.0;
+    solver.InnerPoisson = 47.0;
+    solver.OuterModulusMpsi = 53.0;
+    solver.OuterPoisson = 59.0;
+    state.analysis.startingFriction = 61.0;
+    state.analysis.runningFriction = 67.0;
+    const ShownNumber shown[] = {
+        {"Text1", 2.0, 1.0},       {"Text15", 2.0, 25.4},   {"Text2", 3.0, 1.0},     {"Text16", 3.0, 25.4},
+        {"Text3", 5.0, 1.0},       {"Text4", 7.0, 1.0},     {"Text17", 11.0, 1.0},   {"Text5", 13.0, 1.0},
+        {"Text6", 17.0, 1.0},      {"Text43", 19.0, 1.0},   {"Text44", 19.0, 25.4},  {"Text13", 23.0, 1.0},
+        {"Text45", 23.0, 25.4},    {"Text66", 29.0, 1.0},   {"Text65", 29.0, 25.4},  {"Text14", 31.0, 1.0},
+        {"Text20", 31.0, 4.448},   {"Text48", 37.0, 1.0},   {"Text50", 37.0, 4.448}, {"Text49", 41.0, 1.0},
+        {"Text51", 41.0, 0.11298}, {"Text8", 43.0, 1.0},    {"Text18", 43.0, 6.895}, {"Text9", 47.0, 1.0},
+        {"Text11", 53.0, 1.0},     {"Text19", 53.0, 6.895}, {"Text12", 59.0, 1.0},   {"Text63", 61.0, 1.0},
+        {"Text64", 67.0, 1.0}};
+    ASSERT_EQ(analysisNumbers().size(), std::size(shown));
+    for (const ShownNumber& one : shown) {
+        const auto numbers = analysisNumbers();
+        const auto at = std::find_if(numbers.begin(), numbers.end(), [&](const AnalysisNumber& number) {
+            return std::string(number.control) == one.control;
+        });
+        ASSERT_NE(at, numbers.end()) << one.control;
+        EXPECT_NEAR(at->value(state), one.stored * one.factor, 1e-5 * one.stored * one.factor) << one.control;
+        EXPECT_EQ(at->given, one.factor == 1.0 && std::string(one.control) != "Text17") << one.control;
+        // What is entered comes back from the same field. Angle and clearance bring others about.
+        const std::string control = one.control;
+        if (control == "Text4" || control == "Text17" || control == "Text43" || control == "Text44") continue;
+        ProgramState entered = state;
+        at->store(entered, 40.0);
+        EXPECT_NEAR(at->value(entered), 40.0, 1e-4) << one.control;
+    }
+}
+
+TEST(AnalysisTexts, AreTheFourOfTheCustomerAndTheMaterials) {
+    ProgramState state;
+    state.analysis.partNumber = "number";
+    state.analysis.date = "date";
+    state.analysis.ballMaterial = "ball";
+    state.analysis.raceMaterial = "race";
+    std::map<std::string, std::string> shown;
+    for (const AnalysisText& text : analysisTexts())
+        shown[text.control] = state.analysis.*text.text;
+    const std::map<std::string, std::string> expected = {
+        {"Text22", "number"}, {"Text24", "date"}, {"Text7", "ball"}, {"Text10", "race"}};
+    EXPECT_EQ(shown, expected);
 }
 
 }  // namespace

@@ -105,6 +105,36 @@ TEST(BallLoadGraph, TurnsTheCircleInItsCosineAlone) {
     EXPECT_TRUE(hasLine(drawn(solver, view), at(-10, 10), at(-10, 5), colours::kBlue, 9525.0));
 }
 
+// Half of each axis: 1.1 S cos(60) = 5.5 along the view, 1.1 S sin(60) = 9.526 across it, laid over by
+// cos(45).
+TEST(BallLoadGraph, TurnsAndTiltsItsAxes) {
+    const SolverState solver = fourBalls();
+    BallLoadView view = openingView(solver);
+    view.GraphYaw = 60.0;
+    view.GraphPitch = 45.0;
+    const RecordingCanvas canvas = drawn(solver, view);
+    const Colour magenta = 16711935;
+    const double across = 11.0 * std::sqrt(0.75), down = 11.0 * std::sqrt(0.5);
+    EXPECT_TRUE(hasLine(canvas, at(-5.5, 0), at(5.5, 0), magenta, 19050.0));
+    EXPECT_TRUE(hasLine(canvas, at(-across, down), at(across, -down), magenta, 19050.0));
+    EXPECT_TRUE(hasLine(canvas, at(0, 1), at(0, -1), magenta, 19050.0));
+    // An angle stands at the end of its half axis.
+    const auto place = [&](const std::string& angle) {
+        for (const auto& text : canvas.texts) {
+            if (text.text == angle) return PagePoint{text.box.left, text.box.top};
+        }
+        ADD_FAILURE() << angle;
+        return PagePoint{};
+    };
+    const PagePoint middle = at(0, 0);
+    EXPECT_GT(place("0°").x, middle.x);
+    EXPECT_LT(place("180°").x, middle.x);
+    EXPECT_GT(place("90°").x, middle.x);
+    EXPECT_GT(place("90°").y, middle.y);
+    EXPECT_LT(place("270°").x, middle.x);
+    EXPECT_LT(place("270°").y, middle.y);
+}
+
 TEST(BallLoadGraph, OfARadialBearingHasOneRow) {
     SolverState solver = fourBalls();
     solver.StyleIsC = true;

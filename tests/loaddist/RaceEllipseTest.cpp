@@ -87,6 +87,19 @@ TEST(RaceEllipse, LetsThePanelsDecideWhereTheRoundingOfTheIntegralsIsInDoubt) {
     }
 }
 
+TEST(RaceEllipse, SettlesNearlyEveryRatioBetweenItsEndsAndNoneBeyond) {
+    int settled = 0;
+    for (int i = 0; i < 1000; ++i) {
+        const double m = 0.26 + 0.0007 * i;
+        settled += settledCurvatureRatio(m, Single(complementRounded(m))) ? 1 : 0;
+    }
+    EXPECT_GT(settled, 900);
+    for (const double m : {0.01, 0.1, 0.2, 0.24, 0.99999}) {
+        EXPECT_FALSE(settledCurvatureRatio(m, Single(complementRounded(m)))) << m;
+        EXPECT_FALSE(settledEllipse(m, Single(complementRounded(m)))) << m;
+    }
+}
+
 TEST(RaceEllipse, EstimatesTheEccentricityFarWithinTheWindowInWhichItIsTrusted) {
     for (double ratio = 1.25; ratio <= 250.0; ratio *= 1.003) {
         const auto m = estimateEccentricity(ratio);

@@ -190,6 +190,23 @@ SolverState startOf(plain::Bearing bearing) {
     return state.solver;
 }
 
+TEST(CoupledRows, SolveAlikeAfterARadialRow) {
+    for (const char style : {'X', 'B', 'F'}) {
+        ProgramState fresh, used;
+        RecordingMessages messages;
+        SolveRadialRow(used, argumentsOf(radialBearing()), messages);
+        used.solver.ForceZeroAngle = 1;
+        const SolveArguments arguments = argumentsOf(solverCases(style)[1]);
+        ASSERT_TRUE(SolveCoupledRows(fresh, arguments, messages).has_value());
+        ASSERT_TRUE(SolveCoupledRows(used, arguments, messages).has_value());
+        EXPECT_EQ(used.solver.ForceZeroAngle, 0) << style;
+        EXPECT_EQ(used.solver.AxialDisp, fresh.solver.AxialDisp) << style;
+        EXPECT_EQ(used.solver.RadialDisp, fresh.solver.RadialDisp) << style;
+        EXPECT_EQ(used.solver.Tilt, fresh.solver.Tilt) << style;
+        EXPECT_EQ(used.solver.Kn, fresh.solver.Kn) << style;
+    }
+}
+
 TEST(CoupledRows, StartATenThousandthAsideWithoutRadialLoadAndClearance) {
     EXPECT_EQ(startOf(unstableBearing('X')).RadialDisp, 0.0001);
     EXPECT_EQ(startOf(unstableBearing('B')).RadialDisp, 0.0001);
