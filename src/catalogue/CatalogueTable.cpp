@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "numbers/Encoding.h"
 #include "numbers/RuntimeError.h"
 #include "numbers/Text.h"
 #include "state/FileFault.h"
@@ -26,7 +27,7 @@ bool endsField(int c) {
 
 }  // namespace
 
-CatalogueTable::CatalogueTable(const ProgramFolder& folder, std::string_view name) {
+CatalogueTable::CatalogueTable(const ProgramFolder& folder, std::string_view name) : name_(name) {
     const std::filesystem::path path = folder.find("\\Data Tables\\" + std::string(name));
     // A pipe in a table's place must not be waited for.
     const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
@@ -63,19 +64,33 @@ double CatalogueTable::partRead() const {
     return size_ > 0.0 ? (read_ - static_cast<double>(filled_ - at_)) / size_ : 1.0;
 }
 
+void CatalogueTable::take(std::string& target) {
+    readField(target);
+    target = utf8Text(target);
+}
+
 void CatalogueTable::take(Single& target) {
-    readField(field_);
-    target = leadingNumber(field_);
+    target = number();
 }
 
 void CatalogueTable::take(double& target) {
-    readField(field_);
-    target = leadingNumber(field_);
+    target = number();
 }
 
 void CatalogueTable::take(Int16& target) {
+    target = number();
+}
+
+double CatalogueTable::number() {
+    const int row = row_;
+    const int column = column_;
     readField(field_);
-    target = leadingNumber(field_);
+    const NumberAtStart read = numberAtStart(field_);
+    if (!read.whole) {
+        faults_.push_back({name_, row, column, utf8Text(field_),
+                           "is not a number and is read as " + plainText(read.value)});
+    }
+    return read.value;
 }
 
 void CatalogueTable::readField(std::string& field) {
@@ -107,7 +122,10 @@ void CatalogueTable::keep(std::string& field) {
 }
 
 void CatalogueTable::endField() {
-    if (get() == '\r' && peek() == '\n') get();
+    const int end = get();
+    if (end == '\r' && peek() == '\n') get();
+    column_ = end == ',' ? column_ + 1 : 1;
+    if (end != ',') ++row_;
 }
 
 int CatalogueTable::peek() {

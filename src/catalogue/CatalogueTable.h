@@ -5,7 +5,10 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
+#include "catalogue/TableFaults.h"
 #include "numbers/Int16.h"
 #include "numbers/Single.h"
 #include "state/ProgramFolder.h"
@@ -14,7 +17,8 @@ namespace norlaplan {
 
 /// A catalogue table, read as a stream of fields from the top. Fields end at commas and line ends, so a row
 /// is what a reader takes. Blanks before a field are passed over; a text may stand in double quotes; a number
-/// is what stands at the start of its field, 0 for none; an empty line is an empty field.
+/// is what stands at the start of its field, 0 for none; an empty line is an empty field. Texts are UTF-8,
+/// whatever encoding the file has.
 ///
 /// The file is read piece by piece, whatever its size. Errors: 53 when the file or its folder is missing, 62
 /// past the end, 6 for a number that its target doesn't hold and for a field of more than 65535 characters,
@@ -33,8 +37,15 @@ class CatalogueTable {
     }
     void skipFields(int count);
 
+    /// The fields that were read as numbers and hold something else, since these were last taken.
+    const std::vector<TableFault>& faults() const { return faults_; }
+    std::vector<TableFault> takeFaults() { return std::exchange(faults_, {}); }
+
     /// Whether the file is exhausted; told between rows.
     bool AtEnd();
+
+    /// The row of the next field, as a spreadsheet counts them, from 1.
+    int row() const { return row_; }
 
     /// The part of the file that is read, 0 to 1.
     double partRead() const;
@@ -44,7 +55,7 @@ class CatalogueTable {
         void operator()(std::FILE* file) const { std::fclose(file); }
     };
 
-    void take(std::string& target) { readField(target); }
+    void take(std::string& target);
     void take(Single& target);
     void take(double& target);
     void take(Int16& target);
@@ -53,6 +64,8 @@ class CatalogueTable {
         for (Number& target : targets)
             take(target);
     }
+    /// The next field as a number; what is none is noted.
+    double number();
     void readField(std::string& field);
     void readQuoted(std::string& field);
     void keep(std::string& field);
@@ -68,6 +81,9 @@ class CatalogueTable {
     std::size_t at_ = 0, filled_ = 0;
     double size_ = 0.0, read_ = 0.0;
     std::string field_;
+    std::string name_;
+    int row_ = 1, column_ = 1;  ///< of the next field
+    std::vector<TableFault> faults_;
 };
 
 /// Opens a table of the data folder.

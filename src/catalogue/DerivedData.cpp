@@ -37,13 +37,13 @@ void setArmOfPair(BearingSpec& bearing) {
 /// Bore and outside diameter to inches; a coated bearing takes its additions and tolerances from the coating
 /// table. A bore that the table doesn't hold leaves both in millimetres, so the table must hold every bore of
 /// the catalogue.
-void convertDiameters(BearingSpec& bearing, const ProgramFolder& folder) {
+void convertDiameters(BearingSpec& bearing, const CatalogueSource& source) {
     if (bearing.materialCode != "N") {
         bearing.bore = bearing.bore / kMillimetresPerInch;
         bearing.outsideDiameter = bearing.outsideDiameter / kMillimetresPerInch;
         return;
     }
-    const std::optional<Coating> coating = lookUpCoating(folder, bearing);
+    const std::optional<Coating> coating = lookUpCoating(source, bearing);
     if (!coating) return;
     bearing.bore = bearing.bore / kMillimetresPerInch + coating->boreAddition;
     bearing.boreTolerance = coating->boreToleranceBase + coating->boreAddition;
@@ -67,12 +67,12 @@ void doubleSetValues(BearingSpec& bearing) {
     bearing.mass = 2.0 * bearing.mass;
 }
 
-void setSpeeds(BearingSpec& bearing, const ProgramFolder& folder) {
+void setSpeeds(BearingSpec& bearing, const CatalogueSource& source) {
     const bool fine = bearing.precisionCode == "6" || bearing.precisionCode == "2";
     bearing.speedColumnBase = fine ? kFineSpeedColumns : 0.0;
     bearing.speedFactor = 1.0;
     std::optional<SpeedLine> line;
-    if (takesSpeedsFromTable(bearing)) line = findSpeedLine(folder, bearing);
+    if (takesSpeedsFromTable(bearing)) line = findSpeedLine(source, bearing);
     setBaseSpeeds(bearing, line);
 }
 
@@ -84,11 +84,11 @@ void applyFitLetter(BearingSpec& bearing, MessagePort& messages) {
 
 }  // namespace
 
-void deriveBearingData(ProgramState& state, const ProgramFolder& folder, MessagePort& messages) {
+void deriveBearingData(ProgramState& state, const CatalogueSource& source, MessagePort& messages) {
     BearingSpec& bearing = state.bearing;
     bearing.pitchDiameter = (bearing.bore + bearing.outsideDiameter) / 2.0;
     setArmOfPair(bearing);
-    convertDiameters(bearing, folder);
+    convertDiameters(bearing, source);
     convertRest(bearing);
     setStandardFits(bearing);
     if (isSet(bearing)) bearing.drawingScale = Int(bearing.drawingScale * 100.0 / 2.0 + 0.5) / 100.0;
@@ -100,7 +100,7 @@ void deriveBearingData(ProgramState& state, const ProgramFolder& folder, Message
         doubleSetValues(bearing);
         setBallsText(bearing, state.units, true);
     }
-    setSpeeds(bearing, folder);
+    setSpeeds(bearing, source);
     applyFitLetter(bearing, messages);
     setWorkingLimits(bearing);
 }

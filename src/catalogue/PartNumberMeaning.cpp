@@ -55,7 +55,7 @@ class Reader {
   public:
     Reader(const std::string& typed, const std::string& zChoice, const UnitMode& units,
            const ProgramFolder& folder)
-        : characters_(charactersOf(typed)), units_(units), folder_(folder) {
+        : characters_(charactersOf(typed)), units_(units), tables_{folder, untold_} {
         repairDigits(characters_);
         bearing_.zSeparatorChoice = zChoice;
         meaning_.codes = emptyCodes();
@@ -150,7 +150,8 @@ class Reader {
         }
     }
 
-    /// A table that is missing or damaged is told of by the decode, not while somebody types.
+    /// A table that is missing or damaged is told of by the decode, as is a wrong field, not while somebody
+    /// types.
     template <typename Question>
     static void askTable(const Question& question) {
         try {
@@ -160,12 +161,12 @@ class Reader {
     }
     void askSection() {
         if (!good(kBore) || !good(kSection) || !good(kStyle)) return;
-        if (readCrossSection(folder_, bearing_))
+        if (readCrossSection(tables_, bearing_))
             refuse(kBore, "no " + plainText(bearing_.bore) + " mm in this section and style");
     }
     void askPrecision() {
         if (!good(kBore) || !good(kPrecision)) return;
-        if (readPrecision(folder_, bearing_))
+        if (readPrecision(tables_, bearing_))
             refuse(kPrecision, "no class " + bearing_.precisionCode + " for this bore");
         else if (bearing_.fitLetter == kNoFit && !needsFit(bearing_.styleLetter))
             say(kFit, fitRangeTextOf(bearing_, units_));
@@ -176,14 +177,14 @@ class Reader {
         missingZ_ = bearing_.separatorCode == "Z" && bearing_.zSeparatorChoice.empty();
         if (missingZ_)
             meaning_.codes[kSeparator].allowed = "choose which Z below";
-        else if (readSeparator(folder_, bearing_))
+        else if (readSeparator(tables_, bearing_))
             refuse(kSeparator, "no " + at(kSeparatorPlace) + " for this style");
         else
             say(kSeparator, afterCode(bearing_.separatorText));
     }
     void askFit() {
         if (bearing_.fitLetter == kNoFit || !good(kFit) || !good(kStyle)) return;
-        if (readFit(folder_, bearing_))
+        if (readFit(tables_, bearing_))
             refuse(kFit, "no " + bearing_.fitLetter + " in the table of fits");
         else
             say(kFit, afterCode(fitRangeTextOf(bearing_, units_)));
@@ -207,7 +208,8 @@ class Reader {
 
     Characters characters_;
     const UnitMode& units_;
-    const ProgramFolder& folder_;
+    TableFaults untold_;
+    const CatalogueSource tables_;
     BearingSpec bearing_;
     bool missingZ_ = false;
     PartNumberMeaning meaning_;

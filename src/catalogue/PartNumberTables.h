@@ -1,8 +1,8 @@
 #pragma once
 
 #include "catalogue/PartNumberRules.h"
+#include "catalogue/TableFaults.h"
 #include "state/BearingSpec.h"
-#include "state/ProgramFolder.h"
 
 namespace norlaplan {
 
@@ -10,12 +10,12 @@ namespace norlaplan {
 // that refuses the number comes back. Errors as those of the tables.
 
 /// By section, family and bore.
-Fault readCrossSection(const ProgramFolder& folder, BearingSpec& bearing);
+Fault readCrossSection(const CatalogueSource& source, BearingSpec& bearing);
 /// By precision class and bore.
-Fault readPrecision(const ProgramFolder& folder, BearingSpec& bearing);
+Fault readPrecision(const CatalogueSource& source, BearingSpec& bearing);
 /// By family and separator code, to which the letter of a "Z" separator is added first.
-Fault readSeparator(const ProgramFolder& folder, BearingSpec& bearing);
+Fault readSeparator(const CatalogueSource& source, BearingSpec& bearing);
 /// By fit letter; nothing is read for a bearing without one.
-Fault readFit(const ProgramFolder& folder, BearingSpec& bearing);
+Fault readFit(const CatalogueSource& source, BearingSpec& bearing);
 
 }  // namespace norlaplan

@@ -32,11 +32,15 @@ std::string readSpeedLine(CatalogueTable& table, const std::string& styleLetter,
     return readBlock<double>(table, line.other);
 }
 
-std::optional<SpeedLine> findSpeedLine(const ProgramFolder& folder, const BearingSpec& bearing) {
-    CatalogueTable table(folder, tableName(bearing.styleLetter));
+std::optional<SpeedLine> findSpeedLine(const CatalogueSource& source, const BearingSpec& bearing) {
+    CatalogueTable table(source.folder, tableName(bearing.styleLetter));
     SpeedLine line;
     while (!table.AtEnd()) {
-        if (readSpeedLine(table, bearing.styleLetter, line) == bearing.separatorCode) return line;
+        const std::string key = readSpeedLine(table, bearing.styleLetter, line);
+        const std::vector<TableFault> ofLine = table.takeFaults();
+        if (key != bearing.separatorCode) continue;
+        source.faults.add(ofLine);
+        return line;
     }
     return std::nullopt;
 }

@@ -6,7 +6,6 @@
 #include "capacity/SpeedLimits.h"
 #include "catalogue/CatalogueTable.h"
 #include "state/BearingSpec.h"
-#include "state/ProgramFolder.h"
 
 namespace norlaplan {
 
@@ -15,7 +14,7 @@ namespace norlaplan {
 std::string readSpeedLine(CatalogueTable& table, const std::string& styleLetter, SpeedLine& line);
 
 /// The bearing's line of the speed table of its style, by its separator code; nothing when the table has
-/// none. Errors as those of the tables.
-std::optional<SpeedLine> findSpeedLine(const ProgramFolder& folder, const BearingSpec& bearing);
+/// none. What is no number in that line is noted. Errors as those of the tables.
+std::optional<SpeedLine> findSpeedLine(const CatalogueSource& source, const BearingSpec& bearing);
 
 }  // namespace norlaplan

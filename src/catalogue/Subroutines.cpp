@@ -25,22 +25,23 @@ void setMaterial(BearingSpec& bearing) {
     bearing.bearingExpansion = bearing.materialCode == "K" ? 7.0e-6 : 5.6e-6;
 }
 
-void decode(ProgramState& state, std::string& number, DecodeServices& services) {
+void decode(ProgramState& state, std::string& number, DecodeServices& services, TableFaults& faults) {
+    const CatalogueSource source{services.folder, faults};
     BearingSpec& bearing = state.bearing;
     state.decoded.takeOff();
     checkPartNumber(number, bearing, services.messages);
     bearing.partNumber = number;
-    refuseFor(readCrossSection(services.folder, bearing));
-    refuseFor(readPrecision(services.folder, bearing));
-    refuseFor(readSeparator(services.folder, bearing));
+    refuseFor(readCrossSection(source, bearing));
+    refuseFor(readPrecision(source, bearing));
+    refuseFor(readSeparator(source, bearing));
     setAvailability(bearing);
     setMaterial(bearing);
     setSectionConstants(bearing, state.units);
     bearing.styleText = styleTextOf(bearing.styleLetter);
     bearing.precisionText = precisionTextOf(bearing.precisionCode);
-    refuseFor(readFit(services.folder, bearing));
+    refuseFor(readFit(source, bearing));
     bearing.fitRangeText = fitRangeTextOf(bearing, state.units);
-    deriveBearingData(state, services.folder, services.messages);
+    deriveBearingData(state, source, services.messages);
     if (services.sheets == nullptr) {
         checkDataSheet(bearing, services.folder);
     } else {
@@ -76,14 +77,20 @@ DecodeResult fail(ProgramState& state, MessagePort& messages, const RuntimeError
 }  // namespace
 
 DecodeResult DecodePartNumber(ProgramState& state, std::string& number, DecodeServices& services) {
+    // What is wrong in the tables is told before a refusal, which it may explain.
+    TableFaults faults;
     try {
-        decode(state, number, services);
+        decode(state, number, services, faults);
+        faults.tell(services.messages);
         return {};
     } catch (const Refusal& refusal) {
+        faults.tell(services.messages);
         return backToEntry(state, services.messages, refusal.message);
     } catch (const RuntimeError& error) {
+        faults.tell(services.messages);
         return fail(state, services.messages, error);
     } catch (const NotConverging& error) {
+        faults.tell(services.messages);
         giveUp(state, services.messages, {NotConverging::title(), error.what()});
         return {DecodeEnd::Stopped, true, std::nullopt};
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "numbers/Encoding.h"
 #include "numbers/Text.h"
 
 namespace norlaplan::cli {
@@ -18,7 +19,7 @@ void writeQuoted(const std::string& text, std::string& out) {
         out += text;
         out += '"';
     } else {
-        out += Json(text).dump(-1, ' ', false, Json::error_handler_t::replace);
+        out += Json(utf8Text(text)).dump();
     }
 }
 

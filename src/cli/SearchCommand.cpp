@@ -4,6 +4,7 @@
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
 #include "cli/TextTable.h"
+#include "documents/SearchReport.h"
 #include "numbers/Text.h"
 #include "search/HitLine.h"
 #include "search/HitSort.h"
@@ -86,12 +87,15 @@ CommandResult searchCommand(Session& session, const SearchOptions& options, cons
                         {"odText", hit.odText},
                         {"heightText", hit.heightText},
                         {"stock", hit.stock},
-                        {"line", lineOf(state, hit)}});
+                        {"line", lineOf(state, hit)},
+                        {"checks", checkNames(hit.checks)}});
         table.push_back({hit.name, hit.speedLimit, hit.l10Revolutions, hit.l10Hours, hit.boreText, hit.odText,
                          hit.heightText, trimmed(hit.stock)});
     }
     result.json["rows"] = rows;
     result.text = textTable(table, true);
+    for (const std::string& line : checkLines(state.search.rows, nameWithoutSpacers))
+        result.text += line + "\n";
     return result;
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "cli/VisibleText.h"
 #include "numbers/Text.h"
 
 namespace norlaplan::cli {
@@ -34,7 +35,11 @@ std::vector<Column> measure(const TextRows& rows, bool head) {
 
 }  // namespace
 
-std::string textTable(const TextRows& rows, bool head) {
+std::string textTable(TextRows rows, bool head) {
+    for (TextRow& row : rows) {
+        for (std::string& cell : row)
+            cell = visibleText(cell, LineEnds::Visible);
+    }
     const std::vector<Column> columns = measure(rows, head);
     std::string text;
     for (const auto& row : rows) {

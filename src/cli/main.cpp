@@ -8,6 +8,7 @@
 #include "cli/CommandError.h"
 #include "cli/CommandLine.h"
 #include "cli/Interrupts.h"
+#include "cli/VisibleText.h"
 
 namespace norlaplan::cli {
 namespace {
@@ -22,7 +23,7 @@ Json warningsJson(const Session& session) {
 
 void warn(const Session& session) {
     for (const Message& message : session.warnings()) {
-        std::cerr << message.title << ": " << message.prompt << '\n';
+        std::cerr << visibleText(message.title + ": " + message.prompt) << '\n';
     }
 }
 
@@ -31,7 +32,7 @@ void print(const Invocation& invocation, Session& session, CommandResult result)
         result.json["warnings"] = warningsJson(session);
         std::cout << writeJson(result.json);
     } else {
-        std::cout << result.text;
+        std::cout << visibleText(result.text);
     }
 }
 
@@ -59,7 +60,7 @@ void requireStack() {
 }
 
 int report(const CommandError& error, bool json) {
-    std::cerr << error.text() << '\n';
+    std::cerr << visibleText(error.text()) << '\n';
     if (json) std::cout << writeJson(error.json());
     return error.exitStatus();
 }

@@ -5,6 +5,7 @@
 
 #include "documents/DataSheet.h"
 #include "numbers/DecimalText.h"
+#include "numbers/Encoding.h"
 #include "numbers/Text.h"
 #include "state/ApplicationFields.h"
 
@@ -98,7 +99,8 @@ std::string applicationFile(const ProgramState& state) {
     return text;
 }
 
-ReadApplication readApplicationFile(std::string_view text) {
+ReadApplication readApplicationFile(std::string_view bytes) {
+    const std::string text = fileText(bytes);
     const std::vector<std::string_view> lines = linesOf(text);
     if (lines.empty() || lines.front() != kProgramVersion)
         refuse("its first line is not \"" + std::string(kProgramVersion) + "\".");

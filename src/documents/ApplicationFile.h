@@ -28,7 +28,7 @@ struct ReadApplication {
 
 /// Reads a data file. Error: `BadApplicationFile` for another version, another number of lines, or an option
 /// that the form doesn't have.
-ReadApplication readApplicationFile(std::string_view text);
+ReadApplication readApplicationFile(std::string_view bytes);
 
 /// Puts what was read into the form, and its contact fields into the user information.
 void takeApplication(ProgramState& state, const ReadApplication& read);

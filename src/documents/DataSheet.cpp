@@ -50,6 +50,13 @@ void writeClosingLines(const SheetWriter& sheet) {
                "Varden Reserves the Right to Change Specifications and Other Information Without Notice");
 }
 
+void writeBeginning(const SheetWriter& sheet) {
+    sheet.document.RtfHeader();
+    writeTitle(sheet);
+    writeInfo(sheet);
+    writeRatings(sheet);
+}
+
 }  // namespace
 
 std::string documentFooter(const std::string& line) {
@@ -65,11 +72,8 @@ std::string savedFooter(const std::string& text, ClockPort& clock) {
 
 SheetFiles makeDataSheet(const ProgramState& state, const ProgramFolder& folder, ClockPort& clock) {
     RtfDocument document;
-    document.RtfHeader();
     const SheetWriter sheet(document, state);
-    writeTitle(sheet);
-    writeInfo(sheet);
-    writeRatings(sheet);
+    writeBeginning(sheet);
     writeFits(sheet);
     writePartNumberDetail(sheet);
     writeSpeedPanel(sheet);
@@ -81,6 +85,12 @@ SheetFiles makeDataSheet(const ProgramState& state, const ProgramFolder& folder,
     document.append(savedFooter(state.options.footerText, clock));
     document.append("}{\\par }}");
     document.endRecords();
+    return {document.rtf(), document.records()};
+}
+
+SheetFiles dataSheetBeginning(const ProgramState& state) {
+    RtfDocument document;
+    writeBeginning(SheetWriter(document, state));
     return {document.rtf(), document.records()};
 }
 

@@ -12,6 +12,10 @@ namespace norlaplan {
 /// missing overlay drawing, 70 and 75 for one that can't be read, 321 for one that is too large.
 SheetFiles makeDataSheet(const ProgramState& state, const ProgramFolder& folder, ClockPort& clock);
 
+/// How the files of that sheet begin: number, units, scale, mass, and ratings with the separator. Files that
+/// begin otherwise are those of another bearing, or of this one in other units or from other tables.
+SheetFiles dataSheetBeginning(const ProgramState& state);
+
 /// Raises what `makeDataSheet` would, and makes nothing: only the overlay drawings can be missing or
 /// unreadable, since every number on the sheet is a stored one, which is finite.
 void checkDataSheet(const BearingSpec& bearing, const ProgramFolder& folder);

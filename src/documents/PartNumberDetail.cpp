@@ -1,7 +1,10 @@
 #include <algorithm>
+#include <iterator>
 #include <string>
+#include <string_view>
 
 #include "documents/SheetWriter.h"
+#include "documents/WrappedText.h"
 
 namespace norlaplan {
 namespace {
@@ -15,8 +18,41 @@ constexpr double kBoxHeight = 0.16;
 constexpr double kStackLine = 0.1;
 constexpr double kBlank = 0.25 * kSize / 72.0;  ///< width of a blank of Times
 
-std::string without(const std::string& text, std::size_t characters) {
-    return text.size() > characters ? text.substr(characters) : std::string();
+std::string without(std::string_view text, std::size_t characters) {
+    for (; characters > 0 && !text.empty(); --characters)
+        text.remove_prefix(characterLength(text));
+    return std::string(text);
+}
+
+/// Widths of Times from the blank to the tilde, in thousandths of its size.
+constexpr int kWidths[] = {250, 333, 408, 500, 500, 833, 778, 180, 333, 333, 500, 564, 250, 333, 250, 278,
+                           500, 500, 500, 500, 500, 500, 500, 500, 500, 500, 278, 278, 564, 564, 564, 444,
+                           921, 722, 667, 667, 722, 611, 556, 722, 722, 333, 389, 722, 611, 889, 722, 722,
+                           556, 722, 667, 556, 611, 722, 722, 944, 722, 722, 611, 333, 278, 333, 469, 500,
+                           333, 444, 500, 444, 500, 444, 333, 500, 500, 278, 278, 500, 278, 778, 500, 500,
+                           500, 500, 333, 389, 278, 500, 500, 722, 500, 500, 444, 480, 200, 480, 541};
+static_assert(std::size(kWidths) == '~' - ' ' + 1);
+
+/// How wide a character is, in parts of its size; one beyond ASCII is taken as a wide one.
+double widthOf(std::string_view character) {
+    const char c = character.front();
+    return c < ' ' || c > '~' ? 1.0 : kWidths[c - ' '] / 1000.0;
+}
+
+/// A text of a table that ends in a point of omission where it would run out of the frame.
+std::string cutToFrame(std::string_view text, double inches) {
+    const double room = inches * 72.0 / kSize;
+    double used = 0.0;
+    std::size_t end = 0;     // of what fits
+    std::size_t cutEnd = 0;  // of what fits with the sign behind it
+    while (end < text.size()) {
+        const std::size_t length = characterLength(text.substr(end));
+        used += widthOf(text.substr(end, length));
+        if (used > room) return std::string(text.substr(0, cutEnd)) + "\u2026";
+        end += length;
+        if (used + 1.0 <= room) cutEnd = end;
+    }
+    return std::string(text);
 }
 
 /// The lines of the detail, one below the other.
@@ -29,12 +65,13 @@ class DetailWriter {
         const double codeWidth = 0.085 * static_cast<double>(std::max<std::size_t>(code.size(), 1));
         sheet_.text({kLeft, y_, kLeft + codeWidth + 0.1, y_ - kBoxHeight}, code, {kSize, "BLUE", true});
         const std::string gap = meaning.starts_with(" ") ? "" : " ";
-        sheet_.text({kLeft + codeWidth, y_, kRight, y_ - kBoxHeight}, gap + meaning, {kSize});
+        sheet_.text({kLeft + codeWidth, y_, kRight, y_ - kBoxHeight},
+                    cutToFrame(gap + meaning, kRight - kLeft - codeWidth), {kSize});
         y_ -= kLine;
     }
 
     void plain(const std::string& words, double left = kLeft) {
-        sheet_.text({left, y_, kRight, y_ - kBoxHeight}, words, {kSize});
+        sheet_.text({left, y_, kRight, y_ - kBoxHeight}, cutToFrame(words, kRight - left), {kSize});
         y_ -= kLine;
     }
 

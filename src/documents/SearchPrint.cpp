@@ -1,7 +1,9 @@
 #include <algorithm>
+#include <optional>
 
 #include "documents/PrintedPage.h"
 #include "documents/SearchReport.h"
+#include "documents/WrappedText.h"
 #include "numbers/FormatNumber.h"
 #include "numbers/Text.h"
 
@@ -11,6 +13,9 @@ namespace {
 constexpr std::size_t kRowsOfFirstPage = 26;
 constexpr std::size_t kRowsOfFurtherPage = 40;
 constexpr double kSize = 11.0;
+constexpr double kCheckSize = 10.0;
+/// The top of the last line that stands above the footer, inches.
+constexpr double kLowestLine = 1.0;
 // Right ends of the figure columns and left ends of the text columns, inches.
 constexpr double kLifeEnd = 4.7;
 constexpr double kHoursEnd = 5.9;
@@ -113,6 +118,84 @@ void printRow(PageWriter& page, const ProgramState& state, const SearchHit& hit)
     page.endLine(kSize);
 }
 
+/// Draws nothing and measures like another canvas: for the number of pages, which the first one tells.
+class Ruler : public Canvas {
+  public:
+    explicit Ruler(Canvas& measured) : measured_(measured) {}
+
+    void line(PagePoint, PagePoint, const PagePen&) override {}
+    void rectangle(const PageBox&, std::optional<Colour>, const std::optional<PagePen>&) override {}
+    void circle(PagePoint, double, const PagePen&) override {}
+    void text(const PageBox&, std::string_view, const TextLook&) override {}
+    double textWidth(std::string_view text, const TextLook& look) override {
+        return measured_.textWidth(text, look);
+    }
+    void newPage() override {}
+
+  private:
+    Canvas& measured_;
+};
+
+/// The list from its first page to its last.
+class ListPrinter {
+  public:
+    /// `pages` is the number that the footers tell.
+    ListPrinter(Canvas& canvas, const ProgramState& state, ClockPort& clock, int pages)
+        : canvas_(canvas), state_(state), clock_(clock), pages_(pages) {}
+
+    /// Gives how many pages it took.
+    int print() {
+        const std::vector<SearchHit>& rows = state_.search.rows;
+        std::size_t end = 0;
+        do {
+            const std::size_t next = end;
+            startPage();
+            if (number_ == 1) printHead(canvas_, *page_, state_);
+            printColumnHeads(canvas_, *page_, state_);
+            end = std::min(rows.size(), next + (number_ == 1 ? kRowsOfFirstPage : kRowsOfFurtherPage));
+            for (std::size_t row = next; row < end; ++row)
+                printRow(*page_, state_, rows[row]);
+        } while (end < rows.size());
+        printChecks();
+        endPage();
+        return number_;
+    }
+
+  private:
+    void startPage() {
+        if (number_ > 0) {
+            endPage();
+            canvas_.newPage();
+        }
+        ++number_;
+        drawPageFrame(canvas_);
+        page_.emplace(canvas_, 10.0);
+    }
+
+    void endPage() {
+        drawPageFooter(canvas_, clock_, "Page " + std::to_string(number_) + " of " + std::to_string(pages_));
+    }
+
+    void printChecks() {
+        const TextLook look = timesLook(kCheckSize);
+        const auto width = [&](std::string_view text) { return canvas_.textWidth(text, look); };
+        page_->skip(0.1);
+        for (const std::string& check : checkLines(state_.search.rows, nameWithoutSpacers)) {
+            for (const std::string& line : wrappedText(check, kPageRight - kPageLeft, width)) {
+                if (page_->y() < kLowestLine) startPage();
+                page_->line(line, look);
+            }
+        }
+    }
+
+    Canvas& canvas_;
+    const ProgramState& state_;
+    ClockPort& clock_;
+    const int pages_;
+    int number_ = 0;
+    std::optional<PageWriter> page_;
+};
+
 }  // namespace
 
 int searchPages(std::size_t rows) {
@@ -121,21 +204,12 @@ int searchPages(std::size_t rows) {
 }
 
 void printSearch(const ProgramState& state, ClockPort& clock, Canvas& canvas) {
-    const std::vector<SearchHit>& rows = state.search.rows;
-    const int pages = searchPages(rows.size());
-    std::size_t next = 0;
-    for (int number = 1; number <= pages; ++number) {
-        if (number > 1) canvas.newPage();
-        drawPageFrame(canvas);
-        PageWriter page(canvas, 10.0);
-        if (number == 1) printHead(canvas, page, state);
-        printColumnHeads(canvas, page, state);
-        const std::size_t end =
-            std::min(rows.size(), next + (number == 1 ? kRowsOfFirstPage : kRowsOfFurtherPage));
-        for (; next < end; ++next)
-            printRow(page, state, rows[next]);
-        drawPageFooter(canvas, clock, "Page " + std::to_string(number) + " of " + std::to_string(pages));
+    int pages = searchPages(state.search.rows.size());
+    if (const auto notes = checkLines(state.search.rows, nameWithoutSpacers); !notes.empty()) {
+        Ruler ruler(canvas);
+        pages = ListPrinter(ruler, state, clock, pages).print();
     }
+    ListPrinter(canvas, state, clock, pages).print();
 }
 
 Document searchDocument(const ProgramState& state, ClockPort& clock) {

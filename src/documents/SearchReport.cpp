@@ -82,7 +82,31 @@ void writeRow(RtfDocument& document, const ProgramState& state, const SearchHit&
     document.append("\\par");
 }
 
+void writeChecks(RtfDocument& document, const ProgramState& state) {
+    const auto name = [&](const SearchHit& hit) { return trimmed(columnName(state, hit.name)); };
+    for (const std::string& line : checkLines(state.search.rows, name))
+        document.append("{\\par\\fs20\\cf1 " + rtfText(line) + "}\\par");
+}
+
 }  // namespace
+
+std::vector<std::string> checkLines(const std::vector<SearchHit>& rows,
+                                    const std::function<std::string(const SearchHit&)>& name) {
+    std::string unbalanced, shorter;
+    for (const SearchHit& hit : rows) {
+        const auto addTo = [&](std::string& names) { names += (names.empty() ? "" : ", ") + name(hit); };
+        if (hit.checks.unbalanced) addTo(unbalanced);
+        if (hit.checks.shorterRowLife) addTo(shorter);
+    }
+    std::vector<std::string> lines;
+    if (!unbalanced.empty()) lines.push_back(std::string(kUnbalancedSentence) + " Bearings: " + unbalanced);
+    if (!shorter.empty()) lines.push_back(std::string(kShorterRowSentence) + ". Bearings: " + shorter);
+    return lines;
+}
+
+std::string nameWithoutSpacers(const SearchHit& hit) {
+    return hit.name.substr(0, hit.name.find(' '));
+}
 
 std::string searchRtf(const ProgramState& state, ClockPort& clock) {
     RtfDocument document;
@@ -99,6 +123,7 @@ std::string searchRtf(const ProgramState& state, ClockPort& clock) {
         writeRow(document, state, hit);
         ++row;
     }
+    writeChecks(document, state);
     document.append(savedFooter(state.user.userName, clock));
     document.append("}{\\par }}}}");
     return document.rtf();

@@ -1,8 +1,11 @@
 #include "documents/SectionDrawing.h"
 
+#include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "documents/OverlayReader.h"
+#include "numbers/RuntimeError.h"
 
 namespace norlaplan {
 namespace {
@@ -66,9 +69,23 @@ void drawField(Canvas& canvas, const std::vector<SheetRecord>& records, const Pa
     paintRecords(moved, canvas);
 }
 
+/// The name comes from a table: it names a file of the overlays' folder or nothing.
+void refuseOtherFolders(const std::string& overlay) {
+    const bool leaves = overlay.find_first_of(std::string_view("/\\\0", 3)) != std::string::npos ||
+                        overlay.find("..") != std::string::npos;
+    if (!leaves) return;
+    // A message ends at a zero byte.
+    std::string shown = overlay;
+    std::replace(shown.begin(), shown.end(), '\0', '?');
+    throw RuntimeError(fault::kBadFileName, runtimeErrorText(fault::kBadFileName) +
+                                                ": the separator table names the overlay \"" + shown +
+                                                "\", which is no name of a file in the overlays folder");
+}
+
 }  // namespace
 
 Overlays readOverlays(const BearingSpec& bearing, const ProgramFolder& folder) {
+    refuseOtherFolders(bearing.separatorOverlay);
     return {
         folder.read("\\overlays\\" + bearing.styleLetter + ".ovl", kMostPlotBytes),
         folder.read("\\overlays\\" + bearing.separatorOverlay + separatorSuffix(bearing.styleLetter) + ".sep",

@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "numbers/Arithmetic.h"
-#include "numbers/FormatNumber.h"
 
 namespace norlaplan {
 namespace {
@@ -30,14 +29,15 @@ bool secondRowIsShorter(const SolverState& solver) {
 
 }  // namespace
 
+LifeChecks lifeChecks(const SolverState& solver) {
+    LifeChecks checks;
+    checks.unbalanced = !isBalanced(solver);
+    if (secondRowIsShorter(solver)) checks.shorterRowLife = solver.L10OuterRotationRow2;
+    return checks;
+}
+
 std::vector<std::string> resultWarnings(const SolverState& solver) {
-    std::vector<std::string> warnings;
-    if (!isBalanced(solver)) warnings.emplace_back("The ball loads do not balance the applied loads.");
-    if (secondRowIsShorter(solver)) {
-        warnings.push_back("Row 2 has the shorter life: " +
-                           FormatNumber(solver.L10OuterRotationRow2, "#,##0") + " revolutions");
-    }
-    return warnings;
+    return checkSentences(lifeChecks(solver));
 }
 
 }  // namespace norlaplan

@@ -134,11 +134,16 @@ std::string trimmed(std::string_view text) {
 }
 
 double leadingNumber(std::string_view text) {
+    return numberAtStart(text).value;
+}
+
+NumberAtStart numberAtStart(std::string_view text) {
     while (!text.empty() && isBlank(text.front()))
         text.remove_prefix(1);
     const ScannedNumber scanned = scanNumber(text);
     if (scanned.tooLarge) raise(fault::kOverflow);
-    return scanned.value;
+    const std::string_view rest = text.substr(scanned.length);
+    return {scanned.value, std::all_of(rest.begin(), rest.end(), isBlank)};
 }
 
 std::optional<double> wholeNumberText(std::string_view text) {

@@ -20,6 +20,14 @@ std::string trimmed(std::string_view text);
 /// "8X" gives 8. Never follows the locale; error 6 when it is too large for 64 bits.
 double leadingNumber(std::string_view text);
 
+/// The same number, and whether the text is nothing else: blanks around it are none of it, and a text of
+/// blanks is the number 0.
+struct NumberAtStart {
+    double value = 0.0;
+    bool whole = true;
+};
+NumberAtStart numberAtStart(std::string_view text);
+
 /// The whole text as a number, as a field on a screen is read: blanks around it and grouping commas in the
 /// whole part are passed over ("1,733" is 1733). Nothing when any of it is not a number or not finite.
 std::optional<double> wholeNumberText(std::string_view text);

@@ -9,7 +9,10 @@
 #include "capacity/SolveAdvice.h"
 #include "capacity/SpeedLimits.h"
 #include "catalogue/CatalogueTable.h"
+#include "catalogue/CodeTexts.h"
 #include "catalogue/SpeedTables.h"
+#include "catalogue/TableFaults.h"
+#include "loaddist/ResultWarnings.h"
 #include "loaddist/radlodestar2.h"
 #include "numbers/Arithmetic.h"
 #include "numbers/FormatNumber.h"
@@ -42,6 +45,7 @@ struct SectionRow {
     std::string name;
     Int16 stockCode, speedIndex, ballCount;
     Single bore, outsideDiameter;
+    std::vector<TableFault> faults;  ///< in what only a row that fits is used for
 };
 
 /// What a search works on: the style, sizes, loads and units of the program, and a bearing, a solver and a
@@ -62,10 +66,10 @@ class Search {
   public:
     Search(const ProgramState& state, const ProgramFolder& folder, MessagePort& messages, SearchWatch& watch)
         : state_(workingState(state)),
-          folder_(folder),
+          tables_{folder, faults_},
           watch_(watch),
           messages_(messages, watch_),
-          clearances_(folder, watch_),
+          clearances_(tables_, watch_),
           letter_(state.style.searchStyleLetter),
           caption_(state.style.searchStyleCaption),
           entered_(state.loads) {}
@@ -83,45 +87,68 @@ class Search {
     std::vector<SearchHit> takeRows() { return std::move(rows_); }
     Single lastHours() const { return state_.life.l10Hours; }
     int givenUp() const { return givenUp_; }
+    /// What is wrong in the tables as far as they were read.
+    TableFaults& faults() { return faults_; }
 
   private:
     void readSpeedNumbers() {
-        CatalogueTable table(folder_, "SPEED" + letter_ + ".csv");
+        CatalogueTable table(tables_.folder, "SPEED" + letter_ + ".csv");
         const std::string key = letter_ == "A" ? "R" : "P";
-        while (readSpeedLine(table, letter_, speeds_) != key) {
-        }
+        while (readSpeedLine(table, letter_, speeds_) != key)
+            table.takeFaults();
+        faults_.add(table.takeFaults());
     }
 
     bool walk(std::size_t pass) {
         const Section& section = kSections[pass];
         state_.bearing.ballDiameter = section.ballDiameter;
         state_.bearing.raceRadius = section.raceRadius;
-        CatalogueTable table(folder_, section.prefix + letter_ + ".CSV");
+        const std::string name = section.prefix + letter_ + ".CSV";
+        CatalogueTable table(tables_.folder, name);
         table.skipFields(10);
         Single height;
         table.NextFields(height);
+        faults_.add(table.takeFaults());
         table.skipFields(9);
         rowHeight_ = height / kMillimetresPerInch;
         while (!table.AtEnd()) {
+            const int number = table.row();
             const SectionRow row = readRow(table);
             watch_.setDone((static_cast<double>(pass) + table.partRead()) / kSections.size());
             if (!watch_.goOn()) return false;
             if (!fits(row)) continue;
+            if (!isNamedForItsTable(row.name)) {
+                faults_.add({name, number, 1, row.name, "names no bearing of this table and is left out"});
+                continue;
+            }
+            faults_.add(row.faults);
             takeRow(row);
             if (watch_.stopped()) return false;
         }
         return true;
     }
 
-    static SectionRow readRow(CatalogueTable& table) {
+    SectionRow readRow(CatalogueTable& table) {
         SectionRow row;
         Single bore, outsideDiameter;
-        table.NextFields(row.name, row.stockCode, bore, outsideDiameter);
+        table.NextFields(row.name, row.stockCode);
+        row.faults = table.takeFaults();
+        table.NextFields(bore, outsideDiameter);
+        // Whether a row fits is asked of every row.
+        faults_.add(table.takeFaults());
         table.skipFields(4);
         table.NextFields(row.speedIndex, row.ballCount);
+        const std::vector<TableFault> ofRest = table.takeFaults();
+        row.faults.insert(row.faults.end(), ofRest.begin(), ofRest.end());
         row.bore = bore / kMillimetresPerInch;
         row.outsideDiameter = outsideDiameter / kMillimetresPerInch;
         return row;
+    }
+
+    /// Whether the seventh character is a style that the table is for.
+    bool isNamedForItsTable(const std::string& name) const {
+        constexpr std::size_t kStylePlace = 6;
+        return name.size() > kStylePlace && familyOf(name.substr(kStylePlace, 1)) == letter_;
     }
 
     bool fits(const SectionRow& row) const {
@@ -144,7 +171,7 @@ class Search {
         SearchHit hit;
         describe(row, hit);
         const Single spacing = letter_ == "A" ? prepareSet(row, hit) : prepareSingle(row, hit);
-        solve(hit.name, spacing);
+        hit.checks = solve(hit.name, spacing);
         rate(row, hit);
         rows_.push_back(hit);
     }
@@ -205,8 +232,8 @@ class Search {
     }
 
     /// Each row is a solve of its own: one that is given up or unstable has the life 0 and leaves the loads
-    /// alone.
-    void solve(const std::string& name, Single spacing) {
+    /// alone. Gives how far the life is to be trusted.
+    LifeChecks solve(const std::string& name, Single spacing) {
         const BearingSpec& bearing = state_.bearing;
         const SolveArguments arguments{letter_ == "A" ? name.substr(0, 10) : name,
                                        bearing.pitchDiameter,
@@ -222,6 +249,7 @@ class Search {
         state_.solver.SolveAborted = false;
         const int refusals = messages_.refusals();
         bool ended = false;
+        LifeChecks checks;
         state_.life.l10Revolutions = 0.0;
         try {
             const auto result =
@@ -229,13 +257,17 @@ class Search {
                     if (letter_ == "C") return SolveRadialRow(state_, arguments, messages_);
                     return SolveCoupledRows(state_, arguments, messages_);
                 });
-            if (result) state_.life.l10Revolutions = result->lifeRevolutions;
+            if (result) {
+                state_.life.l10Revolutions = result->lifeRevolutions;
+                checks = lifeChecks(state_.solver);
+            }
         } catch (const NotConverging&) {
             ended = true;
             state_.solver.SolveAborted = true;
         }
         if (ended || messages_.refusals() > refusals) ++givenUp_;
         state_.loads = entered_;
+        return checks;
     }
 
     void rate(const SectionRow& row, SearchHit& hit) {
@@ -263,7 +295,8 @@ class Search {
     }
 
     ProgramState state_;
-    const ProgramFolder& folder_;
+    TableFaults faults_;
+    const CatalogueSource tables_;
     StopLatch watch_;
     SearchMessages messages_;
     ClearanceTable clearances_;
@@ -292,7 +325,13 @@ SearchEnd RunBearingSearch(ProgramState& state, const ProgramFolder& folder, Mes
                            SearchWatch& watch) {
     forgetRows(state.search);
     Search search(state, folder, messages, watch);
-    if (!search.run()) return SearchEnd::Stopped;
+    try {
+        if (!search.run()) return SearchEnd::Stopped;
+    } catch (...) {
+        search.faults().tell(messages);
+        throw;
+    }
+    search.faults().tell(messages);
     state.search.rows = search.takeRows();
     state.search.hitCount = static_cast<int>(state.search.rows.size()) + 1;
     state.search.lastHours = search.lastHours();

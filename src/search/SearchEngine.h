@@ -24,6 +24,8 @@ enum class SearchEnd { Found, NoneFound, Stopped };
 /// solver and fills the results. The state's bearing, loads and results of a solve stay as they are: a chosen
 /// row is decoded when it becomes the bearing in hand. Messages of the solver are shown once a search, its
 /// question is asked once; rows that are given up are listed with the life 0, and a message tells how many.
+/// Numbers of the tables that are none, and rows that are left out because their name is not of their table,
+/// are told in one message.
 ///
 /// With no row found the program's message is shown, the sizes count as not chosen, and `noResultFlag` is
 /// set. A stopped search and one that ends in a run-time error leave no rows. Errors: those of the tables

@@ -15,15 +15,19 @@ class DecodedMark {
         partNumber_ = bearing.partNumber;
         zSeparatorChoice_ = bearing.zSeparatorChoice;
         unitSystem_ = unitSystem;
+        ++decodes_;
     }
     void takeOff() { partNumber_.clear(); }
     bool holds(const BearingSpec& bearing, const std::string& unitSystem) const {
         return !partNumber_.empty() && partNumber_ == bearing.partNumber &&
                zSeparatorChoice_ == bearing.zSeparatorChoice && unitSystem_ == unitSystem;
     }
+    /// How many decodes have come to a good end: tells one from the next of the same number.
+    int decodes() const { return decodes_; }
 
   private:
     std::string partNumber_, zSeparatorChoice_, unitSystem_;
+    int decodes_ = 0;
 };
 
 }  // namespace norlaplan

@@ -5,6 +5,7 @@
 
 #include "numbers/Int16.h"
 #include "numbers/Single.h"
+#include "state/LifeChecks.h"
 #include "state/LoadCase.h"
 
 namespace norlaplan {
@@ -23,9 +24,10 @@ struct BearingStyle {
     std::string searchStyleLetter;  ///< "A", "C" or "X"
 };
 
-/// One row of the results, all of it as text, as it is shown.
+/// One row of the results: its columns as texts, as they are shown, and how far its life is to be trusted.
 struct SearchHit {
     std::string name, speedLimit, l10Revolutions, l10Hours, boreText, odText, heightText, stock;
+    LifeChecks checks{};
 
     bool operator==(const SearchHit&) const = default;
 };

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "numbers/Encoding.h"
 #include "numbers/RuntimeError.h"
 #include "numbers/Text.h"
 #include "state/WholeFile.h"
@@ -68,28 +69,54 @@ void applyOption(std::string_view line, Options& options) {
     if (upper.starts_with(kFooterKeyword)) options.footerText = line.substr(kFooterKeyword.size());
 }
 
+/// A text that is one line of the file and not an empty one.
+void makeLine(std::string& text) {
+    std::replace_if(
+        text.begin(), text.end(), [](char character) { return character == '\r' || character == '\n'; }, ' ');
+    if (text.empty()) text = kFilling;
+}
+
+/// "US" or "METRIC" as its line of the file says it; empty for anything else.
+std::string unitSystemOf(const std::string& line) {
+    const std::string units = upperCase(trimmed(line));
+    return units == "US" || units == "METRIC" ? units : "";
+}
+
+/// The settings as they stand in the file; those of the state where there is no sound one.
+ProgramState settingsOnFile(const ProgramState& state, const ProgramFolder& folder) {
+    ProgramState read;
+    try {
+        LoadSettings(read, folder);
+    } catch (const RuntimeError&) {
+        read.user = state.user;
+    }
+    for (const auto field : kUserLines)
+        makeLine(read.user.*field);
+    read.unitSystem = unitSystemOf(read.unitSystem);
+    if (read.unitSystem.empty()) read.unitSystem = state.unitSystem;
+    return read;
+}
+
 }  // namespace
 
 void LoadSettings(ProgramState& state, const ProgramFolder& folder) {
-    const std::string text = folder.read(kSettingsFile, kMostSettings);
+    const std::string text = fileText(folder.read(kSettingsFile, kMostSettings));
     Lines lines(text);
     for (const auto field : kUserLines)
         state.user.*field = lines.next();
     state.unitSystem = lines.next();
 }
 
-void SaveSettings(ProgramState& state, const ProgramFolder& folder) {
-    std::string text;
-    for (const auto field : kUserLines) {
-        std::string& value = state.user.*field;
-        std::replace_if(
-            value.begin(), value.end(), [](char character) { return character == '\r' || character == '\n'; },
-            ' ');
-        if (value.empty()) value = kFilling;
-        text += value + "\r\n";
-    }
+void SaveSettings(ProgramState& state, const ProgramFolder& folder, SettingsPart part) {
+    for (const auto field : kUserLines)
+        makeLine(state.user.*field);
     if (state.unitSystem.empty()) state.unitSystem = "US";
-    text += state.unitSystem + "\r\n";
+    const ProgramState onFile = settingsOnFile(state, folder);
+    const UserInfo& user = part == SettingsPart::Units ? onFile.user : state.user;
+    std::string text;
+    for (const auto field : kUserLines)
+        text += user.*field + "\r\n";
+    text += (part == SettingsPart::User ? onFile : state).unitSystem + "\r\n";
     writeWholeFile(folder.toWrite(kSettingsFile), text);
 }
 
@@ -100,7 +127,7 @@ std::string shownUserText(const std::string& text) {
 bool LoadExtras(ProgramState& state, const ProgramFolder& folder) {
     std::string text;
     try {
-        text = folder.read(kExtrasFile, kMostSettings);
+        text = fileText(folder.read(kExtrasFile, kMostSettings));
     } catch (const RuntimeError& error) {
         // A missing file is no fault, and one that can't be read is passed over; this one is a mistake.
         if (error.number() == fault::kInvalidFormat) throw;
@@ -123,12 +150,12 @@ StartUp startUp(ProgramState& state, const ProgramFolder& folder) {
         }
         state.unitSystem = "US";
     }
-    const std::string units = upperCase(trimmed(state.unitSystem));
-    if (units != "US" && units != "METRIC") {
+    const std::string units = unitSystemOf(state.unitSystem);
+    if (units.empty()) {
         outcome.notice = "The last line of SETTINGS.INI should be US or METRIC and is \"" + state.unitSystem +
                          "\". US units are used.";
     }
-    state.unitSystem = units == "METRIC" ? units : "US";
+    state.unitSystem = units.empty() ? "US" : units;
     ApplyUnitSystem(state.unitSystem, state.units);
     try {
         if (!LoadExtras(state, folder)) return outcome;

@@ -12,10 +12,14 @@ namespace norlaplan {
 /// lines, 321 when it is larger than any settings.
 void LoadSettings(ProgramState& state, const ProgramFolder& folder);
 
+/// What is to be saved of the settings; the other lines stay as the file has them, since another program in
+/// the same folder may have written them meanwhile.
+enum class SettingsPart { All, User, Units };
+
 /// Writes SETTINGS.INI. Empty user texts become one blank and an empty `unitSystem` becomes "US", in the
 /// state too, since a line of the file must not be empty; line breaks inside a text become blanks. Errors as
 /// `writeWholeFile`; the old file then still stands.
-void SaveSettings(ProgramState& state, const ProgramFolder& folder);
+void SaveSettings(ProgramState& state, const ProgramFolder& folder, SettingsPart part = SettingsPart::All);
 
 /// A text about the user as a field shows it: the blank that fills a line of the file shows as nothing.
 std::string shownUserText(const std::string& text);

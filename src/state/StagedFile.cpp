@@ -217,8 +217,14 @@ void StagedFile::discard() {
 }
 
 void commitTogether(StagedFile& first, StagedFile& second) {
+    if (first.waiting().empty()) {
+        // What went through a pipe or a device can't be taken back.
+        first.commit();
+        second.commit();
+        return;
+    }
     const fs::path& target = first.target();
-    const std::string kept = (target.parent_path() / ("." + target.filename().string() + ".before")).string();
+    const std::string kept = first.waiting() + ".before";
     ::unlink(kept.c_str());
     std::optional<std::string> content;
     const bool linked = ::link(target.c_str(), kept.c_str()) == 0;

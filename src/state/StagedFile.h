@@ -33,6 +33,8 @@ class StagedFile {
     void commit();
 
     const std::filesystem::path& target() const { return target_; }
+    /// The name of the waiting file, which no other program uses meanwhile; empty for a pipe or device.
+    const std::string& waiting() const { return waiting_; }
 
   private:
     void openWaiting();

@@ -1,5 +1,6 @@
 """norlaplan-cli as a user's shell sees it: results, messages, exit statuses, files."""
 
+import csv
 import os
 import resource
 import shutil
@@ -53,6 +54,49 @@ class Decode(unittest.TestCase):
                 self.assertEqual(told["error"],
                                  {"kind": "message", "number": None, "title": title, "prompt": prompt})
                 self.assertEqual(run("decode", number).stderr, f"{title}: {prompt}\n")
+
+    def test_warns_of_a_field_that_is_no_number_also_in_a_batch(self):
+        with own_tables() as folder:
+            path = table(folder, "CLS0.csv")
+            lines = path.read_text("ascii").splitlines()
+            row = next(i for i, line in enumerate(lines) if line.startswith("190,"))
+            lines[row] = lines[row].replace("190,-", "190,nan-", 1)
+            path.write_text("\r\n".join(lines) + "\r\n", "ascii")
+            told = f'Table CLS0.csv, row {row + 1}, column 2: "nan{lines[row].split(",")[1][3:]}" is not a number and ' \
+                   "is read as 0."
+            status, bearing = result("--program-folder", str(folder), "decode", "K19013XP0")
+            self.assertEqual(status, 0)
+            self.assertEqual(bearing["boreTolerance"], 0)
+            self.assertEqual(bearing["warnings"], [{"title": "Catalogue Tables", "prompt": told}])
+            cases = folder / "cases.csv"
+            cases.write_text("partNumber,radial\nK19013XP0,5\nK20013XP0,5\n", "ascii")
+            self.assertEqual(run("--program-folder", str(folder), "batch", str(cases), "--output",
+                                 str(folder / "out.csv")).returncode, 0)
+            with open(folder / "out.csv", encoding="utf-8", newline="") as file:
+                rows = list(csv.DictReader(file))
+            self.assertIn("Catalogue Tables: " + told, rows[0]["warnings"])
+            self.assertNotIn("Catalogue Tables", rows[1]["warnings"])
+
+    def test_shows_control_characters_and_other_encodings_of_tables(self):
+        with own_tables() as folder:
+            path = table(folder, "XSEPARATOR.CSV")
+            content = path.read_bytes()
+            path.write_bytes(content.replace(b"P= Snapover Brass Ribbon", b"P= \x1b[31mK\xe4fig\x07\xc2\x9b2J\x7f", 1))
+            done = run("--program-folder", str(folder), "decode", "K19013XP0", text=False)
+            self.assertEqual(done.returncode, 0)
+            line = next(line for line in done.stdout.decode("utf-8").splitlines() if line.startswith("separatorText"))
+            self.assertEqual(line.split(maxsplit=1)[1], "P= ^[[31mKäfig^G<9B>2J^?")
+            text = result("--program-folder", str(folder), "decode", "K19013XP0")[1]["separatorText"]
+            self.assertEqual(text, "P= \x1b[31mKäfig\x07\x9b2J\x7f")
+
+    def test_keeps_overlays_in_their_folder(self):
+        with own_tables() as folder:
+            path = table(folder, "XSEPARATOR.CSV")
+            path.write_bytes(path.read_bytes().replace(b",RIBBON", b",../RIBBON", 1))
+            status, told = result("--program-folder", str(folder), "decode", "K19013XP0")
+            self.assertEqual(status, 3)
+            self.assertEqual(told["error"]["number"], 52)
+            self.assertIn('the separator table names the overlay "../RIBBON"', told["error"]["prompt"])
 
     def test_tells_of_a_bore_that_the_precision_table_lacks(self):
         with own_tables() as folder:
@@ -168,6 +212,66 @@ class Search(unittest.TestCase):
         rows = result("search", "--style", "4-POINT CONTACT", *self.ENVELOPE, "--sort", "life", "--descending")[1]["rows"]
         lives = [float(row["l10Revolutions"]) for row in rows]
         self.assertEqual(lives, sorted(lives, reverse=True))
+
+    def test_marks_the_rows_whose_life_is_not_to_be_trusted(self):
+        words = ("search", "--style", "FACE-TO-FACE SET", "--min-bore", ".5", "--max-od", "3", "--min-height", ".1",
+                 "--max-height", "1.6", "--radial", "1.5")
+        status, found = result(*words)
+        self.assertEqual(status, 0)
+        marked = 0
+        for row in found["rows"]:
+            if row["l10Revolutions"] == "0":
+                self.assertEqual(row["checks"], [], "given up, which is told")
+                continue
+            # The search takes the middle of fit B as clearance.
+            alone = result("life", row["name"][:9] + "B", "--radial", "1.5")[1]
+            names = []
+            for warning in alone["warnings"]:
+                self.assertEqual(warning["title"], "Load Life Calculation")
+                if warning["prompt"] == "The ball loads do not balance the applied loads.":
+                    names.append("unbalanced")
+                elif warning["prompt"].startswith("Row 2 has the shorter life: "):
+                    names.append("row 2 shorter")
+            self.assertEqual(row["checks"], names, row["name"])
+            marked += len(names)
+        self.assertGreater(marked, 0)
+        words = ("search", "--style", "FACE-TO-FACE SET WITH SPACERS", "--min-bore", ".5", "--max-od", "4", "--min-height",
+                 ".1", "--max-height", "3", "--radial", "10")
+        rows = result(*words)[1]["rows"]
+        bearings = ", ".join(row["name"].split()[0] for row in rows if "unbalanced" in row["checks"])
+        self.assertNotEqual(bearings, "")
+        self.assertIn(f"The ball loads do not balance the applied loads. Bearings: {bearings}\n", run(*words).stdout)
+        usual = result("search", "--style", "RADIAL CONTACT", *self.ENVELOPE[:8], "--radial", "500")[1]["rows"]
+        self.assertEqual({tuple(row["checks"]) for row in usual}, {()})
+
+    def test_warns_of_a_set_out_of_balance(self):
+        status, life = result("life", "K02008FR0F", "--radial", "1.5")
+        self.assertEqual(status, 0)
+        self.assertIn({"title": "Load Life Calculation",
+                       "prompt": "The ball loads do not balance the applied loads."}, life["warnings"])
+        # No moment is applied, and that of the balls is far from none.
+        self.assertGreater(abs(life["solver"]["MomentSum"]), 100)
+
+    def test_warns_once_of_fields_that_are_no_numbers_and_leaves_out_wrong_names(self):
+        words = ("search", "--style", "4-POINT CONTACT", *self.ENVELOPE)
+        names = [row["name"] for row in result(*words)[1]["rows"]]
+        with own_tables() as folder:
+            path = table(folder, "13-X.csv")
+            lines = path.read_text("ascii").splitlines()
+            spoilt = next(i for i, line in enumerate(lines) if line.startswith("K19013"))
+            wrong = next(i for i, line in enumerate(lines) if line.startswith("K20013"))
+            lines[spoilt] = lines[spoilt].replace("K19013XP0,1", "K19013XP0,one").replace("K19013XP0,2", "K19013XP0,one")
+            lines[wrong] = lines[wrong].replace("K20013X", "K20013C")
+            path.write_text("\r\n".join(lines) + "\r\n", "ascii")
+            status, found = result("--program-folder", str(folder), *words)
+            self.assertEqual(status, 0)
+            self.assertEqual([row["name"] for row in found["rows"]], [n for n in names if n != "K20013XP0"])
+            told = (f'Table 13-X.CSV, row {spoilt + 1}, column 2: "one" is not a number and is read as 0.\n'
+                    f'Table 13-X.CSV, row {wrong + 1}, column 1: "K20013CP0" names no bearing of this table and is '
+                    "left out.")
+            self.assertEqual(found["warnings"], [{"title": "Catalogue Tables", "prompt": told}])
+            done = run("--program-folder", str(folder), *words)
+            self.assertEqual(done.stderr, f"Catalogue Tables: {told}\n")
 
     def test_says_that_nothing_fits(self):
         status, told = result("search", "--style", "4-POINT CONTACT", "--min-bore", "1", "--max-od", "1.1",

@@ -1,5 +1,7 @@
 #include <algorithm>
+#include <functional>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -175,6 +177,72 @@ TEST(DataSheet, EndsItsRecordsAndCarriesTheFooter) {
     EXPECT_NE(
         sheet.files.rtf.find("NORLAPLAN-MM version 1.00   Mill & Co \\{1\\}        Saved  3/14/26 9:26 AM"),
         std::string::npos);
+}
+
+TEST(DataSheet, BeginsAsItsBearingAndNoOtherDoes) {
+    Sheet sheet;
+    sheet.draw();
+    const auto begins = [&] {
+        const SheetFiles beginning = dataSheetBeginning(sheet.state);
+        const bool rtf = sheet.files.rtf.starts_with(beginning.rtf);
+        EXPECT_EQ(sheet.files.records.starts_with(beginning.records), rtf);
+        return rtf;
+    };
+    EXPECT_TRUE(begins());
+    const ProgramState own = sheet.state;
+    const std::vector<std::function<void(ProgramState&)>> others = {
+        [](ProgramState& state) { state.bearing.partNumber = "K19013XP0A"; },
+        [](ProgramState& state) { state.bearing.partNumber = "K20013XP0"; },
+        [](ProgramState& state) { state.bearing.separatorCode = "ZS"; },
+        [](ProgramState& state) { state.bearing.mass = 1.5; },
+        [](ProgramState& state) {
+            state.unitSystem = "METRIC";
+            ApplyUnitSystem("METRIC", state.units);
+        }};
+    for (const auto& change : others) {
+        sheet.state = own;
+        change(sheet.state);
+        EXPECT_FALSE(begins());
+        sheet.draw();
+        EXPECT_TRUE(begins());
+        sheet.state = own;
+        EXPECT_FALSE(begins());
+        sheet.draw();
+    }
+}
+
+/// The longest text of the detail that begins with these words.
+std::string detailOf(const RecordingCanvas& canvas, const std::string& words) {
+    for (const auto& text : canvas.texts) {
+        if (text.text.starts_with(words)) return text.text;
+    }
+    return "";
+}
+
+TEST(DataSheet, CutsATextOfATableThatWouldRunOutOfItsFrame) {
+    Sheet sheet;
+    for (const std::string& separator :
+         {std::string("= Ribbon "), std::string("= W"), std::string("= i"), std::string("= \u00e4\u4e2d")}) {
+        std::string text = "P";
+        while (text.size() < 4000)
+            text += separator;
+        sheet.state.bearing.separatorText = text;
+        const RecordingCanvas canvas = sheet.draw();
+        const std::string shown = detailOf(canvas, " " + separator);
+        EXPECT_LT(shown.size(), 130U) << separator;
+        EXPECT_TRUE(shown.ends_with("\u2026")) << separator;
+    }
+    sheet.state.bearing.separatorText = "P= Formed Wire, Full Complement Type";
+    EXPECT_EQ(detailOf(sheet.draw(), " = Formed"),
+              " = Formed Wire, Full Complement Type, limited availability!")
+        << "the longest of the sample catalogue stands whole";
+}
+
+TEST(DataSheet, DropsTheFirstCharacterOfASeparatorTextWhateverItsBytes) {
+    Sheet sheet;
+    sheet.state.bearing.limitedFlag = "N";
+    sheet.state.bearing.separatorText = "\u00c4= K\u00e4fig";
+    EXPECT_EQ(detailOf(sheet.draw(), " = K"), " = K\u00e4fig");
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -230,6 +231,65 @@ TEST(SearchPrint, TakesTwentySixRowsOnTheFirstPageAndFortyOnEachFurtherOne) {
 TEST(SearchPrint, StandsOnItsPaper) {
     for (const std::size_t rows : {std::size_t{0}, std::size_t{1}, std::size_t{60}})
         EXPECT_EQ(testing::offPaper(printed(resultsOf(rows)), papers::kLetter), "") << rows;
+}
+
+/// Rows K0 to K79 of face-to-face sets with spacers, of which every one so many is out of balance.
+ProgramState setsWithChecks(std::size_t rows, std::size_t every) {
+    ProgramState state = resultsOf(rows, "FACE-TO-FACE SET WITH SPACERS", "A");
+    for (std::size_t i = 0; i < rows; ++i) {
+        state.search.rows[i].name = "K" + std::to_string(i) + "FR0A W/ 0.1764 spacers";
+        state.search.rows[i].checks.unbalanced = i % every == 0;
+    }
+    return state;
+}
+
+TEST(CheckLines, NameTheBearingsOfEachKind) {
+    ProgramState state = setsWithChecks(5, 2);
+    state.search.rows[2].checks.shorterRowLife = 28572300.0;
+    state.search.rows[3].checks.shorterRowLife = 5.0;
+    EXPECT_EQ(checkLines(state.search.rows, nameWithoutSpacers),
+              (std::vector<std::string>{
+                  "The ball loads do not balance the applied loads. Bearings: K0FR0A, K2FR0A, K4FR0A",
+                  "Row 2 has the shorter life. Bearings: K2FR0A, K3FR0A"}));
+    EXPECT_TRUE(checkLines(resultsOf(3).search.rows, nameWithoutSpacers).empty());
+}
+
+TEST(SearchRtf, NamesUnderTheListTheRowsWhoseLifeIsNotToBeTrusted) {
+    const std::string rtf = rtfOf(setsWithChecks(3, 2));
+    const std::size_t line = rtf.find("The ball loads do not balance the applied loads. Bearings: K0, K2}");
+    ASSERT_NE(line, std::string::npos) << "by the names of the list's column";
+    EXPECT_GT(line, rtf.find("{\\cf1 K2 "));
+    EXPECT_LT(line, rtf.find("{\\footer"));
+    EXPECT_EQ(countOf(rtf, "{"), countOf(rtf, "}"));
+    EXPECT_EQ(countOf(rtfOf(resultsOf(3)), "Bearings:"), 0U);
+}
+
+TEST(SearchPrint, NamesUnderTheListTheRowsWhoseLifeIsNotToBeTrusted) {
+    for (const std::size_t rows : {2U, 26U, 27U, 66U, 300U}) {
+        const RecordingCanvas canvas = printed(setsWithChecks(rows, 1));
+        std::string told;
+        bool begun = false;
+        for (const auto& text : canvas.texts) {
+            if (text.text.starts_with("The ball loads do not balance")) begun = true;
+            const bool ofThePage = text.text.find("Page ") != std::string::npos ||
+                                   text.text.starts_with("NORLAPLAN") || text.text == "VARDEN";
+            if (ofThePage || !begun) continue;
+            told += (told.empty() ? "" : " ") + text.text;
+            EXPECT_GT(text.box.bottom, 0.8) << "above the footer";
+            EXPECT_LE(text.box.left, 1.0);
+        }
+        std::string expected = "The ball loads do not balance the applied loads. Bearings:";
+        for (std::size_t i = 0; i < rows; ++i)
+            expected += " K" + std::to_string(i) + "FR0A" + (i + 1 < rows ? "," : "");
+        EXPECT_EQ(told, expected) << rows;
+        EXPECT_TRUE(footerHolds(
+            canvas, "Page " + std::to_string(canvas.pages) + " of " + std::to_string(canvas.pages)))
+            << "the footers count the pages that the names take";
+        for (int page = 1; page < canvas.pages; ++page) {
+            EXPECT_TRUE(
+                footerHolds(canvas, "Page " + std::to_string(page) + " of " + std::to_string(canvas.pages)));
+        }
+    }
 }
 
 }  // namespace

@@ -125,12 +125,12 @@ TEST(Search, GivesTheLifeOfASolveOfItsOwn) {
 
 TEST(Search, KeepsOutWhatIsOutsideOfTheEnvelope) {
     Catalogue catalogue;
-    catalogue.section(rowOf("SMALL", 100) + rowOf("FITS", 150) + rowOf("LARGE", 200));
+    catalogue.section(rowOf("K10013XP0", 100) + rowOf("K15013XP0", 150) + rowOf("K20013XP0", 200));
     catalogue.state.criteria.minBore = 5.0;
     catalogue.state.criteria.maxOd = 8.0;
     catalogue.run();
     ASSERT_EQ(catalogue.state.search.rows.size(), 1U);
-    EXPECT_EQ(catalogue.state.search.rows[0].name, "FITS");
+    EXPECT_EQ(catalogue.state.search.rows[0].name, "K15013XP0");
 }
 
 TEST(Search, TakesTheSetTwiceAsHighAndNamesIt) {
@@ -227,7 +227,7 @@ TEST(Search, FaultsForASpeedTableWithoutItsKey) {
 
 TEST(Search, StoppedKeepsNoRows) {
     Catalogue catalogue;
-    catalogue.section(rowOf("ONE", 100) + rowOf("TWO", 150) + rowOf("THREE", 200));
+    catalogue.section(rowOf("K10013XP0", 100) + rowOf("K15013XP0", 150) + rowOf("K20013XP0", 200));
     EXPECT_EQ(catalogue.run(3), SearchEnd::Stopped);
     EXPECT_TRUE(catalogue.state.search.rows.empty());
     EXPECT_TRUE(catalogue.messages.shown.empty());
@@ -290,7 +290,7 @@ TEST(Search, IsTheSameWhateverBearingIsInHand) {
 
 TEST(Search, KeepsStaleHoursWithoutASpeed) {
     Catalogue catalogue;
-    catalogue.section(rowOf("A", 100));
+    catalogue.section(rowOf("K10013XP0", 100));
     catalogue.state.loads.speed = 100.0;
     catalogue.run();
     const std::string hours = catalogue.state.search.rows.at(0).l10Hours;
@@ -331,7 +331,7 @@ TEST(Search, ReadsACatalogueWithOddFields) {
 }
 
 TEST(Search, TakesABoreThatThePrecisionTableLacksWithThePreviousRowsClearance) {
-    const std::string rows = rowOf("A", 100) + rowOf("B", 150) + rowOf("C", 200);
+    const std::string rows = rowOf("K10013XP0", 100) + rowOf("K15013XP0", 150) + rowOf("K20013XP0", 200);
     Catalogue lacking;
     lacking.section(rows);
     Catalogue whole;
@@ -410,7 +410,7 @@ TEST(Search, CanBeStoppedWithinARowOfTensOfThousandsOfBalls) {
 TEST(Search, TellsWhatToEnterInsteadOfALoadOfTheWrongSign) {
     for (const auto& [letter, word] : {std::pair{"C", "radial"}, std::pair{"X", "axial"}}) {
         Catalogue catalogue;
-        catalogue.section(rowOf("K10013XP0", 100));
+        catalogue.section(rowOf(std::string("K10013") + letter + "P0", 100));
         catalogue.style(letter == std::string("C") ? "RADIAL CONTACT" : "4-POINT CONTACT", letter);
         catalogue.state.loads.radialLoadDisplay = letter == std::string("C") ? -5.0 : 5.0;
         catalogue.state.loads.axialLoadDisplay = -5.0;

@@ -244,5 +244,62 @@ TEST(LoadExtras, MissingFileMeansNoPressesAndNoMessage) {
     EXPECT_EQ(outcome.notice, "");
 }
 
+/// Two programs that were started in one folder.
+struct TwoPrograms {
+    TwoPrograms() {
+        place.write("SETTINGS.INI", "Ann\r\n \r\n \r\n \r\n \r\n \r\n \r\n \r\nUS\r\n");
+        startUp(first, folder);
+        startUp(second, folder);
+    }
+    TemporaryFolder place;
+    ProgramFolder folder{place.path()};
+    ProgramState first, second;
+};
+
+TEST(TwoProgramsInOneFolder, KeepEachOthersUserAndUnits) {
+    TwoPrograms programs;
+    programs.first.user.userName = "Bea";
+    SaveSettings(programs.first, programs.folder, SettingsPart::User);
+    programs.second.unitSystem = "METRIC";
+    SaveSettings(programs.second, programs.folder, SettingsPart::Units);
+    const std::string rest = "\r\n \r\n \r\n \r\n \r\n \r\n \r\n \r\nMETRIC\r\n";
+    EXPECT_EQ(programs.place.read("SETTINGS.INI"), "Bea" + rest);
+    EXPECT_EQ(programs.second.user.userName, "Ann") << "what a program shows is its own";
+    programs.first.user.userName = "Cid";
+    SaveSettings(programs.first, programs.folder, SettingsPart::User);
+    EXPECT_EQ(programs.place.read("SETTINGS.INI"), "Cid" + rest);
+    EXPECT_EQ(programs.first.unitSystem, "US");
+}
+
+TEST(SaveSettings, OfOnePartWritesAllOfThemWhereTheFileIsMissingOrDamaged) {
+    for (const SettingsPart part : {SettingsPart::User, SettingsPart::Units}) {
+        for (const char* const before : {"", "Ann\r\nEngineer\r\n", "a\nb\nc\nd\ne\nf\ng\nh\nSI\n"}) {
+            Start start;
+            if (*before != '\0') start.place.write("SETTINGS.INI", before);
+            start.state.user = {"Bea", "x", "x", "x", "x", "x", "x", "x"};
+            start.state.unitSystem = "METRIC";
+            SaveSettings(start.state, ProgramFolder(start.place.path()), part);
+            const std::string content = start.place.read("SETTINGS.INI");
+            EXPECT_TRUE(content.ends_with("\r\nMETRIC\r\n")) << content;
+            const bool usersOnFile = part == SettingsPart::Units && std::string(before).ends_with("SI\n");
+            EXPECT_TRUE(content.starts_with(usersOnFile ? "a\r\nb\r\n" : "Bea\r\nx\r\n")) << content;
+        }
+    }
+}
+
+TEST(StartUp, ReadsSettingsAndOptionsOfOtherEncodingsAndWithAByteOrderMark) {
+    for (const char* const name : {"M\xFCller", "M\xC3\xBCller", "\xEF\xBB\xBFM\xC3\xBCller"}) {
+        Start start;
+        start.place.write("SETTINGS.INI",
+                          std::string(name) + "\r\nb\r\nc\r\nd\r\ne\r\nf\r\ng\r\nh\r\nMETRIC\r\n");
+        start.place.write("Extras.txt", "\xEF\xBB\xBFSKIP INTRO\r\nFOOTER Caf\xE9\r\n");
+        start.run();
+        EXPECT_EQ(start.state.user.userName, "M\xC3\xBCller");
+        EXPECT_EQ(start.state.unitSystem, "METRIC");
+        EXPECT_TRUE(start.state.options.skipIntroOption);
+        EXPECT_EQ(start.state.options.footerText, " Caf\xC3\xA9");
+    }
+}
+
 }  // namespace
 }  // namespace norlaplan
