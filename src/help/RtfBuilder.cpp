@@ -1,28 +1,36 @@
 #include "help/RtfBuilder.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace norlaplan {
 namespace {
 
-// Some five hundred pages: what is read stays small and shows at once, however large the file is.
+// Some three hundred pages: what is read stays small and shows at once, however large the file is. Lines,
+// tabs and cells take the viewer longest.
 constexpr std::size_t kMostParagraphs = 10000;
 constexpr std::size_t kMostRuns = 20000;
 constexpr std::size_t kMostRows = 3000;
-constexpr std::size_t kMostTextBytes = 2U << 20U;
+constexpr std::size_t kMostTextBytes = 1U << 20U;
 constexpr std::size_t kMostPictureBytes = 32U << 20U;
-constexpr std::size_t kMostCells = 64;
+constexpr std::size_t kMostTabs = 50000;
+constexpr std::size_t kMostCellsOfARow = 64;
+constexpr std::size_t kMostCells = 3000;
 
 }  // namespace
 
 bool RtfBuilder::isFull() const {
     return paragraphCount_ >= kMostParagraphs || runCount_ >= kMostRuns || rowCount_ >= kMostRows ||
-           textBytes_ >= kMostTextBytes || pictureBytes_ >= kMostPictureBytes;
+           textBytes_ >= kMostTextBytes || pictureBytes_ >= kMostPictureBytes || tabCount_ >= kMostTabs ||
+           cellCount_ >= kMostCells;
 }
 
 void RtfBuilder::addText(const std::string& text, const CharacterLook& look) {
     if (text.empty() || look.hidden) return;
     textBytes_ += text.size();
+    tabCount_ += static_cast<std::size_t>(std::count(text.begin(), text.end(), '\t'));
+    // A line of its own is as long to lay out as a paragraph.
+    paragraphCount_ += static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
     if (!runs_.empty()) {
         if (auto* const last = std::get_if<TextRun>(&runs_.back()); last != nullptr && last->look == look) {
             last->text += text;
@@ -56,7 +64,8 @@ void RtfBuilder::endParagraph(const RtfLook& look) {
 
 void RtfBuilder::endCell(const RtfLook& look) {
     cell_.push_back(takeParagraph(look));
-    if (row_.cells.size() < kMostCells) row_.cells.push_back({{}, std::move(cell_)});
+    ++cellCount_;
+    if (row_.cells.size() < kMostCellsOfARow) row_.cells.push_back({{}, std::move(cell_)});
     cell_.clear();
 }
 

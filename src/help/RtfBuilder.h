@@ -33,7 +33,8 @@ class RtfBuilder {
     std::vector<Paragraph> cell_;
     TableRow row_;
     bool breakBefore_ = false;
-    std::size_t paragraphCount_ = 0, runCount_ = 0, rowCount_ = 0, textBytes_ = 0, pictureBytes_ = 0;
+    std::size_t paragraphCount_ = 0, runCount_ = 0, rowCount_ = 0, textBytes_ = 0, pictureBytes_ = 0,
+                tabCount_ = 0, cellCount_ = 0;
 };
 
 }  // namespace norlaplan

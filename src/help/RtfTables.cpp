@@ -5,7 +5,7 @@
 namespace norlaplan {
 namespace {
 
-constexpr std::size_t kMostFonts = 1024;
+constexpr std::size_t kMostFonts = 256;
 constexpr std::size_t kMostColours = 1024;
 constexpr std::size_t kLongestName = 100;
 constexpr int kSymbolCharacters = 2;

@@ -16,6 +16,7 @@
 #include "screens/DocumentOutput.h"
 #include "screens/FlowRow.h"
 #include "screens/FormBuilder.h"
+#include "screens/Picture.h"
 #include "screens/Screens.h"
 #include "screens/SideTabs.h"
 #include "screens/Theme.h"
@@ -49,7 +50,7 @@ LightLook lookOf(Light light) {
 }
 
 QIcon iconOf(const Services& services, Light light) {
-    return QIcon(QString::fromStdString(services.folder.find(lookOf(light).file).string()));
+    return iconOrNone(services.folder.find(lookOf(light).file));
 }
 
 /// The field with the focus has paper of its own, and black writing whatever the desktop's theme.

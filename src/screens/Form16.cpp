@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "screens/FormBuilder.h"
+#include "screens/Picture.h"
 #include "screens/Screens.h"
 #include "screens/Theme.h"
 #include "state/StyleTable.h"
@@ -20,10 +21,10 @@ Form16::Form16(Screens& screens) : Form(screens, forms::kStyle, "Bearing Style S
     auto* const group = new QButtonGroup(this);
     for (std::size_t row = 0; row < pictures_.size(); ++row) {
         const StyleRow& style = kStyles[row];
-        pictures_[row] = build::pictureButton(
-            qPrintable(QStringLiteral("Image%1").arg(row + 1)), QString::fromUtf8(style.label),
-            QString::fromUtf8(style.description),
-            QPixmap(QString::fromStdString(services().folder.find(stylePicture(style, 'T')).string())));
+        pictures_[row] =
+            build::pictureButton(qPrintable(QStringLiteral("Image%1").arg(row + 1)),
+                                 QString::fromUtf8(style.label), QString::fromUtf8(style.description),
+                                 pictureOrNone(services().folder.find(stylePicture(style, 'T'))));
         pictures_[row]->installEventFilter(this);
         group->addButton(pictures_[row]);
     }

@@ -10,14 +10,10 @@
 namespace norlaplan {
 namespace {
 
-/// A picture's file. Its ending tells the format, so that not every module for pictures has to be loaded;
-/// what a file with another one's ending holds they find out together.
-QPixmap read(const QString& file) {
-    if (!QFileInfo::exists(file)) return {};
-    QImageReader reader(file, QFileInfo(file).suffix().toLatin1());
-    reader.setAutoDetectImageFormat(false);
-    const QPixmap picture = QPixmap::fromImage(reader.read());
-    return picture.isNull() ? QPixmap(file) : picture;
+/// Of what stands there only a plain file is opened: a pipe or a device would be waited for.
+bool isFile(const std::filesystem::path& file) {
+    std::error_code unreadable;
+    return std::filesystem::is_regular_file(file, unreadable);
 }
 
 /// "start-2x.ppm" beside "start.ppm".
@@ -27,22 +23,39 @@ std::filesystem::path finerOf(const std::filesystem::path& file) {
 
 /// What is made from a picture's file, if it can be.
 template <typename Made>
-Made madeFrom(const std::filesystem::path& file, bool (*isThere)(const Made&)) {
+Made madeFrom(const std::filesystem::path& file, Made (*read)(const std::filesystem::path&),
+              bool (*isThere)(const Made&)) {
     std::error_code unreadable;
     if (!std::filesystem::exists(file, unreadable)) throw fileFault(fault::kFileNotFound, file);
-    Made made(QString::fromStdString(file.string()));
+    Made made = read(file);
     if (!isThere(made)) throw fileFault(fault::kInvalidPicture, file);
     return made;
 }
 
 }  // namespace
 
+QPixmap pictureOrNone(const std::filesystem::path& file) {
+    if (!isFile(file)) return {};
+    const QString name = QString::fromStdString(file.string());
+    // The ending tells the format, so that not every module for pictures has to be loaded; what a file with
+    // another one's ending holds they find out together.
+    QImageReader reader(name, QFileInfo(name).suffix().toLatin1());
+    reader.setAutoDetectImageFormat(false);
+    const QPixmap picture = QPixmap::fromImage(reader.read());
+    return picture.isNull() ? QPixmap(name) : picture;
+}
+
+QIcon iconOrNone(const std::filesystem::path& file) {
+    return isFile(file) ? QIcon(QString::fromStdString(file.string())) : QIcon();
+}
+
 QPixmap readPicture(const std::filesystem::path& file) {
-    return madeFrom<QPixmap>(file, [](const QPixmap& picture) { return !picture.isNull(); });
+    return madeFrom<QPixmap>(file, pictureOrNone, [](const QPixmap& picture) { return !picture.isNull(); });
 }
 
 QIcon readIcon(const std::filesystem::path& file) {
-    return madeFrom<QIcon>(file, [](const QIcon& icon) { return !icon.availableSizes().isEmpty(); });
+    return madeFrom<QIcon>(file, iconOrNone,
+                           [](const QIcon& icon) { return !icon.availableSizes().isEmpty(); });
 }
 
 Picture::Picture(const char* name, const QString& spoken, QSize preferred) : preferred_(preferred) {
@@ -56,7 +69,7 @@ void Picture::showFile(const ProgramFolder& folder, const std::string& file) {
     if (file == file_) return;
     file_ = file;
     const std::filesystem::path found = folder.find(file);
-    picture_ = read(QString::fromStdString(found.string()));
+    picture_ = pictureOrNone(found);
     finer_ = finerOf(found);
     update();
 }
@@ -76,7 +89,7 @@ void Picture::showNothing() {
 
 void Picture::takeFiner(const QSize& wanted) {
     if (finer_.empty() || wanted == picture_.size()) return;
-    const QPixmap finer = read(QString::fromStdString(finer_.string()));
+    const QPixmap finer = pictureOrNone(finer_);
     if (!finer.isNull()) picture_ = finer;
     finer_.clear();
 }

@@ -10,6 +10,11 @@
 
 namespace norlaplan {
 
+/// The picture of a file, and an icon in all the sizes that the file has; nothing where there is none. What
+/// stands in the file's place is never waited for.
+QPixmap pictureOrNone(const std::filesystem::path& file);
+QIcon iconOrNone(const std::filesystem::path& file);
+
 /// The picture of a file. Errors: 53 when it is missing, 481 when it is no picture; they name the file.
 QPixmap readPicture(const std::filesystem::path& file);
 /// The same in all the sizes that the file has.

@@ -17,7 +17,11 @@ namespace norlaplan {
 namespace {
 
 constexpr double kTwipsPerPixel = 15.0;
+/// Of one picture, and of all that a document shows.
 constexpr int kMostPixels = 16 * 1000 * 1000;
+constexpr int kMostPixelsInAll = 20 * 1000 * 1000;
+/// Of a word that has to fit a line; the layout takes the square of its length.
+constexpr int kLongestWord = 200;
 /// The viewer has no pages: a new one shows as a wide gap.
 constexpr double kPageGap = 48.0;
 constexpr int kDefaultCell = 1440;
@@ -89,45 +93,79 @@ QTextBlockFormat formatOf(const ParagraphLook& look) {
     return format;
 }
 
-/// The picture, unless it is damaged or so large that it can only be meant to fill the memory.
-QImage imageOf(const PictureRun& picture) {
-    QByteArray bytes =
-        QByteArray::fromRawData(picture.bytes.data(), static_cast<qsizetype>(picture.bytes.size()));
-    QBuffer buffer(&bytes);
-    QImageReader reader(&buffer, picture.format.c_str());
-    reader.setAutoDetectImageFormat(false);
-    const QSize size = reader.size();
-    if (!size.isValid() || size.isEmpty() || size.width() > kMostPixels / size.height()) return {};
-    return reader.read();
+/// The text with a place of no width to break at in every word that is too long for any line. `letters` are
+/// those of the word that the text goes on with, and then those that it ends with.
+QString breakable(const QString& text, int& letters) {
+    QString broken;
+    broken.reserve(text.size() + text.size() / kLongestWord);
+    for (const QChar letter : text) {
+        if (letters >= kLongestWord && !letter.isLowSurrogate()) {
+            broken += QChar(kNoWidth);
+            letters = 0;
+        }
+        letters = letter.isSpace() ? 0 : letters + 1;
+        broken += letter;
+    }
+    return broken;
 }
 
-void insertPicture(QTextCursor& cursor, const PictureRun& picture) {
-    const QImage image = imageOf(picture);
-    if (image.isNull()) return;
-    QTextImageFormat format;
-    const QString name = QString("picture-%1").arg(cursor.position());
-    cursor.document()->addResource(QTextDocument::ImageResource, QUrl(name), image);
-    format.setName(name);
-    if (picture.width > 0) format.setWidth(pixels(picture.width));
-    if (picture.height > 0) format.setHeight(pixels(picture.height));
-    cursor.insertImage(format);
-}
-
-void insertParagraph(QTextCursor& cursor, const Paragraph& paragraph) {
-    cursor.setBlockFormat(formatOf(paragraph.look));
-    // Without a sign of its own, an empty line beside a table would have no height.
-    if (paragraph.runs.empty()) cursor.insertText(QChar(kNoWidth), formatOf(paragraph.endLook));
-    for (const Run& run : paragraph.runs) {
-        if (const auto* const text = std::get_if<TextRun>(&run)) {
-            QString shown = QString::fromStdString(text->text);
-            // A line break inside a paragraph is no paragraph's end.
-            shown.replace('\n', QChar::LineSeparator);
-            cursor.insertText(shown, formatOf(text->look));
-        } else {
-            insertPicture(cursor, std::get<PictureRun>(run));
+/// Writes paragraphs, and remembers how many pixels the document's pictures have by then.
+class ParagraphWriter {
+  public:
+    void write(const Paragraph& paragraph, QTextCursor& cursor) {
+        cursor.setBlockFormat(formatOf(paragraph.look));
+        // Without a sign of its own, an empty line beside a table would have no height.
+        if (paragraph.runs.empty()) cursor.insertText(QChar(kNoWidth), formatOf(paragraph.endLook));
+        int letters = 0;
+        for (const Run& run : paragraph.runs) {
+            if (const auto* const text = std::get_if<TextRun>(&run)) {
+                QString shown = QString::fromStdString(text->text);
+                // A line break inside a paragraph is no paragraph's end.
+                shown.replace('\n', QChar::LineSeparator);
+                cursor.insertText(breakable(shown, letters), formatOf(text->look));
+            } else {
+                writePicture(std::get<PictureRun>(run), cursor);
+            }
         }
     }
-}
+
+  private:
+    /// A damaged picture is left out; one that can only be meant to fill the memory is told.
+    void writePicture(const PictureRun& picture, QTextCursor& cursor) {
+        QByteArray bytes =
+            QByteArray::fromRawData(picture.bytes.data(), static_cast<qsizetype>(picture.bytes.size()));
+        QBuffer buffer(&bytes);
+        QImageReader reader(&buffer, picture.format.c_str());
+        reader.setAutoDetectImageFormat(false);
+        const QSize size = reader.size();
+        if (!size.isValid() || size.isEmpty()) return;
+        if (!takePixels(size)) {
+            cursor.insertText("(This picture is too large to be shown.)", formatOf(CharacterLook{}));
+            return;
+        }
+        const QImage image = reader.read();
+        if (!image.isNull()) insert(image, picture, cursor);
+    }
+
+    /// False when the pictures would then have more pixels than a document may show.
+    bool takePixels(QSize size) {
+        if (size.width() > std::min(kMostPixels, kMostPixelsInAll - pixels_) / size.height()) return false;
+        pixels_ += size.width() * size.height();
+        return true;
+    }
+
+    static void insert(const QImage& image, const PictureRun& picture, QTextCursor& cursor) {
+        QTextImageFormat format;
+        const QString name = QString("picture-%1").arg(cursor.position());
+        cursor.document()->addResource(QTextDocument::ImageResource, QUrl(name), image);
+        format.setName(name);
+        if (picture.width > 0) format.setWidth(pixels(picture.width));
+        if (picture.height > 0) format.setHeight(pixels(picture.height));
+        cursor.insertImage(format);
+    }
+
+    int pixels_ = 0;
+};
 
 QList<QTextLength> columnWidths(const TableRow& row) {
     QList<QTextLength> widths;
@@ -164,11 +202,11 @@ QTextTableCellFormat formatOf(const CellLook& look) {
     return format;
 }
 
-void fillCell(QTextTableCell place, const TableCell& cell) {
+void fillCell(ParagraphWriter& writer, QTextTableCell place, const TableCell& cell) {
     QTextCursor inside = place.firstCursorPosition();
     for (std::size_t i = 0; i < cell.paragraphs.size(); ++i) {
         if (i > 0) inside.insertBlock();
-        insertParagraph(inside, cell.paragraphs[i]);
+        writer.write(cell.paragraphs[i], inside);
     }
     // The cell's look is kept where that of its first paragraph is, so it comes last.
     place.setFormat(formatOf(cell.look));
@@ -181,7 +219,8 @@ double roomAbove(const std::vector<Block>& blocks, std::size_t first) {
 }
 
 /// A table of the rows from `first` to before `end`, which have the same cells.
-void insertTable(QTextCursor& cursor, const std::vector<Block>& blocks, std::size_t first, std::size_t end) {
+void insertTable(ParagraphWriter& writer, QTextCursor& cursor, const std::vector<Block>& blocks,
+                 std::size_t first, std::size_t end) {
     const auto& head = std::get<TableRow>(blocks[first]);
     QTextTableFormat format;
     format.setCellPadding(4.0);
@@ -197,7 +236,8 @@ void insertTable(QTextCursor& cursor, const std::vector<Block>& blocks, std::siz
     for (std::size_t i = first; i < end; ++i) {
         const TableRow& row = std::get<TableRow>(blocks[i]);
         for (std::size_t cell = 0; cell < row.cells.size(); ++cell) {
-            fillCell(table->cellAt(static_cast<int>(i - first), static_cast<int>(cell)), row.cells[cell]);
+            fillCell(writer, table->cellAt(static_cast<int>(i - first), static_cast<int>(cell)),
+                     row.cells[cell]);
         }
     }
     cursor.movePosition(QTextCursor::End);
@@ -216,23 +256,24 @@ std::size_t tableEnd(const std::vector<Block>& blocks, std::size_t first) {
 
 void writeRichText(const RichDocument& document, QTextCursor& cursor) {
     const std::vector<Block>& blocks = document.blocks;
+    ParagraphWriter writer;
     bool onFreshLine = true;
     for (std::size_t i = 0; i < blocks.size();) {
         if (std::holds_alternative<TableRow>(blocks[i])) {
             const std::size_t end = tableEnd(blocks, i);
-            insertTable(cursor, blocks, i, end);
+            insertTable(writer, cursor, blocks, i, end);
             onFreshLine = true;
             i = end;
             continue;
         }
         if (!onFreshLine) cursor.insertBlock();
-        insertParagraph(cursor, std::get<Paragraph>(blocks[i]));
+        writer.write(std::get<Paragraph>(blocks[i]), cursor);
         onFreshLine = false;
         ++i;
     }
     if (!document.cutShort) return;
     cursor.insertBlock();
-    insertParagraph(cursor, {{}, {TextRun{"The rest of this document is too long to be shown.", {}}}, {}});
+    writer.write({{}, {TextRun{"The rest of this document is too long to be shown.", {}}}, {}}, cursor);
 }
 
 }  // namespace norlaplan

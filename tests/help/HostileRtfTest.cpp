@@ -67,6 +67,28 @@ TEST(HostileRtf, ALongDocumentIsCutShortAndSaysSo) {
     EXPECT_FALSE(readRtf("{\\rtf1 a\\par}")->cutShort);
 }
 
+TEST(HostileRtf, WhatTakesAViewerLongestIsCutShort) {
+    const struct {
+        const char* piece;
+        std::size_t most, cut;
+    } rows[] = {{"a\\line ", 9000, 11000},
+                {"a\\tab ", 49000, 51000},
+                {"\\trowd\\cellx100\\intbl a\\cell\\row ", 2900, 3100},
+                {"\\trowd\\cellx1\\cellx2\\intbl a\\cell b\\cell\\row ", 1450, 1550}};
+    for (const auto& row : rows) {
+        const auto times = [&](std::size_t count) {
+            std::string rtf = "{\\rtf1 ";
+            for (std::size_t i = 0; i < count; ++i)
+                rtf += row.piece;
+            return readRtf(rtf + "\\pard\\par}")->cutShort;
+        };
+        EXPECT_FALSE(times(row.most)) << row.piece;
+        EXPECT_TRUE(times(row.cut)) << row.piece;
+    }
+    EXPECT_FALSE(readRtf("{\\rtf1 " + repeated("words ", 1000000) + "}")->cutShort);
+    EXPECT_TRUE(readRtf("{\\rtf1 " + repeated("words ", 1100000) + "}")->cutShort);
+}
+
 TEST(HostileRtf, ManyFontsUnderManyNumbersStaySmall) {
     std::string fonts;
     for (int i = 0; i < 200000; ++i)
