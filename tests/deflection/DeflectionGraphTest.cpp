@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -6,6 +7,7 @@
 #include "deflection/DeflectionReport.h"
 #include "deflection/DeflectionTable.h"
 #include "numbers/RuntimeError.h"
+#include "support/OnPaper.h"
 #include "support/RecordingPorts.h"
 
 namespace norlaplan {
@@ -212,6 +214,140 @@ TEST(TheLabelsOfAGraph, StandApartHoweverFineTheUsersGridIs) {
             EXPECT_EQ(static_cast<double>(across.size()), steps + 1.0);
             EXPECT_EQ(static_cast<double>(up.size()), steps + 1.0);
         }
+    }
+}
+
+/// The graph of the sample's axial curve.
+struct AxialGraph {
+    DeflectionGraphData data = deflectionGraphData(sampleResult(), DeflectionLoad::Axial, initialUnits());
+    GraphSettings settings;
+    AxialGraph() { applyAxisRule(settings, data.dataMaxX, data.dataMaxY); }
+};
+
+void expectText(const GraphText& text, const std::string& words, const PageBox& box, double points,
+                Colour colour) {
+    EXPECT_EQ(text.text, words);
+    EXPECT_NEAR(text.box.left, box.left, 1e-9) << words;
+    EXPECT_NEAR(text.box.top, box.top, 1e-9) << words;
+    EXPECT_NEAR(text.box.right, box.right, 1e-9) << words;
+    EXPECT_NEAR(text.box.bottom, box.bottom, 1e-9) << words;
+    EXPECT_EQ(text.look.points, points) << words;
+    EXPECT_EQ(text.look.colour, colour) << words;
+    EXPECT_EQ(text.look.alignment, Alignment::Centre) << words;
+}
+
+void expectBox(const PageBox& box, const PageBox& expected) {
+    EXPECT_NEAR(box.left, expected.left, 1e-9);
+    EXPECT_NEAR(box.top, expected.top, 1e-9);
+    EXPECT_NEAR(box.right, expected.right, 1e-9);
+    EXPECT_NEAR(box.bottom, expected.bottom, 1e-9);
+}
+
+TEST(ASavedDeflectionGraph, HasItsTextsInTheStatedBoxes) {
+    const AxialGraph axial;
+    const Graph graph = savedDeflectionGraph(axial.data, axial.settings);
+    const Colour red = rgb(255, 0, 0), blue = rgb(0, 0, 255);
+    expectText(graph.number, "K19013BP0", {2.0, 9.75, 6.5, 9.0}, 24.0, red);
+    expectText(graph.title, axial.data.title, {1.0, 9.35, 7.5, 9.0}, 14.0, blue);
+    expectText(graph.subtitle, "FREE RACE ANALYSIS", {1.312, 9.0, 7.312, 8.65}, 14.0, blue);
+    expectText(graph.xTitle, "AXIAL LOAD IN POUNDS", {1.0, 4.425, 7.5, 4.125}, 12.0, blue);
+    expectText(graph.yTitle, "DEFLECTION IN INCHES", {0.1, 8.6, 0.5, 5.0}, 10.0, blue);
+    EXPECT_TRUE(graph.yTitle.look.vertical);
+    EXPECT_FALSE(graph.xTitle.look.vertical);
+    EXPECT_EQ(graph.origin.x, 0.9);
+    EXPECT_EQ(graph.origin.y, 4.625);
+    EXPECT_EQ(graph.width, 6.8);
+    EXPECT_EQ(graph.height, 4.0);
+    // 0.55 to 1.3 across for a line at 0.9, and 0.74 to 1.04 for that of zero.
+    expectBox(graph.x.label, {-0.35, 0.0, 0.4, -0.3});
+    expectBox(graph.x.zeroLabel, {-0.16, 0.0, 0.14, -0.3});
+    EXPECT_EQ(graph.x.labelLook.alignment, Alignment::Centre);
+    EXPECT_EQ(graph.y.labelLook.alignment, Alignment::Centre);
+    EXPECT_LE(graph.y.label.right, 0.05) << "left of its axis";
+    EXPECT_EQ(graph.x.labelLook.points, 8.0);
+}
+
+void expectLaidOut(const Graph& graph) {
+    const double plotTop = graph.origin.y + graph.height;
+    const double middle = graph.origin.x + graph.width / 2.0;
+    double above = plotTop;
+    for (const GraphText* const text : {&graph.subtitle, &graph.title, &graph.number}) {
+        EXPECT_GT(text->box.bottom, above) << text->text;
+        EXPECT_GT(text->box.top, text->box.bottom) << text->text;
+        EXPECT_LT(text->box.top, text->box.bottom + 0.4) << text->text;
+        EXPECT_NEAR((text->box.left + text->box.right) / 2.0, middle, 1e-9) << text->text;
+        EXPECT_EQ(text->look.alignment, Alignment::Centre) << text->text;
+        above = text->box.top;
+    }
+    EXPECT_LT(above, plotTop + 1.5);
+    EXPECT_GT(graph.number.look.points, graph.title.look.points);
+    EXPECT_GT(graph.title.look.points, graph.subtitle.look.points);
+    EXPECT_GT(graph.subtitle.look.points, graph.xTitle.look.points);
+    EXPECT_EQ(graph.number.look.colour, graphcolours::kDarkRed);
+    for (const GraphText* const text : {&graph.title, &graph.subtitle, &graph.xTitle})
+        EXPECT_EQ(text->look.colour, graphcolours::kDarkBlue) << text->text;
+    // Below the labels of its axis, in the middle.
+    EXPECT_LT(graph.xTitle.box.top, graph.origin.y + graph.x.label.bottom);
+    EXPECT_GT(graph.xTitle.box.top, graph.xTitle.box.bottom);
+    EXPECT_NEAR((graph.xTitle.box.left + graph.xTitle.box.right) / 2.0, middle, 1e-9);
+    EXPECT_TRUE(graph.yTitle.stacked);
+    for (const PageBox& label : {graph.x.label, graph.x.zeroLabel}) {
+        EXPECT_NEAR(label.left, -label.right, 1e-9) << "centred on its line";
+        EXPECT_LT(label.top, 0.0);
+        EXPECT_LT(label.bottom, label.top);
+    }
+    for (const PageBox& label : {graph.y.label, graph.y.zeroLabel}) {
+        EXPECT_LT(label.right, 0.0);
+        EXPECT_LT(label.left, label.right - 0.5);
+        EXPECT_NEAR(label.top, -label.bottom, 1e-9) << "beside its line";
+    }
+    EXPECT_EQ(graph.x.labelLook.alignment, Alignment::Centre);
+    EXPECT_EQ(graph.y.labelLook.alignment, Alignment::Right);
+}
+
+TEST(ADeflectionGraph, HasItsTextsAroundThePlotAndNotesAboveThem) {
+    const AxialGraph axial;
+    const Graph graph = deflectionGraph(axial.data, axial.settings);
+    EXPECT_EQ(graph.origin.x, 1.0);
+    EXPECT_EQ(graph.origin.y, 1.25);
+    EXPECT_EQ(graph.width, 7.0);
+    EXPECT_EQ(graph.height, 4.0);
+    expectLaidOut(graph);
+    ASSERT_EQ(graph.notes.size(), 8U);
+    EXPECT_EQ(graph.notes[0].text, "Notes:");
+    for (std::size_t i = 0; i < graph.notes.size(); ++i) {
+        const GraphText& note = graph.notes[i];
+        EXPECT_EQ(note.look.bold, i == 0) << note.text;
+        EXPECT_EQ(note.look.points, 10.0) << note.text;
+        EXPECT_EQ(note.look.colour, 0U) << note.text;
+        EXPECT_EQ(note.box.left, graph.origin.x) << note.text;
+        EXPECT_GT(note.box.top, graph.number.box.top) << note.text;
+        // A line of ten points is 0.16 inch high.
+        const double step = i > 0 ? graph.notes[i - 1].box.top - note.box.top : 0.165;
+        EXPECT_NEAR(step, 0.165, 0.006) << note.text;
+    }
+}
+
+TEST(APrintedDeflectionGraph, StandsOnALandscapePageBelowItsNotes) {
+    const AxialGraph axial;
+    expectLaidOut(printedDeflectionGraph(axial.data, axial.settings));
+    testing::RecordingCanvas canvas;
+    testing::FixedClock clock;
+    printDeflectionGraph(axial.data, axial.settings, clock, canvas);
+    EXPECT_EQ(testing::offPaper(canvas, papers::kLetterLandscape), "");
+    double before = 8.5 - 0.25;
+    bool isHead = true;
+    const double numberTop = printedDeflectionGraph(axial.data, axial.settings).number.box.top;
+    for (const char* const start : {"Notes:", "1.) The curve", "2.) The", "3.) "}) {
+        const auto at = std::find_if(canvas.texts.begin(), canvas.texts.end(),
+                                     [&](const auto& text) { return text.text.starts_with(start); });
+        ASSERT_NE(at, canvas.texts.end()) << start;
+        EXPECT_LT(at->box.top, before) << start;
+        EXPECT_GT(at->box.top, numberTop) << start;
+        EXPECT_EQ(at->look.bold, isHead) << start;
+        EXPECT_EQ(at->look.points, 11.0) << start;
+        before = at->box.bottom + 1e-6;
+        isHead = false;
     }
 }
 
