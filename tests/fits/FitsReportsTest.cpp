@@ -139,6 +139,12 @@ TEST_F(AFitsReport, OfTheThermalFitsTellsEntriesAndSizes) {
     EXPECT_TRUE(contains(rtf, "{\\par\\fs24\\cf1 Minimum Temperature = \\tab\\tab 68 "));
     EXPECT_TRUE(contains(rtf, "{\\par\\fs24\\cf1 Housing Thermal Coefficient = \\tab 7.00E-06 in/in/"));
     EXPECT_TRUE(contains(rtf, " + 0.0000 / 0.0000 inches}"));
+    for (const char* const start :
+         {"{\\par\\fs24\\cf1 Outer Dia. =\\tab ", "{\\par\\fs24\\cf1 Maximum Temperature = \\tab\\tab 68 ",
+          "{\\par\\fs24\\cf1 Shaft Thermal Coefficient = \\tab\\tab 7.00E-06 in/in/",
+          "\\pard{\\par\\fs24\\cf2\\b Suggested Shaft and housing sizes }", "{\\par\\fs24\\cf2 Shaft size = ",
+          "{\\par\\fs24\\cf2 Housing size = ", "{\\par\\fs24\\cf1 Notes: }"})
+        EXPECT_TRUE(contains(rtf, start)) << start;
     EXPECT_TRUE(contains(rtf, "NORLAPLAN-MM version 1.00        Saved  3/14/26 9:26 AM"));
     printThermalFits(state, run.clock, canvas);
     EXPECT_TRUE(canvas.hasText("Suggested shaft and housing sizes"));

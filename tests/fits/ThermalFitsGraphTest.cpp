@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 
 #include <gtest/gtest.h>
@@ -5,12 +6,15 @@
 #include "fits/SampleBearings.h"
 #include "fits/ThermalFits.h"
 #include "fits/ThermalFitsGraph.h"
+#include "fits/ThermalFitsReport.h"
 #include "support/FaultOf.h"
+#include "support/OnPaper.h"
 
 namespace norlaplan {
 namespace {
 
 using testing::faultOf;
+using testing::RecordingCanvas;
 using testing::SampleBearings;
 
 class TheFitDrawing : public ::testing::Test {
@@ -107,6 +111,81 @@ TEST_F(TheFitDrawing, TellsEveryLineByAColourOfItsOwn) {
     for (const FitLine& a : kFitLegend) {
         for (const FitLine& b : kFitLegend)
             EXPECT_TRUE(a.colour != b.colour || std::string(a.name) == b.name) << a.name << b.name;
+    }
+}
+
+/// A text of the drawing; a failure when there is none.
+const RecordingCanvas::Text& textOf(const RecordingCanvas& canvas, const std::string& words) {
+    for (const auto& text : canvas.texts) {
+        if (text.text == words) return text;
+    }
+    ADD_FAILURE() << words;
+    static const RecordingCanvas::Text kNone{};
+    return kNone;
+}
+
+TEST_F(TheFitDrawing, HasItsHeadAboveItAndTheDirectionOfTheTemperatureBelow) {
+    calculate("268", "-32");
+    RecordingCanvas canvas;
+    drawThermalFits(state, canvas);
+    EXPECT_EQ(testing::offPaper(canvas, papers::kLetter), "");
+    const ThermalFits& fits = state.thermalFits;
+    const struct {
+        std::string words;
+        double points;
+        bool bold;
+        Colour colour;
+    } heads[] = {{"K19013XP0E", 16.0, true, graphcolours::kDarkRed},
+                 {"Size of parts vs. Temperature", 14.0, false, graphcolours::kDarkBlue},
+                 {fits.shaftLine, 11.0, true, colours::kBlack},
+                 {fits.housingLine, 11.0, true, colours::kBlack},
+                 {fits.comment, 9.0, false, colours::kBlack}};
+    double above = 11.0;
+    for (const auto& head : heads) {
+        const auto& text = textOf(canvas, head.words);
+        EXPECT_EQ(text.look.points, head.points) << head.words;
+        EXPECT_EQ(text.look.bold, head.bold) << head.words;
+        EXPECT_EQ(text.look.colour, head.colour) << head.words;
+        EXPECT_EQ(text.look.alignment, Alignment::Centre) << head.words;
+        EXPECT_LE(text.box.top, above) << head.words;
+        EXPECT_GE(text.box.top - text.box.bottom, head.points / 72.0) << head.words;
+        above = text.box.bottom;
+    }
+    const auto& direction = textOf(canvas, "Temperature increasing to the right");
+    EXPECT_LT(direction.box.top, 1.2);
+    EXPECT_EQ(direction.look.alignment, Alignment::Centre);
+}
+
+TEST_F(TheFitDrawing, HasASampleBesideEachNameOfItsLegend) {
+    calculate("268", "-32");
+    RecordingCanvas canvas;
+    drawThermalFits(state, canvas);
+    ASSERT_FALSE(canvas.rectangles.empty());
+    const PageBox box = canvas.rectangles.back().box;
+    std::vector<PagePoint> places;
+    for (const FitLine& line : kFitLegend) {
+        const auto& name = textOf(canvas, line.name);
+        const auto sample = std::find_if(canvas.lines.begin(), canvas.lines.end(), [&](const auto& drawn) {
+            return drawn.pen.colour == line.colour && drawn.from.y == drawn.to.y && drawn.from.y < box.top &&
+                   drawn.from.y > box.bottom;
+        });
+        ASSERT_NE(sample, canvas.lines.end()) << line.name;
+        EXPECT_GT(sample->from.x, box.left) << line.name;
+        EXPECT_GT(sample->to.x, sample->from.x + 0.3) << line.name;
+        EXPECT_GT(name.box.left, sample->to.x) << line.name;
+        EXPECT_LT(name.box.left, sample->to.x + 0.2) << line.name;
+        EXPECT_LE(name.box.right, box.right + 0.2) << line.name;
+        EXPECT_NEAR((name.box.top + name.box.bottom) / 2.0, sample->from.y, 1e-9) << line.name;
+        places.push_back(sample->from);
+    }
+    // Four in a row, evenly; the second row below the first.
+    for (std::size_t i = 4; i < places.size(); ++i) {
+        EXPECT_NEAR(places[i].x, places[i - 4].x, 1e-9);
+        EXPECT_LT(places[i].y, places[i - 4].y);
+    }
+    for (std::size_t i = 1; i < 4; ++i) {
+        EXPECT_NEAR(places[i].x - places[i - 1].x, (box.right - box.left) / 4.0, 1e-9);
+        EXPECT_EQ(places[i].y, places[0].y);
     }
 }
 
