@@ -5,7 +5,6 @@ import json
 import os
 import re
 import resource
-import shutil
 import signal
 import subprocess
 import sys
