@@ -41,7 +41,7 @@ bool CsvReader::readLine(std::string& line) {
         read_ += 1.0;
         if (line.size() < kLongestLine) line += static_cast<char>(c);
     }
-    read_ += 1.0;
+    if (c == '\n') read_ += 1.0;
     if (!line.empty() && line.back() == '\r') line.pop_back();
     return true;
 }
