@@ -84,6 +84,23 @@ TEST(DrawnLine, NeverFadesAwayHoweverThin) {
     }
 }
 
+TEST(DrawnLine, IsSmooth) {
+    const QImage page = drawn([](Canvas& canvas) {
+        canvas.line({1.0, 10.0}, {4.0, 9.7}, {colours::kBlack, 38000.0, 0});
+        canvas.circle({6.0, 5.0}, 1.0, {colours::kBlack, 38000.0, 0});
+    });
+    for (const QRect& part : {QRect(100, 90, 300, 50), QRect(480, 480, 240, 240)}) {
+        int half = 0;
+        for (int y = part.top(); y <= part.bottom(); ++y) {
+            for (int x = part.left(); x <= part.right(); ++x) {
+                const int grey = qGray(page.pixel(x, y));
+                half += grey > 60 && grey < 200 ? 1 : 0;
+            }
+        }
+        EXPECT_GT(half, 100);
+    }
+}
+
 TEST(DrawnLine, EndsRoundButAtItsPointsWhenItIsAsWideAsAPatchOrDashed) {
     const auto left = [](const PagePen& pen) {
         const QImage page = drawn([&](Canvas& canvas) { canvas.line({1.0, 10.0}, {4.0, 10.0}, pen); }, 400);
