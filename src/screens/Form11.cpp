@@ -67,7 +67,7 @@ void Form11::saveAndLeave() {
     // A folder that can't be written must not hold the user here.
     screens().hide(*this);
     try {
-        SaveSettings(state(), services().folder);
+        SaveSettings(state(), services().folder, SettingsPart::User);
     } catch (const RuntimeError& error) {
         services().messages.show({windowTitle().toStdString(),
                                   "SETTINGS.INI could not be written: " + std::string(error.what()) +

@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScreen>
+#include <system_error>
 #include <utility>
 
 #include "documents/DataSheet.h"
@@ -14,7 +15,7 @@
 #include "screens/FormBuilder.h"
 #include "screens/Screens.h"
 #include "screens/Theme.h"
-#include "state/MoveFile.h"
+#include "state/WholeFile.h"
 
 namespace norlaplan {
 namespace {
@@ -72,37 +73,66 @@ void Form17::opened() {
 }
 
 std::optional<std::string> Form17::soundRecords() {
-    std::string records = services().folder.read("CONDENSED.DAT");
+    const std::optional<std::string> records = readFile("CONDENSED.DAT");
+    if (!records) return makeAgain().records;
     try {
-        readSheetRecords(records);
-        return records;
+        readSheetRecords(*records);
     } catch (const BadSheetRecord& bad) {
         services().messages.show(
             {"Drawing Display", std::string(bad.what()) + "\n\nThe program ends here.", Icon::Critical});
         screens().quit();
         return std::nullopt;
     }
+    return records->starts_with(dataSheetBeginning(state()).records) ? *records : makeAgain().records;
+}
+
+std::string Form17::sheetText() {
+    const std::optional<std::string> sheet = readFile(kSheetFile);
+    if (sheet && sheet->starts_with(dataSheetBeginning(state()).rtf)) return *sheet;
+    if (!movedTo_.empty() && moved_ == state().decoded.decodes()) {
+        throw RuntimeError(fault::kFileNotFound,
+                           runtimeErrorText(fault::kFileNotFound) + "\n\nThe data sheet was moved to " +
+                               movedTo_.string() +
+                               " when it was saved; enter the part number again to get a "
+                               "new one.");
+    }
+    return makeAgain().rtf;
+}
+
+std::optional<std::string> Form17::readFile(const char* name) const {
+    try {
+        return services().folder.read(name);
+    } catch (const RuntimeError& error) {
+        if (error.number() != fault::kFileNotFound) throw;
+        return std::nullopt;
+    }
+}
+
+SheetFiles Form17::makeAgain() {
+    SheetFiles sheet = makeDataSheet(state(), services().folder, services().clock);
+    services().sheets.store(sheet);
+    movedTo_.clear();
+    return sheet;
 }
 
 void Form17::redraw() {
     auto sheet = document();
     if (!sheet) return;
     shown_ = std::move(*sheet);
+    shownDecode_ = state().decoded.decodes();
     sheet_->showDrawing(shown_.pages);
 }
 
 std::optional<Document> Form17::document() {
     auto records = soundRecords();
     if (!records) return std::nullopt;
-    return dataSheetDocument(state().bearing.partNumber, std::move(*records),
-                             [this] { return services().folder.read(kSheetFile); });
+    return dataSheetDocument(state().bearing.partNumber, std::move(*records), [this] { return sheetText(); });
 }
 
 bool Form17::sheetInHand() {
-    const bool stands = state().decoded.holds(state().bearing, state().units.system);
     if (!bearingInHand(screens())) return false;
-    // Decoded anew, the bearing has a new sheet.
-    if (!stands) redraw();
+    // A bearing that was decoded since has a sheet of its own.
+    if (shownDecode_ != state().decoded.decodes()) redraw();
     return true;
 }
 
@@ -113,16 +143,16 @@ void Form17::save() {
 }
 
 void Form17::moveSheet(const std::filesystem::path& path) {
+    // What is saved is what was looked at: by now another program may have put its own sheet in the file.
+    const std::string text = sheetText();
     const std::filesystem::path sheet = services().folder.own(kSheetFile);
-    if (!std::filesystem::exists(sheet) && !movedTo_.empty()) {
-        throw RuntimeError(fault::kFileNotFound,
-                           runtimeErrorText(fault::kFileNotFound) + "\n\nThe data sheet was moved to " +
-                               movedTo_.string() +
-                               " when it was saved; enter the part number again to get a "
-                               "new one.");
+    std::error_code ignored;
+    if (!std::filesystem::equivalent(sheet, path, ignored)) {
+        writeWholeFile(path, text);
+        std::filesystem::remove(sheet, ignored);
     }
-    moveFile(sheet, path);
     movedTo_ = path;
+    moved_ = state().decoded.decodes();
 }
 
 void Form17::print() {

@@ -5,6 +5,7 @@
 
 #include "documents/Document.h"
 #include "screens/Form.h"
+#include "state/Ports.h"
 
 namespace norlaplan {
 
@@ -28,16 +29,27 @@ class Form17 : public Form {
     bool sheetInHand();
     void save();
     void print();
-    /// The sheet is moved, not copied: the program keeps one only until it has been saved. Error 53 with the
-    /// place that it was moved to before.
+    /// The sheet is moved, not copied: the program keeps one only until it has been saved.
     void moveSheet(const std::filesystem::path& path);
-    /// The sheet of the program folder. A record that nobody can draw ends the program: nothing then.
+
+    // The files of the program folder are another bearing's when a second program in that folder has decoded
+    // one, and gone when it has ended. They are used only when they are those of the bearing in hand, and
+    // made again otherwise.
+
+    /// The sheet as a document. A record that nobody can draw ends the program: nothing then.
     std::optional<Document> document();
     std::optional<std::string> soundRecords();
+    /// The sheet as RTF. Error 53 with the place that it was moved to by this program.
+    std::string sheetText();
+    /// Nothing when there is no such file.
+    std::optional<std::string> readFile(const char* name) const;
+    SheetFiles makeAgain();
 
     DrawingView* sheet_;
     Document shown_;
+    int shownDecode_ = 0;  ///< the decode that the sheet on the screen is of
     std::filesystem::path movedTo_;
+    int moved_ = 0;  ///< the decode whose sheet was moved there
 };
 
 }  // namespace norlaplan

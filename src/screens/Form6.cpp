@@ -45,7 +45,7 @@ void Form6::accept() {
     // All texts of the bearing and its data sheet are built anew in the new units.
     const std::string& number = state().bearing.partNumber;
     if (!number.empty()) decodeBearing(screens(), number);
-    SaveSettings(state(), services().folder);
+    SaveSettings(state(), services().folder, SettingsPart::Units);
     screens().hide(*this);
 }
 

@@ -2,6 +2,8 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
+#include "catalogue/Subroutines.h"
+#include "documents/DataSheet.h"
 #include "documents/SheetRecords.h"
 #include "screens/DrawingView.h"
 #include "screens/Program.h"
@@ -23,6 +25,10 @@ struct Sheet : Program {
         click(forms::kMainMenu, "Command9");
     }
     std::filesystem::path file(const char* name) const { return files.path() / name; }
+    /// Writes a drawing that is the bearing's by its beginning and goes on otherwise.
+    void giveDrawing(const std::string& records) const {
+        files.write("CONDENSED.DAT", dataSheetBeginning(state).records + records + "ALLDONE\r\n");
+    }
     QWidget& picture() { return control<QWidget>(forms::kDataSheet, "Picture2"); }
     DrawingView& view() { return dynamic_cast<DrawingView&>(*picture().parentWidget()); }
     QScrollBar& bar(const char* name) { return control<QScrollBar>(forms::kDataSheet, name); }
@@ -84,13 +90,14 @@ class DataSheetTest : public QObject {
         QCOMPARE(sheet.state.lastSavedFile, sheet.file("mine.rtf").string());
     }
 
-    void a_sheet_that_went_another_way_is_the_bare_file_error() {
+    void a_sheet_that_went_another_way_is_made_again_for_the_save() {
         Sheet sheet;
+        const std::string content = sheet.files.read("DATA.RTF");
         std::filesystem::remove(sheet.file("DATA.RTF"));
         sheet.saveDialog.choice = SaveChoice{sheet.file("mine.rtf"), 1};
         sheet.click(forms::kDataSheet, "Command3");
-        QCOMPARE(sheet.lastMessage().title, std::string("Run-time error '53'"));
-        QVERIFY(sheet.lastMessage().prompt.find("moved to") == std::string::npos);
+        QVERIFY(sheet.messages.shown.empty());
+        QCOMPARE(sheet.files.read("mine.rtf"), content);
     }
 
     void the_save_dialog_is_asked_as_stated() {
@@ -312,7 +319,7 @@ class DataSheetTest : public QObject {
     void what_is_seen_is_the_part_of_the_page_that_the_bars_say() {
         Sheet sheet;
         // A thick line in a corner of an otherwise empty page.
-        sheet.files.write("CONDENSED.DAT", "RTFLINE\r\n7 1 8 1 255 95250\r\nALLDONE\r\n");
+        sheet.giveDrawing("RTFLINE\r\n7 1 8 1 255 95250\r\n");
         sheet.click(forms::kDataSheet, "Command2");
         const auto red = [&] {
             const QImage seen = sheet.picture().grab().toImage();
@@ -331,7 +338,7 @@ class DataSheetTest : public QObject {
 
     void the_saved_bitmap_is_what_the_view_looks_at() {
         Sheet sheet;
-        sheet.files.write("CONDENSED.DAT", "RTFLINE\r\n0 5.5 8.5 5.5 255 95250\r\nALLDONE\r\n");
+        sheet.giveDrawing("RTFLINE\r\n0 5.5 8.5 5.5 255 95250\r\n");
         sheet.click(forms::kDataSheet, "Command2");
         const int width = sheet.picture().width();
         const double zoom = sheet.view().pixelsPerInch();
@@ -348,7 +355,7 @@ class DataSheetTest : public QObject {
 
     void redraw_shows_what_a_new_decode_has_written() {
         Sheet sheet;
-        sheet.files.write("CONDENSED.DAT", "ALLDONE\n");
+        sheet.giveDrawing("");
         sheet.click(forms::kDataSheet, "Command2");
         QVERIFY(sheet.messages.shown.empty());
         const QImage picture = sheet.picture().grab().toImage();
@@ -369,13 +376,121 @@ class DataSheetTest : public QObject {
         QVERIFY(sheet.printer.documents.empty());
     }
 
-    void a_sheet_that_is_gone_is_a_file_error_and_the_main_menu_stays() {
+    void a_sheet_that_is_gone_is_made_again() {
         Sheet sheet;
+        const std::string own = sheet.files.read("CONDENSED.DAT");
         sheet.click(forms::kDataSheet, "Command1");
         std::filesystem::remove(sheet.file("CONDENSED.DAT"));
         sheet.click(forms::kMainMenu, "Command9");
-        QCOMPARE(sheet.lastMessage().title, std::string("Run-time error '53'"));
+        QVERIFY(sheet.messages.shown.empty());
+        QCOMPARE(sheet.inFront(), std::string(forms::kDataSheet));
+        QCOMPARE(sheet.files.read("CONDENSED.DAT"), own);
+    }
+
+    void a_sheet_that_cannot_be_read_is_a_file_error_and_the_main_menu_stays() {
+        Sheet sheet;
+        sheet.click(forms::kDataSheet, "Command1");
+        std::filesystem::remove(sheet.file("CONDENSED.DAT"));
+        std::filesystem::create_directory(sheet.file("CONDENSED.DAT"));
+        sheet.click(forms::kMainMenu, "Command9");
+        QCOMPARE(sheet.lastMessage().title, std::string("Run-time error '75'"));
         QCOMPARE(sheet.inFront(), std::string(forms::kMainMenu));
+    }
+
+    void another_program_in_the_folder_does_not_get_its_sheet_onto_screen_paper_or_file_data() {
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<QString>("units");
+        QTest::newRow("another bearing") << "K20013XP0"
+                                         << "US";
+        QTest::newRow("the same with a fit") << "K19013XP0A"
+                                             << "US";
+        QTest::newRow("the same in other units") << "K19013XP0"
+                                                 << "METRIC";
+    }
+    void another_program_in_the_folder_does_not_get_its_sheet_onto_screen_paper_or_file() {
+        QFETCH(QString, number);
+        QFETCH(QString, units);
+        Sheet mine;
+        const std::string drawing = mine.files.read("CONDENSED.DAT");
+        const std::string document = mine.files.read("DATA.RTF");
+        Program other;
+        other.folder = ProgramFolder(mine.files.path());
+        other.useUnits(units.toStdString());
+        const auto otherDecodes = [&] {
+            other.enterNumber(number.toUtf8().constData());
+            QVERIFY(mine.files.read("CONDENSED.DAT") != drawing);
+            QVERIFY(mine.files.read("DATA.RTF") != document);
+        };
+        otherDecodes();
+        mine.click(forms::kDataSheet, "Command2");
+        QCOMPARE(mine.files.read("CONDENSED.DAT"), drawing);
+        otherDecodes();
+        mine.click(forms::kDataSheet, "Command4");
+        RecordingCanvas expected;
+        paintSheet(drawing, expected);
+        QCOMPARE(mine.printer.canvas.texts.size(), expected.texts.size());
+        for (std::size_t i = 0; i < expected.texts.size(); ++i)
+            QCOMPARE(mine.printer.canvas.texts[i].text, expected.texts[i].text);
+        otherDecodes();
+        mine.saveDialog.choice = SaveChoice{mine.file("mine.rtf"), 1};
+        mine.click(forms::kDataSheet, "Command3");
+        QCOMPARE(mine.saveDialog.requests.at(0).name, std::string("K19013XP0"));
+        QCOMPARE(mine.files.read("mine.rtf"), document);
+        // The other one has its own as well.
+        const std::string wanted = number.toStdString();
+        other.click(forms::kMainMenu, "Command9");
+        other.saveDialog.choice = SaveChoice{mine.file("other.rtf"), 1};
+        other.click(forms::kDataSheet, "Command3");
+        QVERIFY(other.messages.shown.empty() && mine.messages.shown.empty());
+        QVERIFY(mine.files.read("other.rtf").starts_with(dataSheetBeginning(other.state).rtf));
+        QCOMPARE(other.state.bearing.partNumber, wanted);
+    }
+
+    void a_program_that_ends_leaves_the_sheet_of_another_in_the_folder_to_it() {
+        Sheet mine;
+        const std::string document = mine.files.read("DATA.RTF");
+        Program other;
+        other.folder = ProgramFolder(mine.files.path());
+        other.useUnits("US");
+        other.enterNumber("K20013XP0");
+        other.messages.answers = {Answer::Yes};
+        other.click(forms::kMainMenu, "Command15");
+        QVERIFY(!std::filesystem::exists(mine.file("DATA.RTF")));
+        mine.saveDialog.choice = SaveChoice{mine.file("mine.rtf"), 1};
+        mine.click(forms::kDataSheet, "Command3");
+        QCOMPARE(mine.files.read("mine.rtf"), document);
+        QVERIFY(mine.messages.shown.empty());
+    }
+
+    void a_sheet_that_was_moved_stays_moved_whatever_another_program_puts_in_its_place() {
+        Sheet mine;
+        mine.saveDialog.choice = SaveChoice{mine.file("mine.rtf"), 1};
+        mine.click(forms::kDataSheet, "Command3");
+        Program other;
+        other.folder = ProgramFolder(mine.files.path());
+        other.useUnits("US");
+        other.enterNumber("K20013XP0");
+        mine.saveDialog.choice = SaveChoice{mine.file("again.rtf"), 1};
+        mine.click(forms::kDataSheet, "Command3");
+        QCOMPARE(mine.lastMessage().title, std::string("Run-time error '53'"));
+        QVERIFY(!std::filesystem::exists(mine.file("again.rtf")));
+    }
+
+    void a_picture_is_that_of_the_bearing_that_was_decoded_since() {
+        Sheet sheet;
+        std::string number = "K20013XP0";
+        DecodeServices decode{sheet.folder, sheet.messages, sheet.clock, &sheet.sheets};
+        DecodePartNumber(sheet.state, number, decode);
+        sheet.saveDialog.choice = SaveChoice{sheet.file("mine.bmp"), 2};
+        sheet.click(forms::kDataSheet, "Command3");
+        QCOMPARE(sheet.saveDialog.requests.at(0).name, std::string("K20013XP0"));
+        Sheet fresh;
+        fresh.enterNumber("K20013XP0");
+        fresh.click(forms::kMainMenu, "Command9");
+        fresh.saveDialog.choice = SaveChoice{fresh.file("mine.bmp"), 2};
+        fresh.click(forms::kDataSheet, "Command3");
+        QCOMPARE(QImage(QString::fromStdString(sheet.file("mine.bmp").string())),
+                 QImage(QString::fromStdString(fresh.file("mine.bmp").string())));
     }
 };
 

@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <map>
 
+#include "documents/DataSheet.h"
 #include "documents/RTFroutines.h"
 #include "screens/Program.h"
 
@@ -120,7 +121,7 @@ class WhatIsSeenTest : public QObject {
         text.box = {5.0, 10.5, 7.5, 8.0};
         drawing.RTFTEXTWBOX({text, colours::kRed});
         drawing.endRecords();
-        program.files.write("CONDENSED.DAT", drawing.records());
+        program.files.write("CONDENSED.DAT", dataSheetBeginning(program.state).records + drawing.records());
         program.click("Form17", "Command2");
 
         QWidget& view = surfaceOf(program.control<QWidget>("Form17", "Picture2"));
