@@ -96,6 +96,12 @@ QGroupBox* Form15::chosenFrame() {
     // The blanks that once broke the hint into lines are passed over; it stays the stated text.
     hint_->setTextFormat(Qt::RichText);
     hint_->setWordWrap(true);
+    warning_ = build::label("Warning1");
+    warning_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    build::makeBold(*warning_);
+    warning_->setWordWrap(true);
+    warning_->setMinimumHeight(warning_->fontMetrics().height());
+    theme::makeWarning(*warning_);
     auto* const sizes = new FlowRow;
     sizes->setFilled(true);
     for (QLabel* const label :
@@ -105,6 +111,7 @@ QGroupBox* Form15::chosenFrame() {
     auto* const column = theme::spaced(new QVBoxLayout(chosenGroup_), theme::kGap);
     column->addLayout(sizes);
     column->addWidget(hint_);
+    column->addWidget(warning_);
     // The list stays where it is when a choice appears.
     build::keepRoom(*chosenGroup_);
     return chosenGroup_;
@@ -221,7 +228,10 @@ void Form15::fillList(bool fresh, int entry) {
         const QSignalBlocker quietTable(table_->selectionModel());
         fillHitModel(*rows_, state(), fresh);
         // The widths that the user gave the columns are kept as long as the rows are the same.
-        if (fresh) table_->layOutColumns(state().loads.speed != 0.0);
+        const bool checks = hasChecks(state());
+        if (fresh) table_->layOutColumns(state().loads.speed != 0.0, checks);
+        // The table stays where it is when a marked row is chosen.
+        build::keepRoom(*warning_, checks);
         table_->showOrder(state().search);
         list_->setCurrentIndex(-1);
     }
@@ -241,6 +251,9 @@ void Form15::choose(int index) {
     chosenHeight_->setText(text(chosen->heightLine));
     hint_->setText(text(chosen->spacerHint));
     hint_->setVisible(!chosen->spacerHint.empty());
+    QString warning = checkSentencesOf(state().search.rows[static_cast<std::size_t>(index)]);
+    warning_->setText(warning.replace(QLatin1Char('\n'), QLatin1String("  ")));
+    warning_->setVisible(!warning.isEmpty());
     chosenGroup_->show();
 }
 

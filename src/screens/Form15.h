@@ -59,7 +59,7 @@ class Form15 : public Form {
     QComboBox* list_;
     HitTable* table_;
     QStandardItemModel* rows_;
-    QLabel *chosenBore_, *chosenOd_, *chosenHeight_, *hint_;
+    QLabel *chosenBore_, *chosenOd_, *chosenHeight_, *hint_, *warning_;
     QPushButton* shortCut_;
 };
 

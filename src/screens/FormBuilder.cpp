@@ -160,9 +160,9 @@ void makeBold(QLabel& label) {
     label.setFont(font);
 }
 
-void keepRoom(QWidget& widget) {
+void keepRoom(QWidget& widget, bool kept) {
     QSizePolicy policy = widget.sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
+    policy.setRetainSizeWhenHidden(kept);
     widget.setSizePolicy(policy);
 }
 

@@ -41,8 +41,8 @@ QLabel* valueLabel(const char* name);
 
 void makeBold(QLabel& label);
 
-/// What is hidden leaves its place free, so that nothing around it moves.
-void keepRoom(QWidget& widget);
+/// What is hidden leaves its place free, so that nothing around it moves, or no longer does.
+void keepRoom(QWidget& widget, bool kept = true);
 
 /// A frame with labels under each other.
 QGroupBox* labelFrame(const char* name, const QString& caption, std::initializer_list<QLabel*> labels,

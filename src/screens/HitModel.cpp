@@ -1,6 +1,7 @@
 #include "screens/HitModel.h"
 
 #include <QGuiApplication>
+#include <algorithm>
 
 #include "numbers/FormatNumber.h"
 #include "numbers/Text.h"
@@ -42,6 +43,13 @@ const Column kColumns[] = {
     {kStockColumn, kSortByAvailability, "Stock", &SearchHit::stock, asItIs, Qt::AlignLeft},
 };
 constexpr const char* kMarkHead = "Speed\ncheck";
+constexpr const char* kCheckHead = "Life\ncheck";
+
+/// As short as a column of the table can be: the sentence is in the tip and under the table.
+QString checkMark(const LifeChecks& checks) {
+    if (!checks.unbalanced) return checks.shorterRowLife ? QStringLiteral("Row 2") : QString();
+    return checks.shorterRowLife ? QStringLiteral("Unbalanced, row 2") : QStringLiteral("Unbalanced");
+}
 
 void setHead(QStandardItemModel& model, int column, const QString& text, Qt::Alignment alignment) {
     auto* const head = new QStandardItem(text);
@@ -57,6 +65,17 @@ QStandardItem* item(const std::string& shown, const std::string& plain, Qt::Alig
     return made;
 }
 
+QStandardItem* checkItem(const SearchHit& hit) {
+    const QString sentences = checkSentencesOf(hit);
+    std::string names;
+    for (const std::string& name : checkNames(hit.checks))
+        names += (names.empty() ? "" : "; ") + name;
+    QStandardItem* const made = item(checkMark(hit.checks).toStdString(), names, Qt::AlignLeft);
+    made->setToolTip(sentences);
+    made->setAccessibleText(sentences);
+    return made;
+}
+
 QList<QStandardItem*> rowOf(const ProgramState& state, const SearchHit& hit, bool fresh) {
     const bool speed = state.loads.speed != 0.0;
     const std::string mark = speed ? overSpeedMark(state, hit) : "";
@@ -69,7 +88,9 @@ QList<QStandardItem*> rowOf(const ProgramState& state, const SearchHit& hit, boo
                          : item(column.shown(text), trimmed(text), column.alignment));
     }
     row.append(item(trimmed(mark), trimmed(mark), Qt::AlignLeft));
-    row.last()->setForeground(theme::badColour(QGuiApplication::palette()));
+    row.append(checkItem(hit));
+    for (QStandardItem* const words : row.mid(row.size() - 2))
+        words->setForeground(theme::badColour(QGuiApplication::palette()));
     return row;
 }
 
@@ -85,8 +106,21 @@ void fillHitModel(QStandardItemModel& model, const ProgramState& state, bool fre
                 column.alignment);
     }
     setHead(model, kMarkColumn, QString::fromUtf8(kMarkHead), Qt::AlignLeft);
+    setHead(model, kCheckColumn, QString::fromUtf8(kCheckHead), Qt::AlignLeft);
     for (const SearchHit& hit : state.search.rows)
         model.appendRow(rowOf(state, hit, fresh));
+}
+
+QString checkSentencesOf(const SearchHit& hit) {
+    QStringList sentences;
+    for (const std::string& sentence : checkSentences(hit.checks))
+        sentences.append(QString::fromStdString(sentence));
+    return sentences.join(QLatin1Char('\n'));
+}
+
+bool hasChecks(const ProgramState& state) {
+    const std::vector<SearchHit>& rows = state.search.rows;
+    return std::any_of(rows.begin(), rows.end(), [](const SearchHit& hit) { return hit.checks.any(); });
 }
 
 int sortColumnOf(int column) {

@@ -19,10 +19,11 @@ HitTable::HitTable(const char* name) : CopyTable(name, QStringLiteral("Bearings 
     setMinimumSize(kLeastWidth, heightFor(kFewestRows));
 }
 
-void HitTable::layOutColumns(bool withSpeed) {
+void HitTable::layOutColumns(bool withSpeed, bool withChecks) {
     setColumnHidden(kLineColumn, true);
     setColumnHidden(kHoursColumn, !withSpeed);
     setColumnHidden(kMarkColumn, !withSpeed);
+    setColumnHidden(kCheckColumn, !withChecks);
     // Columns stand apart where there is room. The last one takes what is left.
     const QList<int> columns = shownColumns();
     QList<int> widths;

@@ -40,9 +40,9 @@ class HitModelTest : public QObject {
         fillHitModel(model, twoRows(3000.0), true);
         QCOMPARE(model.rowCount(), 2);
         QCOMPARE(texts(model, 0), (QStringList{"K13008XP0", "5.1181", "5.7480", "0.3150", "1.23E+09",
-                                               "46,912", "3,000", "CALL", ""}));
+                                               "46,912", "3,000", "CALL", "", ""}));
         QCOMPARE(texts(model, 1), (QStringList{"K14008XP0", "5.5118", "6.1417", "0.3150", "9.88E+04", "0",
-                                               "2,999", "YES", "Over Speed!"}));
+                                               "2,999", "YES", "Over Speed!", ""}));
     }
 
     void theHeadsCarryTheUnits() {
@@ -51,7 +51,7 @@ class HitModelTest : public QObject {
         fillHitModel(model, state, true);
         QCOMPARE(heads(model), (QStringList{"Bearing", "Bore (inches)", "O.D. (inches)", "Height (inches)",
                                             "L10 life (rev.)", "L10 life (hours)", "Limit speed (rpm)",
-                                            "Stock", "Speed check"}));
+                                            "Stock", "Speed check", "Life check"}));
         ApplyUnitSystem("METRIC", state.units);
         fillHitModel(model, state, true);
         QCOMPARE(heads(model).mid(1, 3), (QStringList{"Bore (mm)", "O.D. (mm)", "Height (mm)"}));
@@ -61,7 +61,7 @@ class HitModelTest : public QObject {
         QStandardItemModel model;
         fillHitModel(model, twoRows(3000.0), true);
         for (int column = kNameColumn; column < kHitColumns; ++column) {
-            const bool words = column == kNameColumn || column == kStockColumn || column == kMarkColumn;
+            const bool words = column == kNameColumn || column == kStockColumn || column >= kMarkColumn;
             const QVariant cell = model.index(0, column).data(Qt::TextAlignmentRole);
             const QVariant head = model.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole);
             QCOMPARE(Qt::Alignment(cell.toInt()),
@@ -111,6 +111,7 @@ class HitModelTest : public QObject {
             QCOMPARE(sortColumnOf(columnSortedBy(sort)), sort);
         QCOMPARE(sortColumnOf(kLineColumn), 0);
         QCOMPARE(sortColumnOf(kMarkColumn), 0);
+        QCOMPARE(sortColumnOf(kCheckColumn), 0);
         QCOMPARE(columnSortedBy(0), -1);
     }
 
@@ -119,17 +120,40 @@ class HitModelTest : public QObject {
         HitTable table("List1");
         table.setModel(&model);
         fillHitModel(model, twoRows(3000.0), true);
-        table.layOutColumns(true);
+        table.layOutColumns(true, false);
         QCOMPARE(table.tabSeparated(),
                  QString("Bearing\tBore (inches)\tO.D. (inches)\tHeight (inches)\tL10 life (rev.)\t"
                          "L10 life (hours)\tLimit speed (rpm)\tStock\tSpeed check\n"
                          "K13008XP0\t5.1181\t5.7480\t0.3150\t1234567890\t46912\t3000\tCALL\t\n"
                          "K14008XP0\t5.5118\t6.1417\t0.3150\t98765\t0\t2999\tYES\tOver Speed!\n"));
         fillHitModel(model, twoRows(0.0), true);
-        table.layOutColumns(false);
+        table.layOutColumns(false, false);
         QCOMPARE(table.tabSeparated().section('\n', 1, 1),
                  QString("K13008XP0\t5.1181\t5.7480\t0.3150\t1234567890\t3000\tCALL"));
         QVERIFY(!table.tabSeparated().contains("hours"));
+    }
+
+    void aRowWhoseLifeIsNotToBeTrustedIsMarkedAndTellsWhyByItsTipAndAloud() {
+        QStandardItemModel model;
+        ProgramState state = twoRows(0.0);
+        state.search.rows[0].checks.unbalanced = true;
+        state.search.rows[1].checks = {true, 28572300.0};
+        fillHitModel(model, state, true);
+        const QString unbalanced = "The ball loads do not balance the applied loads.";
+        const QString both = unbalanced + "\nRow 2 has the shorter life: 28,572,300 revolutions";
+        QCOMPARE(model.index(0, kCheckColumn).data().toString(), QString("Unbalanced"));
+        QCOMPARE(model.index(1, kCheckColumn).data().toString(), QString("Unbalanced, row 2"));
+        for (const int role : {int(Qt::ToolTipRole), int(Qt::AccessibleTextRole)}) {
+            QCOMPARE(model.index(0, kCheckColumn).data(role).toString(), unbalanced);
+            QCOMPARE(model.index(1, kCheckColumn).data(role).toString(), both);
+        }
+        HitTable table("List1");
+        table.setModel(&model);
+        table.layOutColumns(false, hasChecks(state));
+        QVERIFY(table.tabSeparated().section('\n', 0, 0).endsWith("\tStock\tLife check"));
+        QVERIFY(table.tabSeparated().section('\n', 1, 1).endsWith("\tCALL\tunbalanced"));
+        QVERIFY(table.tabSeparated().section('\n', 2, 2).endsWith("\tYES\tunbalanced; row 2 shorter"));
+        QVERIFY(!hasChecks(twoRows(0.0)));
     }
 
     void rowsHaveTheHeightThatAPersonReadsWithEase() {

@@ -342,6 +342,30 @@ class ResultsListTest : public QObject {
         QVERIFY(results.geometry().right() - style.geometry().right() < 3);
     }
 
+    void rowsWhoseLifeIsNotToBeTrustedAreMarkedAndTheChosenOneTellsWhy() {
+        Results usual;
+        QVERIFY(usual.table().isColumnHidden(kCheckColumn));
+        Results program("US", {"FACE-TO-FACE SET WITH SPACERS", "A"},
+                        {".5", "4", ".1", "3", "10", "", "", ""});
+        QVERIFY(!program.table().isColumnHidden(kCheckColumn));
+        const auto& warning = program.control<QLabel>(forms::kResults, "Warning1");
+        const QRect table = program.table().geometry();
+        int marked = 0;
+        for (int row = 0; row < program.list().count(); ++row) {
+            const LifeChecks checks = program.rows()[static_cast<std::size_t>(row)].checks;
+            program.list().setCurrentIndex(row);
+            QApplication::processEvents();
+            QCOMPARE(program.cell(row, kCheckColumn).startsWith("Unbalanced"), checks.unbalanced);
+            QCOMPARE(warning.isVisible(), checks.any());
+            QCOMPARE(warning.text().startsWith("The ball loads do not balance the applied loads."),
+                     checks.unbalanced);
+            QCOMPARE(program.table().geometry(), table);
+            marked += checks.unbalanced ? 1 : 0;
+        }
+        QVERIFY(marked > 0 && marked < program.list().count());
+        QCOMPARE(warning.palette().color(QPalette::WindowText), theme::badColour(QGuiApplication::palette()));
+    }
+
     void theChosenBearingMakesNothingJump() {
         Results program;
         QApplication::processEvents();
