@@ -99,11 +99,14 @@ QString breakable(const QString& text, int& letters) {
     QString broken;
     broken.reserve(text.size() + text.size() / kLongestWord);
     for (const QChar letter : text) {
-        if (letters >= kLongestWord && !letter.isLowSurrogate()) {
-            broken += QChar(kNoWidth);
+        if (letter.isSpace()) {
             letters = 0;
+        } else if (letters >= kLongestWord && !letter.isLowSurrogate()) {
+            broken += QChar(kNoWidth);
+            letters = 1;
+        } else {
+            ++letters;
         }
-        letters = letter.isSpace() ? 0 : letters + 1;
         broken += letter;
     }
     return broken;

@@ -1,4 +1,7 @@
 #include <QTimer>
+#include <filesystem>
+
+#include <sys/stat.h>
 
 #include "screens/Program.h"
 
@@ -71,6 +74,41 @@ class StartScreenTest : public QObject {
         QCOMPARE(program.inFront(), std::string(forms::kMainMenu));
         QVERIFY(!program.screens.form(forms::kStart).isVisible());
         QVERIFY(!program.control<QTimer>(forms::kStart, "Timer1").isActive());
+    }
+
+    void options_and_settings_that_are_too_large_are_told_and_the_program_starts() {
+        for (const char* const name : {"SETTINGS.INI", "Extras.txt"}) {
+            Program program;
+            program.files.write(name, "");
+            std::filesystem::resize_file(program.files.path() / name, 1U << 30U);
+            ShowStartScreen(program.screens);
+            QCOMPARE(program.inFront(), std::string(forms::kStart));
+            QCOMPARE(program.messages.shown.size(), std::size_t{1});
+            QCOMPARE(program.lastMessage().title, std::string(name));
+        }
+    }
+
+    void nothing_in_the_place_of_a_file_is_waited_for_data() {
+        QTest::addColumn<QString>("file");
+        for (const char* const file :
+             {"SETTINGS.INI", "Extras.txt", "bkground/start.png", "bkground/T-X.BMP", "icons/onmoniter.ico",
+              "icons/TRFFC10A.ICO", "icons/TRFFC10C.ICO", "help/INTRO.RTF"})
+            QTest::newRow(file) << file;
+    }
+    void nothing_in_the_place_of_a_file_is_waited_for() {
+        QFETCH(QString, file);
+        Program program;
+        const std::filesystem::path pipe = program.files.path() / file.toStdString();
+        program.give(file.toStdString(), "");
+        std::filesystem::remove(pipe);
+        QCOMPARE(::mkfifo(pipe.c_str(), 0600), 0);
+        ShowStartScreen(program.screens);
+        QCOMPARE(program.inFront(), std::string(forms::kStart));
+        for (const FormName form : {forms::kMainMenu, forms::kStyle, forms::kApplication}) {
+            program.screens.show(form);
+            QCOMPARE(program.inFront(), std::string(form));
+            program.screens.form(form).grab();
+        }
     }
 
     void skip_intro_with_a_trailing_blank_does_not() {

@@ -2,11 +2,14 @@
 #include <QFontInfo>
 #include <QImage>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTextEdit>
 #include <QTextTable>
+#include <algorithm>
 
 #include "screens/Form2.h"
 #include "screens/Program.h"
+#include "support/ProcessorTime.h"
 
 using namespace norlaplan;
 using namespace norlaplan::testing;
@@ -25,6 +28,14 @@ struct Viewer : Program {
     QTextCharFormat lookOf(const char* words) { return document().find(words).charFormat(); }
     QWidget& button() { return control<QPushButton>(forms::kTextViewer, "Command1"); }
 };
+
+std::string hexOfPng(const QImage& image) {
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return png.toHex().toStdString();
+}
 
 }  // namespace
 
@@ -71,13 +82,9 @@ class ViewerTest : public QObject {
     void a_picture_is_shown_in_its_size() {
         QImage red(8, 4, QImage::Format_RGB32);
         red.fill(Qt::red);
-        QByteArray png;
-        QBuffer buffer(&png);
-        buffer.open(QIODevice::WriteOnly);
-        red.save(&buffer, "PNG");
         // 1440 twips are an inch.
         Viewer viewer("{\\rtf1\\ansi{\\pict\\pngblip\\picw8\\pich4\\picwgoal1440\\pichgoal720 " +
-                      png.toHex().toStdString() + "}}");
+                      hexOfPng(red) + "}}");
         const QTextImageFormat format =
             viewer.document().find(QString(QChar::ObjectReplacementCharacter)).charFormat().toImageFormat();
         QVERIFY(format.isValid());
@@ -110,6 +117,55 @@ class ViewerTest : public QObject {
         viewer.screens.runAction("Warranty", [&] { showText(viewer.screens, "\\none.rtf", "None", "Exit"); });
         QCOMPARE(viewer.lastMessage().title, std::string("Run-time error '53'"));
         QCOMPARE(viewer.inFront(), std::string(forms::kMainMenu));
+    }
+
+    void pictures_that_would_fill_the_memory_are_told_in_their_places() {
+        // One bit a pixel makes the file small; what is shown takes four bytes for each.
+        QImage large(4000, 4000, QImage::Format_Mono);
+        large.fill(0);
+        const std::string picture = "{\\pict\\pngblip " + hexOfPng(large) + "}\\par ";
+        std::string all;
+        for (int i = 0; i < 20; ++i)
+            all += picture;
+        Viewer viewer("{\\rtf1\\ansi " + all + "}");
+        const QString text = viewer.document().toPlainText();
+        QCOMPARE(text.count(QChar::ObjectReplacementCharacter), 1);
+        QCOMPARE(text.count("(This picture is too large to be shown.)"), 19);
+    }
+
+    void a_picture_behind_one_that_is_too_large_is_shown() {
+        QImage huge(5000, 4000, QImage::Format_Mono), small(8, 4, QImage::Format_RGB32);
+        huge.fill(0);
+        small.fill(Qt::red);
+        Viewer viewer("{\\rtf1\\ansi {\\pict\\pngblip " + hexOfPng(huge) + "}{\\pict\\pngblip " +
+                      hexOfPng(small) + "}}");
+        QCOMPARE(viewer.document().toPlainText(),
+                 QString("(This picture is too large to be shown.)") + QChar::ObjectReplacementCharacter);
+    }
+
+    void a_word_that_fits_no_line_can_be_broken_and_shows_soon_data() {
+        QTest::addColumn<QString>("piece");
+        QTest::newRow("one look") << "aaaaaaaaaa";
+        QTest::newRow("another look for every letter") << "\\b a\\b0 b";
+    }
+    void a_word_that_fits_no_line_can_be_broken_and_shows_soon() {
+        QFETCH(QString, piece);
+        const std::string word = piece.repeated(30000).toStdString();
+        const double start = processorSeconds();
+        Viewer viewer("{\\rtf1\\ansi before " + word + " after}");
+        viewer.text().grab();
+        // A thirtieth of it on a quiet machine; the square of the length took twenty seconds.
+        QVERIFY(processorSeconds() - start < 10.0);
+        const QString text = viewer.document().toPlainText();
+        int longest = 0;
+        for (const QString& part : text.split(QRegularExpression("[\\s\u200B]+")))
+            longest = std::max(longest, static_cast<int>(part.size()));
+        QCOMPARE(longest, 200);
+    }
+
+    void usual_words_stay_as_they_are() {
+        Viewer viewer("{\\rtf1\\ansi " + std::string(200, 'a') + " " + std::string(199, 'b') + "{\\b c}}");
+        QVERIFY(!viewer.document().toPlainText().contains(QChar(0x200B)));
     }
 
     void the_paper_is_white_on_a_dark_desktop() {
