@@ -23,6 +23,8 @@ constexpr double kFirstWidth = 19050.0;
 /// Ten times what a drawing of a bearing has. A circle takes as long to draw as many lines.
 constexpr int kMostLines = 5000;
 constexpr int kLinesOfACircle = 10;
+/// Inches: a circle that is wider leaves the page on all sides, and takes the longer to draw the wider it is.
+constexpr double kWidestCircle = 30.0;
 /// An instruction has two points at most; what stands behind them is not read.
 constexpr std::size_t kMostNumbers = 4;
 /// Beyond these coordinates nothing is on the page.
@@ -130,6 +132,8 @@ class Plotter {
     explicit Plotter(RtfDocument& document) : document_(document) {}
 
     bool full() const { return drawn_ >= kMostLines; }
+    /// Whether nothing was left out so far.
+    bool whole() const { return whole_; }
 
     void run(const Instruction& instruction) {
         const std::string& name = instruction.mnemonic;
@@ -178,6 +182,8 @@ class Plotter {
         const double dy = pen_.y - centre.y;
         const double radius = std::sqrt(dx * dx + dy * dy);
         if (sweep >= 359.0) {
+            whole_ = whole_ && radius <= kWidestCircle;
+            if (radius > kWidestCircle) return;
             document_.RTFCIRCLE(centre, radius, colour_, width_);
             drawn_ += kLinesOfACircle;
             return;
@@ -197,6 +203,7 @@ class Plotter {
     }
 
     RtfDocument& document_;
+    bool whole_ = true;
     int drawn_ = 0;  ///< lines, with what circles count for
     PagePoint pen_ = onPage(0.0, 0.0);
     Colour colour_ = 0;
@@ -213,7 +220,7 @@ bool OverlayToRtf(RtfDocument& document, std::string_view hpgl) {
         if (plotter.full()) return false;
         plotter.run(*instruction);
     }
-    return true;
+    return plotter.whole();
 }
 
 }  // namespace norlaplan

@@ -102,7 +102,7 @@ void writeOverlays(RtfDocument& document, const BearingSpec& bearing, const Prog
     note.size = 10.0;
     note.colour = "RED";
     note.font = "TNR";
-    note.text = "The drawing is cut short: its overlay has too many lines.";
+    note.text = "The drawing is not whole: its overlay draws too much.";
     document.RTFDATASHEETTEXT(note);
 }
 

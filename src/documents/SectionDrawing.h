@@ -18,7 +18,7 @@ struct Overlays {
 Overlays readOverlays(const BearingSpec& bearing, const ProgramFolder& folder);
 
 /// Writes the drawing of the bearing's style and that of its separator as they stand on the data sheet, from
-/// the program's overlays; a line in red tells of one that is cut short. Errors as those of `readOverlays`.
+/// the program's overlays; a line in red tells of one that isn't whole. Errors as those of `readOverlays`.
 void writeOverlays(RtfDocument& document, const BearingSpec& bearing, const ProgramFolder& folder);
 
 /// Height of what `drawSection` draws, inches.

@@ -126,7 +126,7 @@ class LongDrawings(unittest.TestCase):
             done = run("--program-folder", str(folder), *SHEET, str(output))
             self.assertEqual(done.returncode, 0, done.stderr)
             text = output.read_text(encoding="ascii")
-            self.assertIn("The drawing is cut short: its overlay has too many lines.", text)
+            self.assertIn("The drawing is not whole: its overlay draws too much.", text)
             self.assertLess(len(text), 2 * MEGABYTE)
 
 

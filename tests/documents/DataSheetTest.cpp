@@ -135,7 +135,7 @@ TEST(DataSheet, WithoutItsOverlayIsFileNotFound) {
 }
 
 TEST(DataSheet, TellsInRedOfADrawingThatIsCutShort) {
-    constexpr const char* kNote = "The drawing is cut short: its overlay has too many lines.";
+    constexpr const char* kNote = "The drawing is not whole: its overlay draws too much.";
     const auto notesOf = [](const RecordingCanvas& canvas) {
         int notes = 0;
         for (const auto& text : canvas.texts) {

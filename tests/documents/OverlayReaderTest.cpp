@@ -178,7 +178,8 @@ TEST(Overlay, DrawsNoMoreThanADrawingOfABearingCouldHave) {
         bool whole;
     } rows[] = {{"PD1,2;", 5000, 5000, true},         {"PD1,2;", 5001, 5000, false},
                 {"PD1,2,3,4;", 2501, 5000, false},    {"AA0,0,360;", 500, 500, true},
-                {"AA0,0,360;", 20000, 500, false},    {"AA2000,2000,90;", 100, 5000, true},
+                {"AA0,0,360;", 20000, 500, false},    {"AA30480,0,360;", 1, 1, true},
+                {"AA30490,0,360;", 20000, 0, false},  {"AA2000,2000,90;", 100, 5000, true},
                 {"AA2000,2000,90;", 101, 5000, false}};
     for (const auto& row : rows) {
         RtfDocument document;
