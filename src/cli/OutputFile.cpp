@@ -41,12 +41,14 @@ struct Task {
     std::exception_ptr failure;
 };
 
-void drawInto(void* context, Canvas& canvas) {
+bool drawInto(void* context, Canvas& canvas) {
     auto& task = *static_cast<Task*>(context);
     try {
         task.drawing.draw(canvas);
+        return true;
     } catch (...) {
         task.failure = std::current_exception();
+        return false;
     }
 }
 

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstring>
 #include <memory>
+#include <stdexcept>
 #include <string_view>
 
 #include "numbers/RuntimeError.h"
@@ -48,12 +49,15 @@ class HeadlessApplication {
 }  // namespace norlaplan
 
 extern "C" __attribute__((visibility("default"))) int norlaplanSavePicture(
-    const char* path, const norlaplan::Paper& paper, void (*draw)(void* context, norlaplan::Canvas& canvas),
+    const char* path, const norlaplan::Paper& paper, bool (*draw)(void* context, norlaplan::Canvas& canvas),
     void* context, char* text, std::size_t size) {
     using namespace norlaplan;
     try {
         const HeadlessApplication application;
-        savePicture(path, {paper, [&](Canvas& canvas) { draw(context, canvas); }});
+        savePicture(path, {paper, [&](Canvas& canvas) {
+                               if (!draw(context, canvas))
+                                   throw std::runtime_error("the drawing is not whole");
+                           }});
         return 0;
     } catch (const RuntimeError& error) {
         putText(error.what(), text, size);

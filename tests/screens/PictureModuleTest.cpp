@@ -20,10 +20,12 @@ class PictureModuleTest : public QObject {
         void* const module = dlopen(file.c_str(), RTLD_NOW);
         return module == nullptr ? nullptr : reinterpret_cast<SavePictureEntry>(dlsym(module, kPictureEntry));
     }
-    static void drawText(void* text, Canvas& canvas) {
+    static bool drawText(void* text, Canvas& canvas) {
         canvas.text({1.0, 10.0, 4.0, 9.0}, *static_cast<std::string*>(text), {});
+        return true;
     }
-    static void failToDraw(void*, Canvas&) { raise(fault::kOverflow); }
+    [[noreturn]] static bool failToDraw(void*, Canvas&) { raise(fault::kOverflow); }
+    static bool drawHalf(void* text, Canvas& canvas) { return !drawText(text, canvas); }
 
   private slots:
     void it_saves_pictures_one_after_the_other() {
@@ -39,6 +41,20 @@ class PictureModuleTest : public QObject {
         QVERIFY(files.read("sheet.pdf").starts_with("%PDF"));
         QVERIFY(files.read("sheet.png").starts_with("\x89PNG"));
         QVERIFY(files.read("sheet.bmp").starts_with("BM"));
+    }
+
+    void a_drawing_that_is_not_whole_leaves_the_old_file_alone() {
+        const SavePictureEntry save = entry();
+        QVERIFY(save != nullptr);
+        const TemporaryFolder files;
+        std::string words = "half";
+        char text[200] = "";
+        for (const char* const name : {"sheet.pdf", "sheet.png"}) {
+            files.write(name, "old");
+            const std::string path = (files.path() / name).string();
+            QVERIFY(save(path.c_str(), papers::kLetter, &drawHalf, &words, text, sizeof text) != 0);
+            QCOMPARE(files.read(name), std::string("old"));
+        }
     }
 
     void a_failure_comes_back_as_its_number_and_text() {

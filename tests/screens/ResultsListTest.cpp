@@ -349,6 +349,7 @@ class ResultsListTest : public QObject {
                         {".5", "4", ".1", "3", "10", "", "", ""});
         QVERIFY(!program.table().isColumnHidden(kCheckColumn));
         const auto& warning = program.control<QLabel>(forms::kResults, "Warning1");
+        QApplication::processEvents();
         const QRect table = program.table().geometry();
         int marked = 0;
         for (int row = 0; row < program.list().count(); ++row) {
