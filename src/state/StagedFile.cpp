@@ -230,15 +230,18 @@ void commitTogether(StagedFile& first, StagedFile& second) {
     const bool linked = ::link(target.c_str(), kept.c_str()) == 0;
     // Some disks know no second name of a file.
     if (!linked && errno != ENOENT) content = readWholeFile(target, kAnySize);
-    first.commit();
+    bool replaced = false;
     try {
+        first.commit();
+        replaced = true;
         second.commit();
     } catch (...) {
         if (linked) {
-            ::rename(kept.c_str(), target.c_str());
-        } else if (content) {
+            // Of two names of one file a rename leaves both.
+            if (::rename(kept.c_str(), target.c_str()) == 0) ::unlink(kept.c_str());
+        } else if (replaced && content) {
             writeWholeFile(target, *content);
-        } else {
+        } else if (replaced) {
             ::unlink(target.c_str());
         }
         throw;

@@ -6,6 +6,8 @@ namespace norlaplan::testing {
 
 /// The steps of a search, through the real forms.
 struct SearchingUser : Program {
+    using Program::Program;
+
     /// By its picture, counted from 1.
     void chooseStyle(int picture) {
         screens.showAlone(forms::kMainMenu);

@@ -1,0 +1,156 @@
+"""Whatever happens to its files, a save leaves the old one or the new one, says what it could not do, and the program
+goes on. NORLAPLAN_FAULT_KILLS is the number of programs that are killed while they save."""
+
+import fcntl
+import os
+import unittest
+from pathlib import Path
+
+from saving import CommandLine, Forms, every_save, some_time
+
+KILLS = int(os.environ.get("NORLAPLAN_FAULT_KILLS", "36"))
+# One of each kind of writing: a file, a file from a process of its own, one that grows, a pair, a picture. A long run
+# takes every save in every test.
+FEW = None if "NORLAPLAN_FAULT_KILLS" in os.environ else ("life.rtf", "datasheet.pdf", "results.csv", "number",
+                                                          "application")
+# No save takes as many file operations; one that does never ends.
+MOST_OPERATIONS = 60
+
+
+class Faults(unittest.TestCase):
+    figures = {"operations": 0, "faults": 0, "kills": 0}
+
+    @classmethod
+    def tearDownClass(cls):
+        if cls.figures["faults"] or cls.figures["kills"]:
+            print("\n" + ", ".join(f"{count} {name}" for name, count in cls.figures.items()))
+
+    def check(self, way, outcome, where, told=True, together=True):
+        """What holds after every save, whatever has happened to it. `told`: a save that failed names its file.
+        `together`: the files of one save are all old or all new."""
+        self.assertEqual(way.places.complaint(together and way.name != "units"), "", where)
+        self.assertTrue(outcome.sound, f"{where}: {outcome}")
+        self.assertNotIn("terminate", outcome.told, where)
+        if told and not way.places.is_new():
+            self.assert_named(way, outcome, where)
+
+    def assert_named(self, way, outcome, where):
+        """The message has words, and the name of a file that was to be written."""
+        names = [Path(name).name for name in way.changed]
+        self.assertTrue(any(name in outcome.told for name in names), f"{where} told '{outcome.told}'")
+
+    def next_save_clears(self, way, where):
+        """A save without a fault takes away what one before has left."""
+        way.whole()
+        self.assertEqual(way.places.left(), [], where)
+        self.assertTrue(way.places.is_new(), where)
+
+    def sweep(self, kind, names=FEW):
+        """Fails the first, second, third operation of each save, until one goes through."""
+        for way in every_save(self.addCleanup, names):
+            for at in range(1, MOST_OPERATIONS):
+                where = f"{way.name}, {kind} at operation {at}"
+                way.places.reset()
+                outcome = way.save(kind, at)
+                # Where nothing can be changed any more, nothing can be put back.
+                self.check(way, outcome, where, kind != "kill", kind in ("once", "full"))
+                if kind in ("once", "full") and outcome.told:
+                    self.assertEqual(way.places.left(), [], where)
+                if not outcome.killed:
+                    self.assertTrue(way.go_on(), f"{where}: the program isn't alive")
+                if not outcome.reached:
+                    self.assertEqual(outcome.told, "", where)
+                    break
+                self.figures["faults"] += 1
+                if way.places.left():
+                    self.next_save_clears(way, where)
+            else:
+                self.fail(f"{way.name} never ends")
+            self.assertGreater(at, 1, f"{way.name} writes without being seen")
+            self.figures["operations"] += at - 1 if kind == "once" else 0
+
+    def test_an_operation_that_fails(self):
+        self.sweep("once", None)
+
+    def test_a_disk_that_is_full_from_an_operation_on(self):
+        self.sweep("full")
+
+    def test_a_folder_that_can_only_be_read_from_an_operation_on(self):
+        self.sweep("readonly")
+
+    def test_a_program_that_is_killed_at_an_operation(self):
+        self.sweep("kill")
+
+    def refused(self, way, where, **fault):
+        """A save that can't be made is told, names the file, leaves nothing and doesn't end the program."""
+        outcome = way.save(**fault)
+        self.assert_named(way, outcome, where)
+        self.assertTrue(outcome.sound, f"{where}: {outcome}")
+        self.assertEqual(way.places.left(), [], where)
+        return outcome
+
+    def test_a_limit_on_the_size_of_files_is_a_full_disk(self):
+        for way in every_save(self.addCleanup, FEW):
+            way.places.reset()
+            outcome = self.refused(way, f"{way.name} under a limit", limit=500)
+            self.assertIn("Disk full", outcome.told)
+            self.assertEqual(way.places.complaint(), "")
+            self.assertFalse(way.places.is_new())
+            self.assertTrue(way.go_on(), way.name)
+
+    def test_a_target_that_is_a_folder_stays_one(self):
+        for way in every_save(self.addCleanup, FEW):
+            way.places.reset()
+            way.target.unlink(missing_ok=True)
+            way.target.mkdir()
+            self.refused(way, f"{way.name} onto a folder")
+            self.assertTrue(way.target.is_dir(), way.name)
+            way.target.rmdir()
+            self.assertTrue(way.go_on(), way.name)
+
+    def test_a_folder_that_has_vanished_is_told_and_not_made_anew(self):
+        for way in every_save(self.addCleanup, [*CommandLine.WAYS, "application", "life", "graph"]):
+            way.places.reset()
+            gone = way.out.with_name("gone")
+            way.out.rename(gone)
+            where = f"{way.name} into a folder that has vanished"
+            outcome = way.save()
+            self.assert_named(way, outcome, where)
+            self.assertTrue(outcome.sound, f"{where}: {outcome}")
+            self.assertFalse(way.out.exists(), where)
+            gone.rename(way.out)
+            self.assertEqual(way.places.complaint(), "", where)
+            self.assertTrue(way.go_on(), way.name)
+
+    def test_a_target_that_another_program_has_open_is_replaced_and_stays_whole_for_it(self):
+        for way in every_save(self.addCleanup, FEW):
+            way.places.reset()
+            before = way.target.read_bytes() if way.target.exists() else None
+            if before is None:
+                continue
+            with open(way.target, "rb") as reader:
+                fcntl.flock(reader, fcntl.LOCK_EX)
+                outcome = way.save()
+                self.assertEqual(outcome.told, "", way.name)
+                self.assertEqual(reader.read(), before, way.name)
+            self.assertTrue(way.places.is_new(), way.name)
+            self.assertTrue(way.go_on(), way.name)
+
+    def test_programs_that_are_killed_while_they_save(self):
+        names = FEW or (*CommandLine.WAYS, *Forms.WAYS)
+        for way in every_save(self.addCleanup, names):
+            for _ in range(-(-KILLS // len(names))):
+                way.places.reset()
+                at = some_time()
+                where = f"{way.name}, killed {at} microseconds after its first file operation"
+                outcome = way.save("killafter", at)
+                self.check(way, outcome, where, False, False)
+                if outcome.killed:
+                    self.figures["kills"] += 1
+                else:
+                    self.assertTrue(way.go_on(), where)
+                self.next_save_clears(way, where)
+
+
+if __name__ == "__main__":
+    unittest.main()
