@@ -36,9 +36,9 @@ SolveResult SolveRadialRow(ProgramState& state, const SolveArguments& arguments,
 
 /// Spreads radial load, axial load and moment over two contact rows (styles "X", "B", "F"), by Newton-Raphson
 /// over three displacements. The user is asked at every ten thousandth pass, and as `Patience` asks. Nothing
-/// when the user gave up or the configuration is unstable: `SolveAborted` is then set, the user has been told,
-/// and in the unstable case the entered loads that were 0 are 1. The texts of the contact angles are left to
-/// `writeBallAngles`. Errors: 5 for a negative axial load.
+/// when the user gave up or the configuration is unstable: `SolveAborted` is then set, the user has been
+/// told, and in the unstable case the entered loads that were 0 are 1. The texts of the contact angles are
+/// left to `writeBallAngles`. Errors: 5 for a negative axial load.
 std::optional<SolveResult> SolveCoupledRows(ProgramState& state, const SolveArguments& arguments,
                                             MessagePort& messages);
 
