@@ -58,7 +58,8 @@ class CommandLine:
         """One save with the fault of that kind at that operation."""
         self.log.unlink(missing_ok=True)
         environment = {**ENVIRONMENT, "NORLAPLAN_FAULT_FOLDER": str(folder or self.out),
-                       "NORLAPLAN_FAULT_KIND": kind, "NORLAPLAN_FAULT_AT": str(at), "NORLAPLAN_FAULT_LOG": str(self.log)}
+                       "NORLAPLAN_FAULT_KIND": kind, "NORLAPLAN_FAULT_AT": str(at),
+                       "NORLAPLAN_FAULT_LOG": str(self.log)}
         limits = (lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (limit, limit))) if limit is not None else None
         done = subprocess.run(self.words, env=environment, capture_output=True, text=True, timeout=120, check=False,
                               preexec_fn=limits)
@@ -161,11 +162,11 @@ class Forms:
         self.process.wait(60)
 
 
-def every_save(cleanup, names=None):
-    """Each way to a file in turn; only those of these names where names are given."""
+def every_save(cleanup, names):
+    """Each way to a file of these names in turn."""
     for kind in (CommandLine, Forms):
         for name in kind.WAYS:
-            if names is None or name in names:
+            if name in names:
                 way = kind(name, cleanup)
                 yield way
                 way.close()

@@ -9,10 +9,13 @@ from pathlib import Path
 from saving import CommandLine, Forms, every_save, some_time
 
 KILLS = int(os.environ.get("NORLAPLAN_FAULT_KILLS", "36"))
-# One of each kind of writing: a file, a file from a process of its own, one that grows, a pair, a picture. A long run
-# takes every save in every test.
-FEW = None if "NORLAPLAN_FAULT_KILLS" in os.environ else ("life.rtf", "datasheet.pdf", "results.csv", "number",
-                                                          "application")
+# A long run takes every save in every test; the usual one takes those that write in ways of their own: a file, one
+# from a process of its own, one that grows, a pair.
+LONG = "NORLAPLAN_FAULT_KILLS" in os.environ
+ALL = (*CommandLine.WAYS, *Forms.WAYS)
+FEW = ALL if LONG else ("life.rtf", "datasheet.pdf", "results.csv", "application")
+MORE = ALL if LONG else (*CommandLine.WAYS, "settings", "preview", "application")
+FASTEST = ALL if LONG else ("life.rtf", "datasheet.pdf", "results.csv")
 # No save takes as many file operations; one that does never ends.
 MOST_OPERATIONS = 60
 
@@ -45,7 +48,7 @@ class Faults(unittest.TestCase):
         self.assertEqual(way.places.left(), [], where)
         self.assertTrue(way.places.is_new(), where)
 
-    def sweep(self, kind, names=FEW):
+    def sweep(self, kind, names):
         """Fails the first, second, third operation of each save, until one goes through."""
         for way in every_save(self.addCleanup, names):
             for at in range(1, MOST_OPERATIONS):
@@ -70,16 +73,16 @@ class Faults(unittest.TestCase):
             self.figures["operations"] += at - 1 if kind == "once" else 0
 
     def test_an_operation_that_fails(self):
-        self.sweep("once", None)
+        self.sweep("once", MORE)
 
     def test_a_disk_that_is_full_from_an_operation_on(self):
-        self.sweep("full")
+        self.sweep("full", FASTEST)
 
     def test_a_folder_that_can_only_be_read_from_an_operation_on(self):
-        self.sweep("readonly")
+        self.sweep("readonly", FASTEST)
 
     def test_a_program_that_is_killed_at_an_operation(self):
-        self.sweep("kill")
+        self.sweep("kill", FASTEST)
 
     def refused(self, way, where, **fault):
         """A save that can't be made is told, names the file, leaves nothing and doesn't end the program."""
@@ -137,9 +140,8 @@ class Faults(unittest.TestCase):
             self.assertTrue(way.go_on(), way.name)
 
     def test_programs_that_are_killed_while_they_save(self):
-        names = FEW or (*CommandLine.WAYS, *Forms.WAYS)
-        for way in every_save(self.addCleanup, names):
-            for _ in range(-(-KILLS // len(names))):
+        for way in every_save(self.addCleanup, FEW):
+            for _ in range(-(-KILLS // len(FEW))):
                 way.places.reset()
                 at = some_time()
                 where = f"{way.name}, killed {at} microseconds after its first file operation"
