@@ -10,6 +10,8 @@ from pathlib import Path
 
 CLI = os.environ["NORLAPLAN_CLI"]
 PROGRAM_FOLDER = Path(CLI).parent
+# The address sanitizer needs memory, files and stack of its own.
+WITH_SANITIZERS = "NORLAPLAN_SANITIZE" in os.environ
 WITH_PICTURES = (PROGRAM_FOLDER / "norlaplan-paint.so").exists()
 
 

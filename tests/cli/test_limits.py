@@ -6,7 +6,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from program import WITH_PICTURES, own_tables, run, table
+from program import WITH_PICTURES, WITH_SANITIZERS, own_tables, run, table
 
 MEGABYTE = 1 << 20
 SHEET = ("datasheet", "K19013XP0", "--output")
@@ -20,6 +20,7 @@ def limited(what, value, *words, **options):
     return run("--json", *words, preexec_fn=lambda: resource.setrlimit(what, (value, value)), **options)
 
 
+@unittest.skipIf(WITH_SANITIZERS, "the address sanitizer wants more than these limits leave")
 class Limits(unittest.TestCase):
     def setUp(self):
         self.folder = tempfile.TemporaryDirectory()
