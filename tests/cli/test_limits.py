@@ -84,6 +84,7 @@ class Limits(unittest.TestCase):
         self.assertEqual(os.listdir(self.folder.name), [])
 
 
+@unittest.skipIf(WITH_SANITIZERS, "the address sanitizer wants more than these limits leave")
 class LargeFiles(unittest.TestCase):
     """A gigabyte in place of a file is refused unread: the memory of the program stays small."""
 
