@@ -24,10 +24,16 @@ namespace {
 using testing::GridBearing;
 using testing::GridLoad;
 
+#ifdef NORLAPLAN_SANITIZE
+constexpr std::size_t kUsualCases = 400;
+#else
+constexpr std::size_t kUsualCases = 2000;
+#endif
+
 /// NORLAPLAN_GRID_CASES=1000000 for a full run.
 std::size_t wantedCases() {
     const char* const wanted = std::getenv("NORLAPLAN_GRID_CASES");
-    return wanted == nullptr ? 2000 : static_cast<std::size_t>(std::strtoull(wanted, nullptr, 10));
+    return wanted == nullptr ? kUsualCases : static_cast<std::size_t>(std::strtoull(wanted, nullptr, 10));
 }
 
 constexpr double kMostSeconds = 2.0;
