@@ -49,7 +49,7 @@ void TableFaults::tell(MessagePort& messages) {
     if (more_) prompt += "\nThere are more.";
     told_.clear();
     more_ = false;
-    messages.show({"Catalogue Tables", prompt, Icon::Warning});
+    messages.show({"Catalog Tables", prompt, Icon::Warning});
 }
 
 }  // namespace norlaplan

@@ -33,7 +33,7 @@ class ATableOfADecode : public ::testing::TestWithParam<TableUse> {
         const DecodeResult result = run.decode(GetParam().number);
         // What is no number in the table is told besides.
         std::erase_if(run.messages.shown,
-                      [](const Message& message) { return message.title == "Catalogue Tables"; });
+                      [](const Message& message) { return message.title == "Catalog Tables"; });
         if (result.end == DecodeEnd::Decoded) {
             EXPECT_TRUE(run.messages.shown.empty());
             EXPECT_EQ(run.sheets.stored.size(), 1U);

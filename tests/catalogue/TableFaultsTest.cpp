@@ -16,7 +16,7 @@ using testing::Decoding;
 using testing::SmallCatalogue;
 
 Message warning(const std::string& lines) {
-    return {"Catalogue Tables", lines, Icon::Warning};
+    return {"Catalog Tables", lines, Icon::Warning};
 }
 
 /// A decode in a small catalogue of which one text was replaced by another.

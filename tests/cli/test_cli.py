@@ -67,15 +67,15 @@ class Decode(unittest.TestCase):
             status, bearing = result("--program-folder", str(folder), "decode", "K19013XP0")
             self.assertEqual(status, 0)
             self.assertEqual(bearing["boreTolerance"], 0)
-            self.assertEqual(bearing["warnings"], [{"title": "Catalogue Tables", "prompt": told}])
+            self.assertEqual(bearing["warnings"], [{"title": "Catalog Tables", "prompt": told}])
             cases = folder / "cases.csv"
             cases.write_text("partNumber,radial\nK19013XP0,5\nK20013XP0,5\n", "ascii")
             self.assertEqual(run("--program-folder", str(folder), "batch", str(cases), "--output",
                                  str(folder / "out.csv")).returncode, 0)
             with open(folder / "out.csv", encoding="utf-8", newline="") as file:
                 rows = list(csv.DictReader(file))
-            self.assertIn("Catalogue Tables: " + told, rows[0]["warnings"])
-            self.assertNotIn("Catalogue Tables", rows[1]["warnings"])
+            self.assertIn("Catalog Tables: " + told, rows[0]["warnings"])
+            self.assertNotIn("Catalog Tables", rows[1]["warnings"])
 
     def test_shows_control_characters_and_other_encodings_of_tables(self):
         with own_tables() as folder:
@@ -269,9 +269,9 @@ class Search(unittest.TestCase):
             told = (f'Table 13-X.CSV, row {spoilt + 1}, column 2: "one" is not a number and is read as 0.\n'
                     f'Table 13-X.CSV, row {wrong + 1}, column 1: "K20013CP0" names no bearing of this table and is '
                     "left out.")
-            self.assertEqual(found["warnings"], [{"title": "Catalogue Tables", "prompt": told}])
+            self.assertEqual(found["warnings"], [{"title": "Catalog Tables", "prompt": told}])
             done = run("--program-folder", str(folder), *words)
-            self.assertEqual(done.stderr, f"Catalogue Tables: {told}\n")
+            self.assertEqual(done.stderr, f"Catalog Tables: {told}\n")
 
     def test_says_that_nothing_fits(self):
         status, told = result("search", "--style", "4-POINT CONTACT", "--min-bore", "1", "--max-od", "1.1",

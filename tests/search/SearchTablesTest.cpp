@@ -54,7 +54,7 @@ TEST(ASearch, TellsOnceOfTheFieldsThatAreNoNumbers) {
     EXPECT_EQ(search.state.search.rows[1].stock, "NO  ") << "read as 0, as ever";
     ASSERT_EQ(search.messages.shown.size(), 1U);
     EXPECT_EQ(search.messages.shown[0],
-              (Message{"Catalogue Tables",
+              (Message{"Catalog Tables",
                        "Table 13-X.CSV, row 3, column 10: \"60 balls\" is not a number and is read as 60.\n"
                        "Table 13-X.CSV, row 4, column 2: \"x\" is not a number and is read as 0.",
                        Icon::Warning}))
