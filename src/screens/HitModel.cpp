@@ -76,6 +76,15 @@ QStandardItem* checkItem(const SearchHit& hit) {
     return made;
 }
 
+/// The column of the checks is the last one and often out of sight: the life itself is marked too.
+void markLife(QStandardItem& life, const SearchHit& hit) {
+    if (!hit.checks.any()) return;
+    life.setText("! " + life.text());
+    life.setForeground(theme::badColour(QGuiApplication::palette()));
+    life.setToolTip(checkSentencesOf(hit));
+    life.setAccessibleText(life.text() + ". " + checkSentencesOf(hit));
+}
+
 QList<QStandardItem*> rowOf(const ProgramState& state, const SearchHit& hit, bool fresh) {
     const bool speed = state.loads.speed != 0.0;
     const std::string mark = speed ? overSpeedMark(state, hit) : "";
@@ -87,6 +96,7 @@ QList<QStandardItem*> rowOf(const ProgramState& state, const SearchHit& hit, boo
         row.append(empty ? item("", "", column.alignment)
                          : item(column.shown(text), trimmed(text), column.alignment));
     }
+    markLife(*row[kLifeColumn], hit);
     row.append(item(trimmed(mark), trimmed(mark), Qt::AlignLeft));
     row.append(checkItem(hit));
     for (QStandardItem* const words : row.mid(row.size() - 2))

@@ -25,7 +25,8 @@ enum HitColumn {
 
 /// Fills the model from the rows of the state. Only the lines of freshly computed rows carry their over-speed
 /// marks; the column of the marks has them always. With no speed there are no hours and no marks. Rows whose
-/// life is not to be trusted blindly are marked in the column of the checks, with the sentences as tip.
+/// life is not to be trusted blindly are marked by a sign before it and in the column of the checks, with the
+/// sentences as tip.
 void fillHitModel(QStandardItemModel& model, const ProgramState& state, bool fresh);
 
 /// The sentences on how far the life of a row is to be trusted, one a line; empty as a rule.

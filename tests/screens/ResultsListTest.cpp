@@ -358,6 +358,10 @@ class ResultsListTest : public QObject {
             QApplication::processEvents();
             QCOMPARE(program.cell(row, kCheckColumn).startsWith("Unbalanced"), checks.unbalanced);
             QCOMPARE(warning.isVisible(), checks.any());
+            QCOMPARE(program.cell(row, kLifeColumn).startsWith("! "), checks.any());
+            QCOMPARE(
+                program.table().model()->index(row, kLifeColumn).data(Qt::ToolTipRole).toString().isEmpty(),
+                !checks.any());
             QCOMPARE(warning.text().startsWith("The ball loads do not balance the applied loads."),
                      checks.unbalanced);
             QCOMPARE(program.table().geometry(), table);
