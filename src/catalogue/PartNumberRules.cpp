@@ -5,6 +5,7 @@
 
 #include "catalogue/CodeTexts.h"
 #include "numbers/Text.h"
+#include "numbers/Utf8.h"
 
 namespace norlaplan {
 namespace {
@@ -18,8 +19,7 @@ bool isOneOf(const std::string& styleLetter, std::initializer_list<const char*> 
 Characters charactersOf(const std::string& text) {
     Characters characters;
     for (const char byte : upperCase(text)) {
-        const bool goesOn = (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-        if (goesOn && !characters.empty()) {
+        if (continuesCharacter(byte) && !characters.empty()) {
             characters.back() += byte;
         } else {
             characters.emplace_back(1, byte);

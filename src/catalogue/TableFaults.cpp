@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "numbers/Text.h"
+#include "numbers/Utf8.h"
 
 namespace norlaplan {
 namespace {
@@ -15,10 +16,7 @@ constexpr std::size_t kMostTold = 8;
 std::string beginning(std::string_view text) {
     constexpr std::size_t kMostShown = 60;
     if (text.size() <= kMostShown) return std::string(text);
-    std::size_t end = kMostShown;
-    while ((static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U)
-        --end;
-    return std::string(text.substr(0, end)) + "\u2026";
+    return std::string(wholeCharacters(text, kMostShown)) + "\u2026";
 }
 
 std::string sentence(const TableFault& fault) {

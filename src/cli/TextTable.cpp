@@ -4,15 +4,10 @@
 
 #include "cli/VisibleText.h"
 #include "numbers/Text.h"
+#include "numbers/Utf8.h"
 
 namespace norlaplan::cli {
 namespace {
-
-/// Characters that a UTF-8 text takes on a terminal: the bytes that go on with a character don't count.
-std::size_t shownWidth(const std::string& text) {
-    return static_cast<std::size_t>(std::count_if(
-        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
-}
 
 struct Column {
     std::size_t width = 0;
@@ -24,7 +19,7 @@ std::vector<Column> measure(const TextRows& rows, bool head) {
     for (std::size_t row = 0; row < rows.size(); ++row) {
         columns.resize(std::max(columns.size(), rows[row].size()));
         for (std::size_t i = 0; i < rows[row].size(); ++i) {
-            columns[i].width = std::max(columns[i].width, shownWidth(rows[row][i]));
+            columns[i].width = std::max(columns[i].width, characterCount(rows[row][i]));
             // A head and an empty cell say nothing about their column.
             const bool says = !(head && row == 0) && !rows[row][i].empty();
             if (says && !wholeNumberText(rows[row][i])) columns[i].numeric = false;
@@ -45,7 +40,7 @@ std::string textTable(TextRows rows, bool head) {
     for (const auto& row : rows) {
         std::string line;
         for (std::size_t i = 0; i < row.size(); ++i) {
-            const std::string gap(columns[i].width - shownWidth(row[i]), ' ');
+            const std::string gap(columns[i].width - characterCount(row[i]), ' ');
             if (i > 0) line += "  ";
             line += columns[i].numeric ? gap + row[i] : row[i] + gap;
         }

@@ -9,6 +9,7 @@
 #include "cli/CommandLine.h"
 #include "cli/Interrupts.h"
 #include "cli/VisibleText.h"
+#include "numbers/RuntimeError.h"
 
 namespace norlaplan::cli {
 namespace {
@@ -54,9 +55,8 @@ void requireStack() {
     constexpr rlim_t kLeast = 256U << 10U;
     rlimit stack{};
     if (::getrlimit(RLIMIT_STACK, &stack) != 0 || stack.rlim_cur >= kLeast) return;
-    constexpr int kOutOfStack = 28;
-    throw CommandError(ErrorKind::Runtime, "Run-time error '28'",
-                       "Out of stack space: the limit on the stack is below 256 KB", kOutOfStack);
+    throw RuntimeError(fault::kOutOfStack,
+                       runtimeErrorText(fault::kOutOfStack) + ": the limit on the stack is below 256 KB");
 }
 
 int report(const CommandError& error, bool json) {
@@ -76,7 +76,7 @@ int main(int argc, char** argv) {
         requireStack();
         if (const auto invocation = parseCommandLine(argc, argv)) run(*invocation);
         std::cout.flush();
-        if (!std::cout) throw CommandError(ErrorKind::Runtime, "Run-time error '61'", "Disk full", 61);
+        if (!std::cout) norlaplan::raise(norlaplan::fault::kDiskFull);
         return 0;
     } catch (const Interrupted& interrupted) {
         interrupted.endProgram();

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "numbers/Text.h"
+#include "numbers/Utf8.h"
 
 namespace norlaplan {
 namespace {
@@ -30,7 +31,7 @@ class FieldWriter {
         toZone();
         text_ += '"';
         // A longer one would make the file one that can't be read.
-        for (const char c : std::string_view(value).substr(0, kLongestText)) {
+        for (const char c : wholeCharacters(value, kLongestText)) {
             if (c == '"') text_ += c;
             text_ += c == '\n' || c == '\r' ? ' ' : c;
         }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "numbers/Utf8.h"
+
 namespace norlaplan {
 namespace {
 
@@ -25,7 +27,7 @@ std::size_t lengthOfUtf8(std::string_view text) {
     const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
     if (lead < 0xC2 || lead > 0xF4 || text.size() < length) return 0;
     for (std::size_t at = 1; at < length; ++at) {
-        if ((byteAt(text, at) & 0xC0U) != 0x80U) return 0;
+        if (!continuesCharacter(text[at])) return 0;
     }
     const unsigned second = byteAt(text, 1);
     const bool tooLong = (lead == 0xE0 && second < 0xA0) || (lead == 0xF0 && second < 0x90);

@@ -21,6 +21,8 @@ std::string runtimeErrorText(int number) {
             return "Division by zero";
         case fault::kTypeMismatch:
             return "Type mismatch";
+        case fault::kOutOfStack:
+            return "Out of stack space";
         case fault::kBadFileName:
             return "Bad file name or number";
         case fault::kFileNotFound:

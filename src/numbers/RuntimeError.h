@@ -26,6 +26,7 @@ constexpr int kOutOfMemory = 7;
 constexpr int kSubscript = 9;
 constexpr int kDivisionByZero = 11;
 constexpr int kTypeMismatch = 13;
+constexpr int kOutOfStack = 28;
 constexpr int kBadFileName = 52;
 constexpr int kFileNotFound = 53;
 constexpr int kDeviceIo = 57;

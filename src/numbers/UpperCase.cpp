@@ -1,6 +1,7 @@
 #include <array>
 
 #include "numbers/Text.h"
+#include "numbers/Utf8.h"
 
 namespace norlaplan {
 namespace {
@@ -49,7 +50,7 @@ std::size_t lengthAt(std::string_view text) {
                                                          : 0;
     if (length > text.size()) return 0;
     for (std::size_t i = 1; i < length; ++i) {
-        if ((static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80U) return 0;
+        if (!continuesCharacter(text[i])) return 0;
     }
     return length;
 }

@@ -3,6 +3,8 @@
 #include <cerrno>
 #include <string>
 
+#include "numbers/Utf8.h"
+
 namespace norlaplan {
 namespace {
 
@@ -11,15 +13,10 @@ std::string shownPath(const std::filesystem::path& file) {
     constexpr std::size_t kEnd = 120;
     const std::string path = file.string();
     if (path.size() <= 2 * kEnd + 3) return path;
-    const auto startsCharacter = [&](std::size_t at) {
-        return (static_cast<unsigned char>(path[at]) & 0xC0U) != 0x80U;
-    };
-    std::size_t left = kEnd, right = path.size() - kEnd;
-    while (!startsCharacter(left))
-        --left;
-    while (right < path.size() && !startsCharacter(right))
+    std::size_t right = path.size() - kEnd;
+    while (right < path.size() && continuesCharacter(path[right]))
         ++right;
-    return path.substr(0, left) + "..." + path.substr(right);
+    return std::string(wholeCharacters(path, kEnd)) + "..." + path.substr(right);
 }
 
 }  // namespace

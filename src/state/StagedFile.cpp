@@ -15,6 +15,7 @@
 #include <sys/stat.h>
 
 #include "numbers/RuntimeError.h"
+#include "numbers/Utf8.h"
 #include "state/FileFault.h"
 #include "state/WholeFile.h"
 
@@ -54,10 +55,7 @@ std::string waitingName(const fs::path& target) {
         std::uint64_t number = 14695981039346656037U;
         for (const char byte : name)
             number = (number ^ static_cast<unsigned char>(byte)) * 1099511628211U;
-        std::size_t end = kKept;
-        while ((static_cast<unsigned char>(name[end]) & 0xC0U) == 0x80U)
-            --end;
-        name.resize(end);
+        name.resize(wholeCharacters(name, kKept).size());
         name += "." + std::to_string(number);
     }
     return (target.parent_path() / ("." + name + ".part")).string();

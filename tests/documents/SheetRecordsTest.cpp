@@ -49,6 +49,17 @@ TEST(SheetRecords, ReadBackWhatWasWritten) {
     EXPECT_EQ(again + "ALLDONE\r\n", oneOfEach());
 }
 
+TEST(SheetRecords, KeepFourThousandBytesOfATextWithNoCharacterCut) {
+    SheetText text;
+    text.text = "a";
+    while (text.text.size() < 5000)
+        text.text += "\u00D8";
+    std::string written;
+    appendRecord(written, text);
+    const std::string read = std::get<SheetText>(readSheetRecords(written)[0]).text;
+    EXPECT_EQ(read, text.text.substr(0, 3999));
+}
+
 TEST(SheetRecords, EndAtTheLastLineOrTheFilesEnd) {
     EXPECT_TRUE(readSheetRecords("").empty());
     EXPECT_TRUE(readSheetRecords("\r\n\r\n").empty());
