@@ -1,3 +1,10 @@
+# Lets a fuzzer see which branches of the target its inputs reach; nothing in a build without fuzzers.
+function(norlaplan_show_branches target)
+  if(NORLAPLAN_FUZZERS AND TARGET ${target})
+    target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
+  endif()
+endfunction()
+
 # norlaplan_folder(NAME [LINKS above...]): one static library for src/NAME.
 # The links say which folders it may include; a wrong include does not build,
 # because each folder's headers are only reachable through its own include root.
@@ -11,6 +18,7 @@ function(norlaplan_folder name)
   if(sources)
     add_library(norlaplan_${name} STATIC ${sources})
     norlaplan_reuse_precompiled(norlaplan_${name} logic_headers)
+    norlaplan_show_branches(norlaplan_${name})
     set(scope PUBLIC)
   else()
     add_library(norlaplan_${name} INTERFACE)

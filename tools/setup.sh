@@ -3,7 +3,7 @@
 say() { printf '== %s\n' "$*" >&2; }
 
 packages=(
-  g++ clang-14 libclang-rt-14-dev llvm-14 cmake ninja-build ccache clang-format-14 python3 pkg-config
+  g++ clang-14 lld-14 libclang-rt-14-dev llvm-14 cmake ninja-build ccache clang-format-14 python3 pkg-config
   qt6-base-dev qt6-qpa-plugins libgl1-mesa-dev fonts-liberation
   nlohmann-json3-dev libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev
 )
