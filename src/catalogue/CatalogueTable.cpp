@@ -27,21 +27,21 @@ bool endsField(int c) {
 
 }  // namespace
 
-CatalogueTable::CatalogueTable(const ProgramFolder& folder, std::string_view name) : name_(name) {
-    const std::filesystem::path path = folder.find("\\Data Tables\\" + std::string(name));
+CatalogueTable::CatalogueTable(const ProgramFolder& folder, std::string_view name)
+    : path_(folder.find("\\Data Tables\\" + std::string(name))), name_(name) {
     // A pipe in a table's place must not be waited for.
-    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (descriptor < 0) raiseSystem(errno, path, fault::kFileNotFound);
+    const int descriptor = ::open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descriptor < 0) raiseSystem(errno, path_, fault::kFileNotFound);
     file_.reset(::fdopen(descriptor, "rb"));
     if (!file_) {
         ::close(descriptor);
-        raiseFile(fault::kDeviceIo, path);
+        raiseFile(fault::kDeviceIo, path_);
     }
     struct stat status {};
     if (::fstat(::fileno(file_.get()), &status) != 0 || !S_ISREG(status.st_mode))
-        raiseFile(fault::kPathAccess, path);
+        raiseFile(fault::kPathAccess, path_);
     size_ = static_cast<double>(status.st_size);
-    if (size_ > kMostTableBytes) raiseTooLarge(path, kMostTableBytes);
+    if (size_ > kMostTableBytes) raiseTooLarge(path_, kMostTableBytes);
     skipByteOrderMark();
 }
 
@@ -94,7 +94,7 @@ double CatalogueTable::number() {
 }
 
 void CatalogueTable::readField(std::string& field) {
-    if (AtEnd()) raise(fault::kPastEnd);
+    if (AtEnd()) raiseFile(fault::kPastEnd, path_);
     field.clear();
     while (peek() == ' ' || peek() == '\t')
         get();
@@ -117,7 +117,7 @@ void CatalogueTable::readQuoted(std::string& field) {
 }
 
 void CatalogueTable::keep(std::string& field) {
-    if (field.size() == kLongestField) raise(fault::kOverflow);
+    if (field.size() == kLongestField) raiseFile(fault::kOverflow, path_);
     field += static_cast<char>(get());
 }
 
@@ -134,7 +134,7 @@ int CatalogueTable::peek() {
         at_ = 0;
         read_ += static_cast<double>(filled_);
         if (filled_ == 0) {
-            if (std::ferror(file_.get()) != 0) raise(fault::kDeviceIo);
+            if (std::ferror(file_.get()) != 0) raiseFile(fault::kDeviceIo, path_);
             return kEnd;
         }
     }

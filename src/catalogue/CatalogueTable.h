@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -23,7 +24,7 @@ namespace norlaplan {
 /// The file is read piece by piece, whatever its size. Errors: 53 when the file or its folder is missing, 62
 /// past the end, 6 for a number that its target doesn't hold and for a field of more than 65535 characters,
 /// 75 for a folder in the table's place, 321 for a file of more than 64 MB, 70 and 57 as the platform raises
-/// them.
+/// them. Their texts name the file, but that of a number that is too large.
 class CatalogueTable {
   public:
     /// Opens "13-X.csv" and the like in the data folder; names are matched without regard to case.
@@ -81,6 +82,7 @@ class CatalogueTable {
     std::size_t at_ = 0, filled_ = 0;
     double size_ = 0.0, read_ = 0.0;
     std::string field_;
+    std::filesystem::path path_;
     std::string name_;
     int row_ = 1, column_ = 1;  ///< of the next field
     std::vector<TableFault> faults_;

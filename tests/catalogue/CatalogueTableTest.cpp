@@ -22,6 +22,17 @@ class ATable : public ::testing::Test {
         files.write("Data Tables/13-x.CSV", content);
         return OpenTable(folder, "13-X.csv");
     }
+    /// What the action tells of table 13-x.CSV: the path must follow a colon.
+    std::string toldOfTable(auto&& action) {
+        try {
+            action();
+        } catch (const RuntimeError& error) {
+            const std::string text = error.what();
+            const std::string named = ": " + (files.path() / "Data Tables" / "13-x.CSV").string();
+            return text.ends_with(named) ? text.substr(0, text.size() - named.size()) : "unnamed: " + text;
+        }
+        return "";
+    }
     testing::TemporaryFolder files;
     ProgramFolder folder{files.path()};
 };
@@ -159,6 +170,20 @@ TEST_F(ATable, RaisesAReadOfAnEmptyFile) {
     CatalogueTable table = open("");
     EXPECT_TRUE(table.AtEnd());
     EXPECT_EQ(faultOf([&] { table.skipFields(1); }), 62);
+}
+
+TEST_F(ATable, ThatIsTooShortOrHoldsAnEndlessFieldIsNamedInTheFault) {
+    std::string text;
+    EXPECT_EQ(toldOfTable([&] { open("").NextFields(text); }), "Input past end of file");
+    EXPECT_EQ(toldOfTable([&] { open(std::string(65536, 'x')).NextFields(text); }), "Overflow");
+    EXPECT_EQ(toldOfTable([&] { open('"' + std::string(65536, 'x')).NextFields(text); }), "Overflow");
+}
+
+TEST_F(ATable, OnADiskThatFailsIsNamedInTheFault) {
+    // The first page of a process's memory is a plain file that can be opened and not be read.
+    std::filesystem::create_directory(files.path() / "Data Tables");
+    std::filesystem::create_symlink("/proc/self/mem", files.path() / "Data Tables" / "13-x.CSV");
+    EXPECT_EQ(toldOfTable([&] { OpenTable(folder, "13-X.csv"); }), "Device I/O error");
 }
 
 TEST_F(ATable, RaisesAMissingFileOrFolderAsFileNotFound) {

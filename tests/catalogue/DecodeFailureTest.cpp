@@ -119,7 +119,8 @@ class AFailingDecode : public ::testing::Test {
 
 TEST_F(AFailingDecode, StopsWhereItIsForAnyFaultButAMissingFile) {
     catalogue.write("13-X.csv", "0.6,,,,,,,,,\n13,,,,,,,,,\nshort,1,100\n");
-    expectStopped("K19013XP0", 62, "Input past end of file");
+    expectStopped("K19013XP0", 62,
+                  "Input past end of file: " + (catalogue.path() / "Data Tables" / "13-X.csv").string());
 }
 
 TEST_F(AFailingDecode, StopsAtARowWithoutSizesAndBallsWithADivisionByZero) {
