@@ -8,6 +8,7 @@
 #include "cli/CommandError.h"
 #include "numbers/RuntimeError.h"
 #include "numbers/Text.h"
+#include "state/FileFault.h"
 
 namespace norlaplan::cli {
 namespace {
@@ -16,17 +17,16 @@ constexpr std::size_t kLongestLine = 10000;
 
 std::FILE* open(const std::filesystem::path& path) {
     std::FILE* const file = std::fopen(path.c_str(), "rbe");
-    if (file == nullptr)
-        raise(errno == ENOENT || errno == ENOTDIR ? fault::kFileNotFound : fault::kPermissionDenied);
+    if (file == nullptr) raiseSystem(errno, path, fault::kFileNotFound);
     return file;
 }
 
 }  // namespace
 
-CsvReader::CsvReader(const std::filesystem::path& path) : file_(open(path)) {
+CsvReader::CsvReader(const std::filesystem::path& path) : path_(path), file_(open(path)) {
     struct stat status {};
-    if (::fstat(::fileno(file_.get()), &status) != 0) raise(fault::kDeviceIo);
-    if (S_ISDIR(status.st_mode)) raise(fault::kPathAccess);
+    if (::fstat(::fileno(file_.get()), &status) != 0) raiseFile(fault::kDeviceIo, path);
+    if (S_ISDIR(status.st_mode)) raiseFile(fault::kPathAccess, path);
     if (S_ISREG(status.st_mode)) size_ = static_cast<double>(status.st_size);
 }
 
@@ -34,7 +34,7 @@ bool CsvReader::readLine(std::string& line) {
     line.clear();
     int c = std::getc(file_.get());
     if (c == EOF) {
-        if (std::ferror(file_.get()) != 0) raise(fault::kDeviceIo);
+        if (std::ferror(file_.get()) != 0) raiseFile(fault::kDeviceIo, path_);
         return false;
     }
     for (; c != EOF && c != '\n'; c = std::getc(file_.get())) {

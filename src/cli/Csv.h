@@ -11,7 +11,7 @@ namespace norlaplan::cli {
 
 /// The lines of a CSV file, one after the other, whatever its size. A byte order mark is passed over; lines
 /// end with LF or CR LF. Errors: 53, 70, 75 and 57 for a file that is missing, may not be read, is a folder,
-/// or fails.
+/// or fails, and what else the system says when it is opened; their texts name the file.
 class CsvReader {
   public:
     explicit CsvReader(const std::filesystem::path& path);
@@ -28,6 +28,7 @@ class CsvReader {
     };
     bool readLine(std::string& line);
 
+    std::filesystem::path path_;
     std::unique_ptr<std::FILE, Closer> file_;
     double size_ = 0.0, read_ = 0.0;
 };

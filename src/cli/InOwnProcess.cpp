@@ -15,6 +15,7 @@
 #include "cli/CommandError.h"
 #include "numbers/RuntimeError.h"
 #include "state/Descriptor.h"
+#include "state/FileFault.h"
 
 namespace norlaplan::cli {
 namespace {
@@ -94,7 +95,7 @@ int endOf(pid_t process) {
 
 void inOwnProcess(const std::function<void()>& work) {
     int ends[2];
-    if (::pipe2(ends, O_CLOEXEC) != 0) raise(fault::kTooManyFiles);
+    if (::pipe2(ends, O_CLOEXEC) != 0) raiseFile(fault::kTooManyFiles, "the pipe to a process that draws");
     const Descriptor reading(ends[0]);
     Descriptor writing(ends[1]);
     const pid_t process = ::fork();

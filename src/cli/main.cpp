@@ -10,6 +10,7 @@
 #include "cli/Interrupts.h"
 #include "cli/VisibleText.h"
 #include "numbers/RuntimeError.h"
+#include "state/FileFault.h"
 
 namespace norlaplan::cli {
 namespace {
@@ -76,7 +77,7 @@ int main(int argc, char** argv) {
         requireStack();
         if (const auto invocation = parseCommandLine(argc, argv)) run(*invocation);
         std::cout.flush();
-        if (!std::cout) norlaplan::raise(norlaplan::fault::kDiskFull);
+        if (!std::cout) norlaplan::raiseFile(norlaplan::fault::kDiskFull, "standard output");
         return 0;
     } catch (const Interrupted& interrupted) {
         interrupted.endProgram();

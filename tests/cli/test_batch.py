@@ -164,10 +164,19 @@ class Cases(Table):
                 self.assertTrue(told["error"]["prompt"].startswith(prompt))
                 self.assertFalse(self.results.exists())
 
-    def test_that_are_missing_or_a_folder_are_run_time_errors(self):
-        for path, number in ((self.folder / "none.csv", 53), (self.folder, 75)):
-            status, told = result("batch", str(path), "--output", str(self.results))
-            self.assertEqual((status, told["error"]["kind"], told["error"]["number"]), (3, "runtime", number))
+    def test_that_are_missing_or_a_folder_or_fail_are_run_time_errors_that_name_the_file(self):
+        # The first page of a process's memory is a plain file that can be opened and not be read.
+        self.cases.write_text("", "ascii")
+        for path, number, text in ((self.folder / "none.csv", 53, "File not found"),
+                                   (self.cases / "under-a-file.csv", 53, "File not found"),
+                                   (self.folder, 75, "Path/File access error"),
+                                   (Path("/proc/self/mem"), 57, "Device I/O error"),
+                                   (self.folder / ("x" * 256), 52, "Bad file name or number: the name is too long")):
+            with self.subTest(text):
+                status, told = result("batch", str(path), "--output", str(self.results))
+                self.assertEqual((status, told["error"]["kind"], told["error"]["number"]), (3, "runtime", number))
+                # Of a long path the middle is left out.
+                self.assertTrue(told["error"]["prompt"].startswith(f"{text}: {str(path)[:120]}"))
 
 
 class Results(Table):

@@ -449,7 +449,7 @@ class Usage(unittest.TestCase):
     def test_a_result_that_cannot_be_printed_is_an_error(self):
         with open("/dev/full", "w", encoding="ascii") as full:
             done = run("decode", "K19013XP0", capture_output=False, stdout=full, stderr=subprocess.PIPE)
-        self.assertEqual((done.returncode, done.stderr), (3, "Run-time error '61': Disk full\n"))
+        self.assertEqual((done.returncode, done.stderr), (3, "Run-time error '61': Disk full: standard output\n"))
 
     def test_wrong_words_are_status_2(self):
         for words in ((), ("nonsense",), ("decode",), ("decode", "K19013XP0", "--nonsense"),

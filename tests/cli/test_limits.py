@@ -38,6 +38,7 @@ class Limits(unittest.TestCase):
         self.assertIn(done.returncode, (1, 3), told)
         self.assertIn('"error"', done.stdout, told)
         self.assertNotIn("terminate", done.stderr, told)
+        self.assertNotIn("Too many files\n", done.stderr, "it is told what could not be opened")
         self.assertEqual(left, [], told)
         return "error"
 
