@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "numbers/RuntimeError.h"
+#include "paint/NoRuntimeFolder.h"
 #include "paint/PictureFile.h"
 
 namespace norlaplan {
@@ -27,10 +28,11 @@ void putText(std::string_view from, char* text, std::size_t size) {
 class HeadlessApplication {
   public:
     HeadlessApplication() {
-        // What Qt finds worth a remark (a session without a runtime folder) is no message for the user.
+        // What Qt finds worth a remark is no message for the user.
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-        if (QCoreApplication::instance() == nullptr)
-            application_ = std::make_unique<QGuiApplication>(count_, arguments_.data());
+        if (QCoreApplication::instance() != nullptr) return;
+        const NoRuntimeFolder starting;
+        application_ = std::make_unique<QGuiApplication>(count_, arguments_.data());
     }
     ~HeadlessApplication() { qInstallMessageHandler(nullptr); }
     HeadlessApplication(const HeadlessApplication&) = delete;

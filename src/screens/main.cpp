@@ -1,6 +1,8 @@
 #include <QApplication>
 #include <cstdio>
+#include <optional>
 
+#include "paint/NoRuntimeFolder.h"
 #include "screens/Form1.h"
 #include "screens/FormRegistry.h"
 #include "screens/Screens.h"
@@ -15,7 +17,9 @@ int main(int count, char** arguments) {
         const QCoreApplication application(count, arguments);
         printText();
     }
+    std::optional<NoRuntimeFolder> starting(std::in_place);
     const QApplication application(count, arguments);
+    starting.reset();
     const StartOptions options = readStartOptions(QCoreApplication::arguments());
     if (!options.fault.isEmpty()) {
         std::fprintf(stderr, "norlaplan: %s\n", qPrintable(options.fault));
