@@ -86,6 +86,32 @@ class Faults(unittest.TestCase):
     def test_a_program_that_is_killed_at_an_operation(self):
         self.sweep("kill", FASTEST)
 
+    def test_a_folder_that_vanishes_in_the_middle_of_a_save(self):
+        for way in every_save(self.addCleanup, (*FEW, "settings")):
+            gone = way.out.with_name(way.out.name + ".gone")
+            for at in range(1, MOST_OPERATIONS):
+                where = f"{way.name}, its folder vanishes at operation {at}"
+                way.places.reset()
+                beside = set(os.listdir(way.folder))
+                outcome = way.save("vanish", at, way.out)
+                if not outcome.reached:
+                    self.assertEqual(outcome.told, "", where)
+                    self.assertTrue(way.places.is_new() and way.go_on(), where)
+                    break
+                self.figures["faults"] += 1
+                self.assertFalse(way.out.exists(), f"{where}: made anew")
+                gone.rename(way.out)
+                if way.out != way.folder:
+                    self.assertEqual(set(os.listdir(way.folder)) - {"log"}, beside - {"log"}, where)
+                # What was put in place first can't be taken back where there is nothing any more.
+                self.check(way, outcome, where, True, False)
+                self.assertTrue(way.go_on(), f"{where}: the program isn't alive")
+                if way.places.left():
+                    self.next_save_clears(way, where)
+            else:
+                self.fail(f"{way.name} never ends")
+            self.assertGreater(at, 1, f"{way.name} writes without being seen")
+
     def refused(self, way, where, **fault):
         """A save that can't be made is told, names the file, leaves nothing and doesn't end the program."""
         outcome = way.save(**fault)
