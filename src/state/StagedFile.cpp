@@ -104,6 +104,12 @@ mode_t rightsFor(const fs::path& path) {
     return 0666U & ~mask;
 }
 
+/// A file that its owner has protected stays, although its folder would let it be replaced.
+void refuseProtected(const fs::path& path) {
+    if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0) return;
+    if (errno == EACCES || errno == EPERM || errno == EROFS) raiseWriting(errno, path);
+}
+
 /// A pipe or device, open to be written through; nothing for a plain file or for what isn't there.
 std::optional<int> openedThrough(const fs::path& path) {
     struct stat status {};
@@ -141,6 +147,7 @@ StagedFile::StagedFile(const fs::path& path) {
     }
     target_ = followed(path);
     if (target_.filename().empty()) raiseFile(fault::kPathAccess, path);
+    refuseProtected(target_);
     // A limit on a file's size is told like a full disk; its signal would end the program.
     [[maybe_unused]] static const auto before = std::signal(SIGXFSZ, SIG_IGN);
     openWaiting();

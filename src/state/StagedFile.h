@@ -9,8 +9,9 @@
 namespace norlaplan {
 
 /// The new content of a file, written beside it and waiting. Errors of the constructor: 52 for a name that is
-/// too long, 61 for a full disk or a limit on a file's size, 70 when writing isn't permitted, 75 when the
-/// folder is missing or the path is one of a folder, 57 for anything else; their texts name the file.
+/// too long, 61 for a full disk or a limit on a file's size, 70 when writing isn't permitted into the folder
+/// or onto the file that is there, 75 when the folder is missing or the path is one of a folder, 57 for
+/// anything else; their texts name the file.
 ///
 /// What stands at the path stands until `commit`; without it the new content is dropped. A symbolic link is
 /// followed, also one whose target is still to be made. A pipe or a device is never replaced: what is written

@@ -1,10 +1,12 @@
 """The two ways to a save: the command line, and the forms in a program that saves as often as it is asked."""
 
+import ctypes
 import os
 import random
 import resource
 import shutil
 import subprocess
+import sys
 import tempfile
 from collections import namedtuple
 from pathlib import Path
@@ -22,6 +24,25 @@ Outcome = namedtuple("Outcome", "reached told sound killed")
 OLD = b"what stood there before"
 LIFE = ("report", "life", "K19013XP0", "--radial", "100")
 CASES = "partNumber,radial,axial,moment,speed\n" + "K19013XP0,100,,,\n" * 40
+
+
+def as_any_user():
+    """In a new process: whoever runs it, rights hold for the program that it starts."""
+    may_pass_rights, may_pass_reading, may_change_any = 1, 2, 3
+    drop = 24
+    if os.geteuid() == 0:
+        for power in (may_pass_rights, may_pass_reading, may_change_any):
+            ctypes.CDLL(None).prctl(drop, power, 0, 0, 0)
+
+
+def rights_hold():
+    """Whether they do here: the administrator of a closed machine may be unable to give up what he may."""
+    with tempfile.TemporaryDirectory() as folder:
+        os.chmod(folder, 0o500)
+        write = "import sys; open(sys.argv[1] + '/file', 'w')"
+        done = subprocess.run([sys.executable, "-c", write, folder], capture_output=True, preexec_fn=as_any_user,
+                              check=False)
+        return done.returncode != 0
 
 
 class CommandLine:
@@ -60,9 +81,14 @@ class CommandLine:
         environment = {**ENVIRONMENT, "NORLAPLAN_FAULT_FOLDER": str(folder or self.out),
                        "NORLAPLAN_FAULT_KIND": kind, "NORLAPLAN_FAULT_AT": str(at),
                        "NORLAPLAN_FAULT_LOG": str(self.log)}
-        limits = (lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (limit, limit))) if limit is not None else None
+
+        def begin():
+            as_any_user()
+            if limit is not None:
+                resource.setrlimit(resource.RLIMIT_FSIZE, (limit, limit))
+
         done = subprocess.run(self.words, env=environment, capture_output=True, text=True, timeout=120, check=False,
-                              preexec_fn=limits)
+                              preexec_fn=begin)
         reached = self.log.exists() and " fault" in self.log.read_text()
         killed = done.returncode < 0
         fits = (done.returncode == 0) == ('"error"' not in done.stdout) and done.returncode in (0, 3)
@@ -94,7 +120,7 @@ class Forms:
     def __init__(self, name, cleanup):
         self.name = name
         self.process = subprocess.Popen([SAVER, name], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True,
-                                        env=ENVIRONMENT, stderr=subprocess.DEVNULL)
+                                        env=ENVIRONMENT, stderr=subprocess.DEVNULL, preexec_fn=as_any_user)
         cleanup(self.close)
         self.folder = Path(self.read("folder"))
         self.ask("open")

@@ -6,7 +6,7 @@ import os
 import unittest
 from pathlib import Path
 
-from saving import CommandLine, Forms, every_save, some_time
+from saving import CommandLine, Forms, every_save, rights_hold, some_time
 
 KILLS = int(os.environ.get("NORLAPLAN_FAULT_KILLS", "36"))
 # A long run takes every save in every test; the usual one takes those that write in ways of their own: a file, one
@@ -128,6 +128,27 @@ class Faults(unittest.TestCase):
             self.assertEqual(way.places.complaint(), "")
             self.assertFalse(way.places.is_new())
             self.assertTrue(way.go_on(), way.name)
+
+    @unittest.skipUnless(rights_hold(), "rights don't hold for whoever runs this")
+    def test_a_folder_that_may_only_be_read_is_told_and_keeps_the_old_file(self):
+        for way in every_save(self.addCleanup, ALL):
+            self.refused_by_rights(way, way.out, 0o500)
+
+    @unittest.skipUnless(rights_hold(), "rights don't hold for whoever runs this")
+    def test_a_file_that_may_only_be_read_is_told_and_kept(self):
+        for way in every_save(self.addCleanup, (*FEW, "settings", "sheet")):
+            self.refused_by_rights(way, way.target, 0o400)
+
+    def refused_by_rights(self, way, place, rights):
+        way.places.reset()
+        before = place.stat().st_mode
+        place.chmod(rights)
+        outcome = self.refused(way, f"{way.name} where {place} may only be read")
+        place.chmod(before)
+        self.assertIn("Permission denied", outcome.told)
+        self.assertEqual(way.places.complaint(), "", way.name)
+        self.assertFalse(way.places.is_new(), way.name)
+        self.assertTrue(way.go_on(), way.name)
 
     def test_a_target_that_is_a_folder_stays_one(self):
         for way in every_save(self.addCleanup, FEW):

@@ -13,6 +13,7 @@
 #include "numbers/RuntimeError.h"
 #include "state/StagedFile.h"
 #include "state/WholeFile.h"
+#include "support/DiskTroubles.h"
 #include "support/FaultOf.h"
 #include "support/RecordingPorts.h"
 
@@ -127,6 +128,21 @@ TEST(StagedFile, OfTwoProgramsAtOnceTheLaterIsWhole) {
     one.commit();
     EXPECT_EQ(place.read("report.rtf"), std::string(9000, '1'));
     EXPECT_EQ(filesIn(place.path()), 1);
+}
+
+TEST(WriteWholeFile, LeavesAFileThatMayOnlyBeReadAlsoBehindALink) {
+    const TemporaryFolder place;
+    place.write("mine.rtf", "old");
+    fs::create_symlink("mine.rtf", place.path() / "link.rtf");
+    {
+        const testing::ReadOnlyFile file(place.path() / "mine.rtf");
+        const std::string told = "Permission denied: " + (place.path() / "mine.rtf").string();
+        EXPECT_EQ(complaint(place.path() / "mine.rtf"), told);
+        EXPECT_EQ(complaint(place.path() / "link.rtf"), told);
+        EXPECT_EQ(complaint(place.path() / "other.rtf"), "");
+    }
+    EXPECT_EQ(place.read("mine.rtf"), "old");
+    EXPECT_EQ(complaint(place.path() / "mine.rtf"), "");
 }
 
 TEST(WriteWholeFile, FollowsALinkAndKeepsIt) {

@@ -48,4 +48,25 @@ class ReadOnlyFolder {
     std::filesystem::path folder_;
 };
 
+/// While it lives the file can be read only, by the administrator as well; its folder takes new files.
+class ReadOnlyFile {
+  public:
+    explicit ReadOnlyFile(const std::filesystem::path& file) : file_(file) {
+        namespace fs = std::filesystem;
+        fs::permissions(file_, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+        if (::geteuid() != 0) return;
+        fs::permissions(file_.parent_path(), fs::perms::all);
+        ::setfsuid(65534);
+    }
+    ~ReadOnlyFile() {
+        ::setfsuid(::geteuid());
+        std::filesystem::permissions(file_, std::filesystem::perms::owner_all);
+    }
+    ReadOnlyFile(const ReadOnlyFile&) = delete;
+    ReadOnlyFile& operator=(const ReadOnlyFile&) = delete;
+
+  private:
+    std::filesystem::path file_;
+};
+
 }  // namespace norlaplan::testing
