@@ -21,6 +21,8 @@ ENVIRONMENT = {**os.environ, "LD_PRELOAD": os.environ["NORLAPLAN_FAILING_CALLS"]
 # reached: the fault was met; told: every message; sound: the program went on, or its exit status fits what it said;
 # killed: it was ended from outside.
 Outcome = namedtuple("Outcome", "reached told sound killed")
+# Units write three files one after the other; a sheet that was saved may stay in the program's folder too.
+ONE_BY_ONE = ("units", "sheet")
 OLD = b"what stood there before"
 LIFE = ("report", "life", "K19013XP0", "--radial", "100")
 CASES = "partNumber,radial,axial,moment,speed\n" + "K19013XP0,100,,,\n" * 40
@@ -186,6 +188,13 @@ class Forms:
         self.process.stdin.close()
         self.process.stdout.close()
         self.process.wait(60)
+
+
+# A long run takes every save in every test; the usual one takes those that write in ways of their own: a file, one
+# from a process of its own, one that grows, a pair.
+LONG = "NORLAPLAN_FAULT_KILLS" in os.environ
+ALL = (*CommandLine.WAYS, *Forms.WAYS)
+FEW = ALL if LONG else ("life.rtf", "datasheet.pdf", "results.csv", "application")
 
 
 def every_save(cleanup, names):

@@ -6,17 +6,11 @@ import os
 import unittest
 from pathlib import Path
 
-from saving import CommandLine, Forms, every_save, rights_hold, some_time
+from saving import ALL, FEW, LONG, ONE_BY_ONE, CommandLine, every_save, rights_hold, some_time
 
 KILLS = int(os.environ.get("NORLAPLAN_FAULT_KILLS", "36"))
-# A long run takes every save in every test; the usual one takes those that write in ways of their own: a file, one
-# from a process of its own, one that grows, a pair.
-LONG = "NORLAPLAN_FAULT_KILLS" in os.environ
-ALL = (*CommandLine.WAYS, *Forms.WAYS)
-FEW = ALL if LONG else ("life.rtf", "datasheet.pdf", "results.csv", "application")
+# For the tests that take more of them than the few.
 MORE = ALL if LONG else (*CommandLine.WAYS, "settings", "preview", "application")
-# Units write three files one after the other; a sheet that was saved may stay in the program's folder too.
-ONE_BY_ONE = ("units", "sheet")
 FASTEST = ALL if LONG else ("life.rtf", "datasheet.pdf", "results.csv")
 # No save takes as many file operations; one that does never ends.
 MOST_OPERATIONS = 60
@@ -131,7 +125,7 @@ class Faults(unittest.TestCase):
 
     @unittest.skipUnless(rights_hold(), "rights don't hold for whoever runs this")
     def test_a_folder_that_may_only_be_read_is_told_and_keeps_the_old_file(self):
-        for way in every_save(self.addCleanup, ALL):
+        for way in every_save(self.addCleanup, MORE):
             self.refused_by_rights(way, way.out, 0o500)
 
     @unittest.skipUnless(rights_hold(), "rights don't hold for whoever runs this")
