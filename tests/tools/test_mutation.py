@@ -99,7 +99,7 @@ class TheTestsOfAFolder(unittest.TestCase):
 
     def test_of_the_screens_are_asked_by_how_much_they_speak_of_the_form(self):
         screens = workshop.stages_of(ROOT, "screens")
-        bench = workshop.Bench(SimpleNamespace(root=ROOT, seconds={}), screens)
+        bench = workshop.Bench(SimpleNamespace(root=ROOT, seconds={}, nearest=None), screens)
 
         def first(name):
             return bench.order(screens[0], SimpleNamespace(path=f"src/screens/{name}"))[0][0]
@@ -109,6 +109,8 @@ class TheTestsOfAFolder(unittest.TestCase):
         self.assertEqual(first("BallLoadPicture.cpp"), "test_screens_tlodestarballloadsTest")
         bench.kills["test_screens_StepsTest"] = 3
         self.assertEqual(first("NoForm.cpp"), "test_screens_StepsTest")
+        bench.shop.nearest = 3
+        self.assertEqual(len(bench.order(screens[0], SimpleNamespace(path="src/screens/Form18.cpp"))), 3)
 
 
 if __name__ == "__main__":

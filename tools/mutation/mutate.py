@@ -70,6 +70,8 @@ def arguments():
     parser.add_argument("--folder", action="append", choices=FOLDERS, help="only this folder of src (repeatable)")
     parser.add_argument("--own", action="store_true",
                         help="judge by the folder's own tests alone, which is quicker and stricter")
+    parser.add_argument("--nearest", type=int, metavar="N",
+                        help="of the screens' tests, only the N that speak of a mistake's form most often (all)")
     parser.add_argument("--list", action="store_true", help="list the chosen mistakes and build nothing")
     parser.add_argument("--work", type=Path, default=Path(tempfile.gettempdir()) / "norlaplan-mutation",
                         help="scratch folder (the system's temporary folder)")
@@ -82,7 +84,7 @@ def main():
     folders = [folder for folder in options.folder or FOLDERS if (ROOT / "src" / folder).is_dir()]
     equivalent = read_equivalent(Path(__file__).with_name("equivalent.txt"))
     share, rest = divmod(options.count, len(folders))
-    workshop = None if options.list else Workshop(ROOT, options.work, options.jobs, options.own)
+    workshop = None if options.list else Workshop(ROOT, options.work, options.jobs, options.own, options.nearest)
     outcomes = {}
     for i, folder in enumerate(folders):
         chosen = choose(folder, options.seed, share + (i < rest))

@@ -57,8 +57,8 @@ def stages_of(root, folder):
 
 
 class Workshop:
-    def __init__(self, root, work, jobs, own_only):
-        self.root, self.work, self.jobs, self.own_only = root, work, jobs, own_only
+    def __init__(self, root, work, jobs, own_only, nearest):
+        self.root, self.work, self.jobs, self.own_only, self.nearest = root, work, jobs, own_only, nearest
         self.tree = work / "tree"
         self.build = self.tree / "build" / "release"  # where a release build stands to its sources
         os.nice(5)
@@ -103,7 +103,7 @@ class Workshop:
 
     def digest(self, folder):
         """Changes with what may notice a mistake of the folder."""
-        found = hashlib.sha1()
+        found = hashlib.sha1(f"{self.nearest or ''}".encode() if folder == "screens" else b"")
         others = [] if self.own_only else [*USERS.get(folder, []), "cli"]
         for part in (folder, "support", *others):
             for path in sorted((self.tree / "tests" / part).rglob("*")):
@@ -198,7 +198,8 @@ class Bench:
         return re.compile(rf"\b(?:{'|'.join(sorted(words))})\b")
 
     def order(self, stage, mutant):
-        """The tests that speak of the mistake's file most often first, then those that noticed most."""
+        """The tests that speak of the mistake's file most often first, then those that noticed most; of the screens'
+        only as many as are wanted."""
         if len(stage) == 1:
             return stage
         words = self.near(mutant.path)
@@ -207,8 +208,9 @@ class Bench:
             source = self.shop.root / "tests" / "screens" / f"{program[0].removeprefix('test_screens_')}.cpp"
             return len(words.findall(source.read_text(encoding="utf-8"))) if source.exists() else 0
 
-        return sorted(stage, key=lambda program: (-nearness(program), -self.kills[program[0]],
-                                                  self.shop.seconds.get(program[0], SLOW)))
+        found = sorted(stage, key=lambda program: (-nearness(program), -self.kills[program[0]],
+                                                   self.shop.seconds.get(program[0], SLOW)))
+        return found[: self.shop.nearest] if stage[0][0].startswith("test_screens_") else found
 
     def judge(self, stage, mutant, choice):
         """Whether a test of the stage notices: the outcome, and which one."""
