@@ -134,6 +134,11 @@ class Cases(Table):
                           "Part Number too long: Please verify Part Number and try again",
                           "Part Number too short: Please verify Part Number and try again", ""])
 
+    def test_are_read_up_to_their_ten_thousandth_character(self):
+        blanks = " " * (10000 - len("K19013XP0,") - len("50"))
+        row = self.batch(HEAD + f"K19013XP0,{blanks}507\n")[0]
+        self.assertEqual((row["radial"], row["error"]), ("50", ""))
+
     def test_of_a_z_separator_take_the_option(self):
         row = self.batch(HEAD + "K19013XZ0,500\n")[0]
         self.assertIn("Please specify which Z separator", row["error"])

@@ -422,41 +422,5 @@ class Files(unittest.TestCase):
         self.assertEqual(list(self.folder.iterdir()), [])
 
 
-class Settings(unittest.TestCase):
-    def test_damaged_settings_are_told_and_do_not_stop_a_call(self):
-        with own_tables() as folder:
-            for lines in (0, 3, 8):
-                (folder / "SETTINGS.INI").write_text("a\r\n" * lines, "ascii")
-                done = run("--program-folder", str(folder), "decode", "K19013XP0")
-                self.assertEqual(done.returncode, 0, lines)
-                self.assertIn("SETTINGS.INI", done.stderr)
-            for lines in (9, 5000):
-                (folder / "SETTINGS.INI").write_text("METRIC\r\n" * lines, "ascii")
-                done = run("--program-folder", str(folder), "decode", "K19013XP0")
-                self.assertEqual((done.returncode, done.stderr), (0, ""), lines)
-
-
-class Usage(unittest.TestCase):
-    def test_help_and_version(self):
-        self.assertEqual(run("--version").stdout, "NORLAPLAN-MM version 1.00\n")
-        for words in ((), ("decode",), ("life",), ("report",), ("report", "life"), ("search",), ("datasheet",),
-                      ("torque",), ("play",), ("fits",), ("qlx",)):
-            done = run(*words, "--help")
-            self.assertEqual(done.returncode, 0)
-            self.assertIn("--help", done.stdout)
-
-    @unittest.skipUnless(Path("/dev/full").exists(), "no full device here")
-    def test_a_result_that_cannot_be_printed_is_an_error(self):
-        with open("/dev/full", "w", encoding="ascii") as full:
-            done = run("decode", "K19013XP0", capture_output=False, stdout=full, stderr=subprocess.PIPE)
-        self.assertEqual((done.returncode, done.stderr), (3, "Run-time error '61': Disk full: standard output\n"))
-
-    def test_wrong_words_are_status_2(self):
-        for words in ((), ("nonsense",), ("decode",), ("decode", "K19013XP0", "--nonsense"),
-                      ("life", "K19013XP0", "--radial", "abc"), ("--units", "feet", "decode", "K19013XP0")):
-            self.assertEqual(run(*words).returncode, 2, words)
-        self.assertEqual(result("nonsense")[1]["error"]["kind"], "usage")
-
-
 if __name__ == "__main__":
     unittest.main()

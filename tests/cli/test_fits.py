@@ -66,6 +66,18 @@ class Play(unittest.TestCase):
             self.assertAlmostEqual(us[1] * 25.4, metric[1], places=6)
             self.assertEqual(us[2], metric[2])
 
+    def test_shows_a_table_whose_digits_tell_its_rows_apart(self):
+        # From row to row the clearance grows by a ten thousandth of an inch.
+        for units, clearances, play in (("US", ["0.0000", "0.0001", "0.0002"], r"^\d\.\d{5}$"),
+                                        ("METRIC", ["0.00000", "0.00254", "0.00508"], r"^\d\.\d{4}$")):
+            lines = run("--units", units, "play", "K19013XP0").stdout.splitlines()
+            self.assertEqual(lines[0], "K19013XP0")
+            self.assertTrue(lines[3].startswith("Clearance ("))
+            rows = [line.split() for line in lines[4:]]
+            self.assertEqual([row[0] for row in rows[:3]], clearances)
+            for row in rows:
+                self.assertRegex(row[1], play)
+
     def test_refuses_all_styles_but_radial_and_four_point_contact(self):
         for number in ("K19013AP0", "K19013UP0", "K19013TP0", "K19013BP0E", "K19013FP0E"):
             status, told = result("play", number)

@@ -54,6 +54,8 @@ TEST_F(AFitsReport, OfTheTorqueHasItsNotesAndTwoRules) {
     EXPECT_TRUE(contains(rtf, "{\\fs28\\cf1\\ul\\b Notes:}"));
     EXPECT_TRUE(contains(rtf, "\\ldblquote Starting torque\\rdblquote"));
     EXPECT_TRUE(contains(rtf, "{\\ul do not include}"));
+    EXPECT_TRUE(contains(rtf, "{\\fs24\\cf1 2.) Torque values shown"));
+    EXPECT_TRUE(contains(rtf, "{\\fs24\\cf1 \\tab b. The effects of viscous lubricant drag.}"));
     EXPECT_TRUE(contains(rtf, "maximum preload value of 0.0050, this does not guarantee"));
     EXPECT_TRUE(contains(rtf, "that the K19013BP0R bearing can be safely"));
     EXPECT_TRUE(contains(rtf, "NORLAPLAN-MM version 1.00        Printed  3/14/26 9:26 AM"));
@@ -71,9 +73,12 @@ TEST_F(AFitsReport, OfTheTorquePrintsItsNotes) {
           "     Varden should be contacted for assistance in establishing an acceptance limit.",
           "NORLAPLAN-MM version 1.00", "\"R\" PRELOAD RANGE IN GREY"})
         EXPECT_TRUE(canvas.hasText(words)) << words;
-    const auto underlined = std::find_if(canvas.texts.begin(), canvas.texts.end(),
-                                         [](const auto& text) { return text.text == "do not include"; });
-    EXPECT_TRUE(underlined->look.underline);
+    const auto note = [&](const std::string& words) {
+        return *std::find_if(canvas.texts.begin(), canvas.texts.end(),
+                             [&](const auto& text) { return text.text == words; });
+    };
+    EXPECT_TRUE(note("do not include").look.underline);
+    EXPECT_GT(note("c. Any externally applied loads.").box.left, note("Notes:").box.left + 0.3);
     EXPECT_EQ(canvas.pages, 1);
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <malloc.h>
 
 #include "paint/BearingIcon.h"
 
@@ -60,6 +61,14 @@ TEST(BearingIcon, IsABearingSeenFromTheFront) {
     }
     EXPECT_EQ(icon.pixelColor(kPixels / 2, kPixels / 2).alpha(), 0);
     EXPECT_EQ(icon.pixelColor(0, 0).alpha(), 0);
+}
+
+TEST(BearingIcon, HasNothingInItsCornersWhateverItsMemoryHeldBefore) {
+    ::mallopt(M_PERTURB, 0x55);  // new memory is no longer zero
+    const QImage icon = bearingIconImage(64);
+    ::mallopt(M_PERTURB, 0);
+    for (const QPoint corner : {QPoint(0, 0), QPoint(63, 0), QPoint(0, 63), QPoint(63, 63)})
+        EXPECT_EQ(icon.pixelColor(corner).alpha(), 0);
 }
 
 TEST(BearingIcon, HasFewerBallsWhereFourteenWouldRunIntoOneAnother) {

@@ -130,6 +130,14 @@ TEST(PictureFiles, ThatFailLeaveWhatStoodThere) {
               fault::kPathAccess);
 }
 
+TEST(PictureFiles, WiderThanAnyImageAreADeviceFaultAndNoFile) {
+    const TemporaryFolder files;
+    // A row of half a thousand million pixels takes more bytes than an image counts.
+    const Drawing drawing{{3.7e6, 1.0}, [](Canvas&) {}};
+    EXPECT_EQ(faultOf([&] { savePicture(files.path() / "a.png", drawing); }), fault::kDeviceIo);
+    EXPECT_FALSE(std::filesystem::exists(files.path() / "a.png"));
+}
+
 TEST(Bitmaps, ShowTheirPartOfThePageAsLargeAsAWholeOne) {
     const TemporaryFolder files;
     const auto path = files.path() / "part.dat";
