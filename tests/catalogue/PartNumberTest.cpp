@@ -40,6 +40,7 @@ constexpr RefusedNumber kRefused[] = {
     {"K19013XPP", "Precision class P not available", "Unsupported Precision Class"},
     {"KA9013XP0", "character must be numeric", "Error in position 2 of the part number"},
     {"K1A013XP0", "character must be numeric", "Error in position 3 of the part number"},
+    {"K1AB13XP0", "character must be numeric", "Error in position 3 of the part number"},
     {"K19A13XP0", "character must be numeric", "Error in position 4 of the part number"},
     {"K191É3XP0", "Width of 0 Not Valid", "Unsupported Cross Section"},
     {"K19113XP0", "Retry Data Entry", "Bore size not found"},

@@ -162,6 +162,7 @@ TEST(HitChoice, IsFoundAgainWhereItsSpacersHaveAnotherWidth) {
     EXPECT_EQ(entryOf(listOf({"K10013BR0A W/ 0.1764 spacers", inches}), millimetres), 2);
     EXPECT_EQ(entryOf(listOf({inches, millimetres}), millimetres), 2) << "its own name goes before";
     EXPECT_EQ(entryOf(listOf({"K11013FR0A"}), "K11013BR0A"), 0);
+    EXPECT_EQ(entryOf(listOf({"K11013XP0B"}), "K11013XP0A"), 0) << "the tenth character is the fit";
 }
 
 TEST(HitChoice, DoesNothingForNoEntry) {

@@ -177,6 +177,8 @@ class Bench:
             resource.setrlimit(resource.RLIMIT_CPU, (int(seconds), int(seconds) + 5))
             resource.setrlimit(resource.RLIMIT_AS, (4 << 30, 4 << 30))
             resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+            # What a shell runs in the background ignores Ctrl-C, and a test of Ctrl-C would with it.
+            signal.signal(signal.SIGINT, signal.SIG_DFL)
 
         environment = {**os.environ, CHOICE: str(choice), "QT_QPA_PLATFORM": "offscreen", "LC_ALL": "C.UTF-8",
                        "HOME": str(self.shop.work / "home"), "PYTHONDONTWRITEBYTECODE": "1",
