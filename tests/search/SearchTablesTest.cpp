@@ -5,6 +5,7 @@
 #include "catalogue/SmallCatalogue.h"
 #include "numbers/RuntimeError.h"
 #include "state/LoadEntry.h"
+#include "support/FaultOf.h"
 #include "support/SearchCases.h"
 
 namespace norlaplan {
@@ -100,6 +101,29 @@ TEST(ASearch, TellsOfAClearanceThatIsNoNumber) {
     EXPECT_EQ(search.messages.shown[0].prompt,
               "Table cls0.csv, row 2, column 8: \".0O1\" is not a number and is read as 0.")
         << "tolerances are used by no search";
+}
+
+TEST(ASearch, EndsInAnOverflowForAClearanceRowWithANumberBeyond32Bits) {
+    for (int wrong = 0; wrong < 10; ++wrong) {
+        Searching search;
+        search.style("RADIAL CONTACT", "C");
+        search.tables.write("13-C.csv", kHead + "K10013CP0,1,100,126,0,0,0,0,1,60\r\n");
+        std::string row;
+        for (int column = 0; column < 10; ++column)
+            row += (column > 0 ? "," : "") + std::string(column == wrong ? "1E39" : "0");
+        search.tables.write("CLS0.csv", ",,,,,,,,,\n" + row + "\n");
+        EXPECT_EQ(testing::faultOf([&] { search.run(); }), fault::kOverflow) << wrong;
+    }
+}
+
+TEST(ASearch, RoundsTheHeightOfATableTo32BitsBeforeItIsInches) {
+    const auto inches = static_cast<float>(static_cast<double>(12.4F) / 25.4);
+    ASSERT_NE(inches, static_cast<float>(12.4 / 25.4));
+    Searching search;
+    search.style("4-POINT CONTACT", "X");
+    search.tables.write("13-X.csv", "0.6,,,,,,,,,\r\n12.4,,,,,,,,,\r\nK10013XP0,1,100,126,0,0,0,0,1,60\r\n");
+    search.state.criteria.minHeight = search.state.criteria.maxHeight = Single(static_cast<double>(inches));
+    EXPECT_EQ(search.run(), SearchEnd::Found);
 }
 
 TEST(ASearch, ExplainsAnErrorThatAWrongFieldLeadsTo) {
