@@ -64,6 +64,17 @@ class NumberEntryTest : public QObject {
         QCOMPARE(entry.line(), QString("This part number is complete."));
     }
 
+    void a_cell_has_room_for_the_broadest_letter_however_narrow_the_window() {
+        Entry entry;
+        for (int position = 1; position <= 10; ++position) {
+            const QByteArray name = QString("Place%1").arg(position).toUtf8();
+            const auto& cell = entry.control<QLabel>(forms::kPartNumber, name);
+            const QMargins around = cell.contentsMargins();
+            QVERIFY(cell.minimumWidth() >=
+                    cell.fontMetrics().horizontalAdvance('W') + around.left() + around.right());
+        }
+    }
+
     void the_first_wrong_character_is_marked_and_told() {
         Entry entry;
         QTest::keyClicks(&entry.field(), "K19013DP7");
