@@ -5,6 +5,7 @@ import subprocess
 import sys
 import tempfile
 import unittest
+from pathlib import Path
 
 MOUNT = 'mount -t tmpfs -o size=16m tmpfs "$0" && "$@"'
 
@@ -13,7 +14,7 @@ def with_small_disk(folder, *words):
     """Runs the words where the folder is a disk of its own."""
     return subprocess.run(["unshare", "--map-root-user", "--mount", "sh", "-c", MOUNT, folder, *words],
                           env={**os.environ, "NORLAPLAN_SMALL_DISK": folder, "TMPDIR": folder}, capture_output=True,
-                          text=True, check=False)
+                          text=True, check=False, cwd=Path(__file__).resolve().parent)
 
 
 def why_not(folder):
