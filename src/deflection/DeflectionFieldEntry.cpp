@@ -98,6 +98,7 @@ bool hasDeflection(const ProgramState& state) {
 
 std::vector<std::string> offeredPreloads(const UnitMode& units) {
     std::vector<std::string> preloads;
+    preloads.reserve(kOfferedPreloads);
     for (int i = 0; i < kOfferedPreloads; ++i)
         preloads.push_back(FormatNumber(isMetric(units) ? i * 25.4 / 2000.0 : i / 2000.0, kPreloadPicture));
     return preloads;

@@ -47,6 +47,7 @@ std::string joined(AxialPointTexts texts) {
 
 std::vector<AxialPointTexts> axialPointTexts(const DeflectionResult& result, const UnitMode& units) {
     std::vector<AxialPointTexts> texts;
+    texts.reserve(result.axialPoints.size());
     for (const AxialPoint& row : result.axialPoints)
         texts.push_back(texts.empty() ? kUnloadedPoint : axialPointText(row, units));
     return texts;

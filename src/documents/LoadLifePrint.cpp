@@ -66,6 +66,10 @@ void printResults(PageWriter& page, const ProgramState& state) {
     page.line(life.speedVerdict, timesLook(11.0, true, within ? kGoodGreen : colours::kRed));
 }
 
+/// One sentence: among lines in a list its parts would look like two that lack a comma.
+constexpr const char* kExternalOnly =
+    "Results shown are for the external load case only and do not include the effect of any preload.";
+
 void printNotes(PageWriter& page) {
     const TextLook look = timesLook(11.0);
     for (const char* const words :
@@ -73,9 +77,7 @@ void printNotes(PageWriter& page) {
           "that the inner and outer bearing races are radially restrained by a rigid shaft and housing.", "",
           "The starting torque is based on light oil lubrication.  Torque values for grease will generally",
           "be higher.  The effect of grease on bearing torque over temperature can vary significantly and",
-          "is best found by testing.", "",
-          "Results shown are for the external load case only and do not include the effect of any "
-          "preload."}) {
+          "is best found by testing.", "", kExternalOnly}) {
         page.line(words, look);
     }
 }

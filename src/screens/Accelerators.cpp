@@ -77,7 +77,7 @@ QList<QChar> letterButtons(QWidget& window, const QString& taken) {
     for (QAbstractButton* const button : all) {
         if (qobject_cast<QPushButton*>(button) == nullptr) add(button);
     }
-    const QList<QChar> letters = choose(captions, taken);
+    QList<QChar> letters = choose(captions, taken);
     for (qsizetype i = 0; i < buttons.size(); ++i) {
         const bool none = letters[i].isNull();
         buttons[i]->setShortcut(none ? QKeySequence()

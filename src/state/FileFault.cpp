@@ -11,7 +11,7 @@ namespace {
 /// A path that fits a message: a long one lacks its middle.
 std::string shownPath(const std::filesystem::path& file) {
     constexpr std::size_t kEnd = 120;
-    const std::string path = file.string();
+    std::string path = file.string();
     if (path.size() <= 2 * kEnd + 3) return path;
     std::size_t right = path.size() - kEnd;
     while (right < path.size() && continuesCharacter(path[right]))

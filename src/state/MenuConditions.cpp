@@ -18,13 +18,13 @@ std::optional<Message> bearingRefusal(const ProgramState& state) {
 }
 
 std::optional<Message> loadableBearingRefusal(const ProgramState& state) {
-    if (const auto refusal = bearingRefusal(state)) return refusal;
+    if (auto refusal = bearingRefusal(state)) return refusal;
     if (!styleIsOneOf(state, "UAT")) return std::nullopt;
     return Message{"Try another Bearing type", "Bearing type " + state.bearing.styleLetter + " Not allowed"};
 }
 
 std::optional<Message> lifeRefusal(ProgramState& state) {
-    if (const auto refusal = loadableBearingRefusal(state)) return refusal;
+    if (auto refusal = loadableBearingRefusal(state)) return refusal;
     if (!state.loadsEntered) return Message{"Missing Load Data", "Please enter loads first"};
     if (state.bearing.styleLetter == "C" && state.loads.radialLoad == 0.0) {
         state.loadsEntered = false;
@@ -34,13 +34,13 @@ std::optional<Message> lifeRefusal(ProgramState& state) {
 }
 
 std::optional<Message> preloadTorqueRefusal(const ProgramState& state) {
-    if (const auto refusal = bearingRefusal(state)) return refusal;
+    if (auto refusal = bearingRefusal(state)) return refusal;
     if (styleIsOneOf(state, "XCFB")) return std::nullopt;
     return Message{"Wrong Bearing style", "Only Duplexes , 'C' or 'X' styles allowed", Icon::Critical};
 }
 
 std::optional<Message> axialPlayRefusal(const ProgramState& state) {
-    if (const auto refusal = bearingRefusal(state)) return refusal;
+    if (auto refusal = bearingRefusal(state)) return refusal;
     if (styleIsOneOf(state, "CX")) return std::nullopt;
     return Message{"Wrong Bearing style", "Only radial and 4-point contact bearings allowed", Icon::Critical};
 }
@@ -57,13 +57,13 @@ std::optional<StepRefusal> sizesRefusal(const ProgramState& state) {
 }
 
 std::optional<StepRefusal> searchLoadsRefusal(const ProgramState& state) {
-    if (const auto refusal = sizesRefusal(state)) return refusal;
+    if (auto refusal = sizesRefusal(state)) return refusal;
     if (state.sizesChosen) return std::nullopt;
     return StepRefusal{{"Missing Bearing Size", "Size of bearing must be known"}, SearchStep::Sizes};
 }
 
 std::optional<StepRefusal> resultsRefusal(const ProgramState& state) {
-    if (const auto refusal = searchLoadsRefusal(state)) return refusal;
+    if (auto refusal = searchLoadsRefusal(state)) return refusal;
     if (state.loadsEntered) return std::nullopt;
     return StepRefusal{{"Missing Load Data", "Bearing Loads Must be known"}, SearchStep::Loads};
 }

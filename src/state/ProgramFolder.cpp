@@ -70,6 +70,7 @@ std::vector<std::string> ProgramFolder::files(std::string_view folder) const {
     addFiles(names, own(folder));
     if (installed()) addFiles(names, under(shared_, folder));
     std::vector<std::string> sorted;
+    sorted.reserve(names.size());
     for (auto& [lower, name] : names)
         sorted.push_back(std::move(name));
     return sorted;

@@ -14,14 +14,14 @@ constexpr int kFileMissing = 2, kToolMissing = 3;
 
 QString officeProgram() {
     for (const char* const name : {"soffice", "libreoffice"}) {
-        if (const QString found = QStandardPaths::findExecutable(QString::fromUtf8(name)); !found.isEmpty())
+        if (QString found = QStandardPaths::findExecutable(QString::fromUtf8(name)); !found.isEmpty())
             return found;
     }
     return {};
 }
 
 QString desktopsOpener() {
-    const QString found = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+    QString found = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
     if (found.isEmpty()) raise(fault::kNoSuchProgram);
     return found;
 }
