@@ -23,6 +23,7 @@
 #include "screens/SavedLine.h"
 #include "screens/Theme.h"
 #include "state/DesktopPort.h"
+#include "state/FileFault.h"
 #include "state/Pages.h"
 #include "state/Ports.h"
 
@@ -40,11 +41,17 @@ int pagesOf(const Drawing& drawing) {
 
 void drawOn(QPrinter& printer, const Drawing& drawing) {
     const BusyPointer busy;
+    if (!printer.outputFileName().isEmpty()) {
+        // The toolkit would write over what stands there, and say nothing of a full disk.
+        savePictureAs(printer.outputFileName().toStdString(), drawing, ".pdf");
+        return;
+    }
+    const std::string name = printer.printerName().toStdString();
     QPainter painter;
-    if (!painter.begin(&printer)) raise(fault::kDeviceIo);
+    if (!painter.begin(&printer)) raiseFile(fault::kDeviceIo, name);
     PainterCanvas canvas(painter, drawing.paper, printer.resolution(), [&printer] { printer.newPage(); });
     drawing.draw(canvas);
-    if (!painter.end() || printer.printerState() == QPrinter::Error) raise(fault::kDeviceIo);
+    if (!painter.end() || printer.printerState() == QPrinter::Error) raiseFile(fault::kDeviceIo, name);
 }
 
 /// The document's name as a file's name.

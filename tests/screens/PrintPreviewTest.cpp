@@ -1,4 +1,8 @@
+#include <QComboBox>
+#include <QDialogButtonBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QPrintDialog>
 #include <QPushButton>
 #include <QStandardPaths>
@@ -7,6 +11,7 @@
 #include "screens/DrawingView.h"
 #include "screens/PrintPreview.h"
 #include "screens/Program.h"
+#include "support/DiskTroubles.h"
 
 using namespace norlaplan;
 using namespace norlaplan::testing;
@@ -35,6 +40,32 @@ struct Preview {
     RecordingDesktop desktop;
     PrintPreview dialog;
 };
+
+/// Once the preview runs: presses Print, in the system's dialog takes the printer that is a file, and says
+/// yes when it asks whether to write over it.
+void printTo(Preview& preview, const QString& file) {
+    QTimer::singleShot(0, &preview.dialog, [&preview, file] {
+        bool chosen = false;
+        QTimer soon;
+        QObject::connect(&soon, &QTimer::timeout, [&] {
+            QWidget* const front = QApplication::activeModalWidget();
+            if (auto* const question = qobject_cast<QMessageBox*>(front)) {
+                question->button(QMessageBox::Yes)->click();
+            } else if (auto* const dialog = qobject_cast<QPrintDialog*>(front);
+                       dialog != nullptr && !chosen) {
+                chosen = true;
+                auto* const printers = dialog->findChild<QComboBox*>("printers");
+                printers->setCurrentIndex(printers->count() - 1);
+                dialog->findChild<QLineEdit*>("filename")->setText(file);
+                // Later: this timer doesn't tick while one of its ticks waits for an answer.
+                QTimer::singleShot(0, dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok),
+                                   &QPushButton::click);
+            }
+        });
+        soon.start(1);
+        preview.control("Print").click();
+    });
+}
 
 }  // namespace
 
@@ -156,6 +187,29 @@ class PrintPreviewTest : public QObject {
         PrintPreview preview("list", twoPages(), saveDialog, desktop, true, nullptr);
         QTimer::singleShot(0, &preview, [&] { preview.findChild<QPushButton*>("SaveAsPdf")->click(); });
         QVERIFY_THROWS_EXCEPTION(RuntimeError, preview.run());
+    }
+
+    void printing_to_a_file_writes_every_page_and_onto_a_full_disk_leaves_the_old_one() {
+        TemporaryFolder files;
+        files.write("list.pdf", "old");
+        const QString file = QString::fromStdString((files.path() / "list.pdf").string());
+        {
+            const FullDisk disk(files.path());
+            Preview preview;
+            printTo(preview, file);
+            try {
+                preview.dialog.run();
+                QFAIL("there is no room for it");
+            } catch (const RuntimeError& error) {
+                QCOMPARE(QString(error.what()), "Disk full: " + file);
+            }
+        }
+        QCOMPARE(files.read("list.pdf"), std::string("old"));
+        Preview preview;
+        printTo(preview, file);
+        QVERIFY(preview.dialog.run());
+        const std::string pdf = files.read("list.pdf");
+        QVERIFY(pdf.starts_with("%PDF") && pdf.find("/Count 2") != std::string::npos);
     }
 
     void escape_leaves_it() {
