@@ -9,6 +9,7 @@
 #include "numbers/Text.h"
 #include "paint/PageImage.h"
 #include "paint/PainterCanvas.h"
+#include "state/FileFault.h"
 #include "state/WholeFile.h"
 
 namespace norlaplan {
@@ -32,11 +33,12 @@ QByteArray pdfOf(const Drawing& drawing) {
     return bytes;
 }
 
-QByteArray encoded(const QImage& image, const char* format) {
+/// The bytes of a picture that is to become this file.
+QByteArray encoded(const QImage& image, const char* format, const std::filesystem::path& file) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    if (!image.save(&buffer, format)) raise(fault::kDeviceIo);
+    if (!image.save(&buffer, format)) raiseFile(fault::kDeviceIo, file);
     return bytes;
 }
 
@@ -62,12 +64,12 @@ void savePicture(const std::filesystem::path& path, const Drawing& drawing) {
 void savePictureAs(const std::filesystem::path& path, const Drawing& drawing, const std::string& extension) {
     const std::string format = formatOf(extension);
     if (format.empty()) raise(fault::kInvalidCall);
-    writeBytes(path, format == "PDF" ? pdfOf(drawing) : encoded(pageImage(drawing), format.c_str()));
+    writeBytes(path, format == "PDF" ? pdfOf(drawing) : encoded(pageImage(drawing), format.c_str(), path));
 }
 
 void savePictureAs(const std::filesystem::path& path, const Drawing& drawing, const std::string& extension,
                    const PageBox& area) {
-    writeBytes(path, encoded(pageImage(drawing, area), formatOf(extension).c_str()));
+    writeBytes(path, encoded(pageImage(drawing, area), formatOf(extension).c_str(), path));
 }
 
 bool isPictureFile(const std::filesystem::path& path) {

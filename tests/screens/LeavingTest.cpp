@@ -79,7 +79,13 @@ class LeavingTest : public QObject {
         DesktopMail mail;
         mail.createApplication();
         mail.createItem(0);
-        QCOMPARE(faultOf([&] { mail.attach({"/nowhere/a.rtf", 1, 2, ""}); }), 53);
+        try {
+            mail.attach({"/nowhere/a.rtf", 1, 2, ""});
+            QFAIL("there is no such file");
+        } catch (const RuntimeError& error) {
+            QCOMPARE(error.number(), 53);
+            QCOMPARE(error.what(), "File not found: /nowhere/a.rtf");
+        }
         mail.setSubject("x");
         mail.display();
         QCOMPARE(fake.told(), std::string("<--subject><x>"));

@@ -3,6 +3,7 @@
 #include "numbers/RuntimeError.h"
 #include "screens/platform/ComingUp.h"
 #include "screens/platform/QtPorts.h"
+#include "state/FileFault.h"
 
 namespace norlaplan {
 namespace {
@@ -10,8 +11,8 @@ namespace {
 // What `xdg-email` ends with.
 constexpr int kFileMissing = 2, kToolMissing = 3;
 
-[[noreturn]] void raiseEnd(int code) {
-    if (code == kFileMissing) raise(fault::kFileNotFound);
+[[noreturn]] void raiseEnd(int code, const std::filesystem::path& file) {
+    if (code == kFileMissing) raiseFile(fault::kFileNotFound, file);
     if (code == kToolMissing) raise(fault::kNoSuchProgram);
     throw RuntimeError(fault::kAutomation, runtimeErrorText(fault::kAutomation) +
                                                ": the mail program ended with code " + std::to_string(code));
@@ -30,7 +31,7 @@ void DesktopMail::createItem(int) {
 }
 
 void DesktopMail::attach(const MailAttachment& attachment) {
-    if (!std::filesystem::exists(attachment.file)) raise(fault::kFileNotFound);
+    if (!std::filesystem::exists(attachment.file)) raiseFile(fault::kFileNotFound, attachment.file);
     // The mail program has another current folder than this one.
     file_ = std::filesystem::absolute(attachment.file);
 }
@@ -43,7 +44,7 @@ void DesktopMail::display() {
     QStringList arguments = {QStringLiteral("--subject"), QString::fromStdString(subject_)};
     if (!file_.empty()) arguments << QStringLiteral("--attach") << QString::fromStdString(file_.string());
     const int code = codeWhenComingUp(QString::fromStdString(program_), arguments);
-    if (code != 0) raiseEnd(code);
+    if (code != 0) raiseEnd(code, file_);
 }
 
 }  // namespace norlaplan

@@ -78,7 +78,7 @@ class FolderSheets : public SheetStorePort {
 };
 
 /// The user's own texts, in a folder that is made when the first of them is written. A file too large to be
-/// one of them is error 75.
+/// one of them is error 321.
 class UserFiles : public UserFilesPort {
   public:
     explicit UserFiles(std::filesystem::path folder) : folder_(std::move(folder)) {}

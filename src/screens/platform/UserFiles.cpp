@@ -1,7 +1,6 @@
 #include <QStandardPaths>
 #include <system_error>
 
-#include "numbers/RuntimeError.h"
 #include "screens/platform/QtPorts.h"
 #include "state/WholeFile.h"
 
@@ -9,7 +8,7 @@ namespace norlaplan {
 namespace {
 
 /// No text of the user's own comes near this size; a file that does is none of them.
-constexpr std::uintmax_t kLargest = 1U << 20U;
+constexpr std::size_t kLargest = 1U << 20U;
 
 }  // namespace
 
@@ -18,10 +17,7 @@ std::filesystem::path UserFiles::usualFolder() {
 }
 
 std::string UserFiles::read(const std::string& name) {
-    std::error_code ignored;
-    const std::uintmax_t size = std::filesystem::file_size(folder_ / name, ignored);
-    if (!ignored && size > kLargest) raise(fault::kPathAccess);
-    return readWholeFile(folder_ / name);
+    return readWholeFile(folder_ / name, kLargest);
 }
 
 void UserFiles::write(const std::string& name, const std::string& content) {
