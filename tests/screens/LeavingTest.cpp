@@ -86,6 +86,8 @@ class LeavingTest : public QObject {
             QCOMPARE(error.number(), 53);
             QCOMPARE(error.what(), "File not found: /nowhere/a.rtf");
         }
+        // The system can't even look for a name like this.
+        QCOMPARE(faultOf([&] { mail.attach({"/" + std::string(300, 'a'), 1, 2, ""}); }), 53);
         mail.setSubject("x");
         mail.display();
         QCOMPARE(fake.told(), std::string("<--subject><x>"));

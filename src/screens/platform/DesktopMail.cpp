@@ -31,7 +31,9 @@ void DesktopMail::createItem(int) {
 }
 
 void DesktopMail::attach(const MailAttachment& attachment) {
-    if (!std::filesystem::exists(attachment.file)) raiseFile(fault::kFileNotFound, attachment.file);
+    std::error_code unreadable;
+    if (!std::filesystem::exists(attachment.file, unreadable))
+        raiseFile(fault::kFileNotFound, attachment.file);
     // The mail program has another current folder than this one.
     file_ = std::filesystem::absolute(attachment.file);
 }
