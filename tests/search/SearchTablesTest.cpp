@@ -85,6 +85,42 @@ TEST(ASearch, SaysNothingOfARowThatDoesNotFit) {
     EXPECT_TRUE(search.messages.shown.empty());
 }
 
+TEST(ASearch, SaysNothingOfTheSpeedsOfAnotherSeparator) {
+    Searching search;
+    search.style("4-POINT CONTACT", "X");
+    search.tables.write("13-X.csv", kHead + "K10013XP0,1,100,126,0,0,0,0,1,60\r\n");
+    std::string other = testing::speedBlock("J", 1) + "," + testing::speedBlock("J", 101) + "\n";
+    other.replace(other.find(",105"), 4, ",1O5");
+    search.tables.write("SPEEDX.CSV", other + search.tables.read("SPEEDX.CSV"));
+    EXPECT_EQ(search.run(), SearchEnd::Found);
+    EXPECT_TRUE(search.messages.shown.empty());
+}
+
+TEST(ASearch, ShowsSizesInMillimetres) {
+    Searching search;
+    ApplyUnitSystem("METRIC", search.state.units);
+    search.style("4-POINT CONTACT", "X");
+    search.tables.write("13-X.csv", kHead + "K10013XP0,1,100,126,0,0,0,0,1,60\r\n");
+    EXPECT_EQ(search.run(), SearchEnd::Found);
+    const SearchHit& hit = search.state.search.rows.at(0);
+    EXPECT_EQ(hit.boreText + " " + hit.odText + " " + hit.heightText, "100.000 126.000 13.000");
+}
+
+TEST(ASearch, ListsABearingThatNeverConvergesWithTheLifeZero) {
+    Searching search;
+    search.style("RADIAL CONTACT", "C");
+    search.tables.write("13-C.csv", kHead + "K10013CP0,1,100,126,0,0,0,0,1,60\r\n");
+    // The last digit of such a load is coarser than what the balance may miss.
+    search.state.loads.radialLoadDisplay = 3e10;
+    convertLoads(search.state);
+    EXPECT_EQ(search.run(), SearchEnd::Found);
+    EXPECT_EQ(search.state.search.rows.at(0).l10Revolutions, "0");
+    ASSERT_EQ(search.messages.shown.size(), 1U);
+    EXPECT_EQ(search.messages.shown[0],
+              (Message{"The calculation does not converge",
+                       "1 bearing was given up and stand in the list with the life 0."}));
+}
+
 TEST(ASearch, TellsOfAClearanceThatIsNoNumber) {
     Searching search;
     search.style("RADIAL CONTACT", "C");
