@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "loaddist/ContactBlock.h"
 #include "numbers/Arithmetic.h"
 #include "numbers/FormatNumber.h"
 #include "numbers/PiValue.h"
@@ -11,83 +10,61 @@
 namespace norlaplan {
 namespace {
 
-/// What is the same for all balls of one assembly.
-struct RowGeometry {
-    double h = 0.0, m = 0.0;
-    double x1 = 0.0, x2 = 0.0, y1 = 0.0, y2 = 0.0;
-};
-
-RowGeometry rowGeometry(SolverState& state) {
-    const double A0 = state.CentreDistance;
-    const double g = state.GapDistance;
-    const double s = state.CenterlineSpacing;
-    const double Pd = state.DiametralClearance;
-    const bool pair = state.StyleIsB || state.StyleIsF;
-    state.A0Cos = std::cos(state.ContactAngle) * A0;
-    state.A0Sin = std::sin(state.ContactAngle) * A0;
-
-    RowGeometry rows;
-    if (state.StyleIsB) rows.h = g / 2.0 + s;
-    if (state.StyleIsF) rows.h = g / 2.0 - s;
-    state.ArmOffset = rows.h;
-    rows.m = state.A0Sin / 2.0 - rows.h / 2.0;
-    rows.x1 = pair ? state.A0Cos : state.A0Cos - Pd / 2.0;
-    rows.x2 = rows.x1;
-    if (pair) {
-        rows.y1 = state.A0Sin - g / 2.0;
-        rows.y2 = rows.y1;
-    } else {
-        rows.y1 = Pd > 0.0 ? squareRoot(A0 * A0 - rows.x1 * rows.x1) : state.A0Sin;
-        rows.y2 = (state.A0Sin + state.A0Sin) - rows.y1;
-    }
-    return rows;
-}
-
-ContactLines linesOf(SolverState& state, int row) {
-    return {state.BallX.row(row), state.BallY.row(row), state.BallDist.row(row)};
-}
-
-RowConstants rowConstants(const SolverState& state, const RowGeometry& rows, int row) {
-    return {state.CentreDistance, state.CentreRadius, rows.m,  rows.h,
-            state.PitchDiameter,  state.Kn,           row == 2};
-}
-
-/// The lines of all balls. They have no order among themselves, so the compiler may take several at once.
-void placeLines(const SolverState& state, const RowGeometry& rows, const std::vector<double>& cosines,
-                const ContactLines& one, const ContactLines& two) {
-    const double R = state.CentreRadius;
-    const double da = state.AxialDisp;
-    const double dr = state.RadialDisp;
-    const double t = state.Tilt;
-    const double m = rows.m;
-    const auto balls = static_cast<std::size_t>(state.BallCount) + 1;
-    for (std::size_t i = 1; i < balls; ++i) {
-        const double c = cosines[i];
-        one.x[i] = (rows.x1 + dr * c) - (m * c) * t;
-        one.y[i] = (rows.y1 + da) + (R * c) * t;
-        two.x[i] = (rows.x2 + dr * c) + (m * c) * t;
-        two.y[i] = (rows.y2 - da) - (R * c) * t;
-    }
-    for (const ContactLines& lines : {one, two}) {
-        for (std::size_t i = 1; i < balls; ++i)
-            lines.length[i] = std::sqrt(lines.x[i] * lines.x[i] + lines.y[i] * lines.y[i]);
-    }
-}
-
-/// The sums of the stiffness, ball after ball. Row 2 pulls against row 1 along the axis, so its axial terms
-/// over the radial displacement and the tilt count negative: only so is the sum the derivative of the forces.
-struct StiffnessSums {
+/// The sums over all balls, ball after ball, each ball row 1 before row 2.
+struct RowSums {
+    double axial = 0.0, radial = 0.0, moment = 0.0;
     double k11 = 0.0, k12 = 0.0, k13 = 0.0, k22 = 0.0, k23 = 0.0, k31 = 0.0, k32 = 0.0, k33 = 0.0;
 
-    void add(const ContactBlock& one, std::size_t i, const ContactBlock& two, std::size_t j, double c) {
-        k11 += one.k11[i] + two.k11[j];
-        k12 += one.k12[i] - two.k12[j];
-        k13 += one.k13[i] - two.k13[j];
-        k22 += one.k22[i] + two.k22[j];
-        k23 += one.k23[i] + two.k23[j];
-        k31 += c * one.k11[i] + c * two.k11[j];
-        k32 += c * one.k12[i] - c * two.k12[j];
-        k33 += c * one.k13[i] - c * two.k13[j];
+    void addForces(const ContactBlock& block, std::size_t i) {
+        axial += block.axialForce[i];
+        radial += block.radialForce[i];
+        moment += block.moment[i];
+    }
+
+    /// A ball that touches in one row.
+    void add(const ContactBlock& block, std::size_t i) {
+        addForces(block, i);
+        k11 += block.k11[i];
+        k12 += block.k12[i];
+        k13 += block.k13[i];
+        k22 += block.k22[i];
+        k23 += block.k23[i];
+        k31 += block.k31[i];
+        k32 += block.k32[i];
+        k33 += block.k33[i];
+    }
+
+    /// A ball that touches in both: its two stiffnesses are added to each other first.
+    void add(const ContactBlock& block, std::size_t i, std::size_t j) {
+        addForces(block, i);
+        addForces(block, j);
+        k11 += block.k11[i] + block.k11[j];
+        k12 += block.k12[i] + block.k12[j];
+        k13 += block.k13[i] + block.k13[j];
+        k22 += block.k22[i] + block.k22[j];
+        k23 += block.k23[i] + block.k23[j];
+        k31 += block.k31[i] + block.k31[j];
+        k32 += block.k32[i] + block.k32[j];
+        k33 += block.k33[i] + block.k33[j];
+    }
+
+    /// All contacts of the block, its two rows merged.
+    void add(const ContactBlock& block) {
+        std::size_t i = 0;
+        std::size_t j = block.second();
+        while (i < block.second() && j < block.end()) {
+            if (block.ball(i) == block.ball(j)) {
+                add(block, i++, j++);
+            } else if (block.ball(i) < block.ball(j)) {
+                add(block, i++);
+            } else {
+                add(block, j++);
+            }
+        }
+        while (i < block.second())
+            add(block, i++);
+        while (j < block.end())
+            add(block, j++);
     }
 
     Matrix3 matrix() const {
@@ -99,16 +76,43 @@ struct StiffnessSums {
     }
 };
 
-/// The three force sums, ball after ball.
-struct ForceSums {
-    double axial = 0.0, radial = 0.0, moment = 0.0;
-
-    void add(const ContactBlock& one, std::size_t i, const ContactBlock& two, std::size_t j) {
-        axial = (axial + one.axialForce[i]) - two.axialForce[j];
-        radial = (radial + one.radialForce[i]) + two.radialForce[j];
-        moment = (moment + one.moment[i]) - two.moment[j];
+/// Lines, angles and deflections of all balls of a row. That no line is without length the assembly has seen.
+/// A loop for a few columns each: the compiler takes numbers side by side only where it can tell columns
+/// apart.
+void writeLines(SolverState& state, int row, const RowLines& lines, const std::vector<double>& cosines) {
+    double* const x = state.BallX.row(row);
+    double* const y = state.BallY.row(row);
+    double* const d = state.BallDist.row(row);
+    for (std::size_t ball = 1; ball < cosines.size(); ++ball) {
+        x[ball] = lines.x(cosines[ball]);
+        y[ball] = lines.y(cosines[ball]);
     }
-};
+    for (std::size_t ball = 1; ball < cosines.size(); ++ball)
+        d[ball] = std::sqrt(x[ball] * x[ball] + y[ball] * y[ball]);
+    double* const sine = state.BallSinAngle.row(row);
+    double* const cosine = state.BallCosAngle.row(row);
+    for (std::size_t ball = 1; ball < cosines.size(); ++ball) {
+        sine[ball] = y[ball] / d[ball];
+        cosine[ball] = x[ball] / d[ball];
+    }
+    const double A0 = state.CentreDistance;
+    double* const deflection = state.BallDeflection.row(row);
+    for (std::size_t ball = 1; ball < cosines.size(); ++ball)
+        deflection[ball] = d[ball] - A0 > 0.0 ? d[ball] - A0 : 0.0;
+}
+
+/// Loads and forces of the block's contacts in a row; those of the other balls are zero.
+void writeContacts(SolverState& state, int row, const ContactBlock& block) {
+    const double sign = row == 1 ? 1.0 : -1.0;
+    const std::size_t begin = row == 1 ? 0 : block.second();
+    const std::size_t end = row == 1 ? block.second() : block.end();
+    for (std::size_t contact = begin; contact < end; ++contact) {
+        const std::size_t ball = block.ball(contact);
+        state.BallLoad.row(row)[ball] = block.Q[contact];
+        state.BallRadialForce.row(row)[ball] = block.radialForce[contact];
+        state.BallAxialForce.row(row)[ball] = sign * block.axialForce[contact];
+    }
+}
 
 }  // namespace
 
@@ -120,59 +124,70 @@ std::vector<double> ballCosines(int balls, double spacing) {
     return cosines;
 }
 
-Assembly AssembleRows(SolverState& state, const std::vector<double>& cosines) {
-    const RowGeometry rows = rowGeometry(state);
-    const ContactLines first = linesOf(state, 1);
-    const ContactLines second = linesOf(state, 2);
-    placeLines(state, rows, cosines, first, second);
-    const RowConstants rowOne = rowConstants(state, rows, 1);
-    const RowConstants rowTwo = rowConstants(state, rows, 2);
-    const auto balls = static_cast<std::size_t>(state.BallCount);
-    ForceSums sums;
-    StiffnessSums stiffness;
-    for (std::size_t begin = 1; begin <= balls; begin += ContactBlock::kBalls) {
-        const std::size_t end = std::min(balls, begin + ContactBlock::kBalls - 1);
-        ContactBlock one(first, cosines.data(), begin, end, rowOne);
-        one.stiffen();
-        ContactBlock two(second, cosines.data(), begin, end, rowTwo);
-        two.stiffen();
-        for (std::size_t ball = begin; ball <= end; ++ball) {
-            const std::size_t i = one.slot(ball - begin);
-            const std::size_t j = two.slot(ball - begin);
-            if (i == 0 && j == 0) continue;  // nothing adds nothing to any sum
-            sums.add(one, i, two, j);
-            stiffness.add(one, i, two, j, cosines[ball]);
-        }
+CoupledRows::CoupledRows(SolverState& state) : cosines_(ballCosines(state.BallCount, state.BallSpacing)) {
+    const double A0 = state.CentreDistance;
+    const double R = state.CentreRadius;
+    const double g = state.GapDistance;
+    const double s = state.CenterlineSpacing;
+    const double Pd = state.DiametralClearance;
+    const bool pair = state.StyleIsB || state.StyleIsF;
+    state.A0Cos = std::cos(state.ContactAngle) * A0;
+    state.A0Sin = std::sin(state.ContactAngle) * A0;
+    double h = 0.0;
+    if (state.StyleIsB) h = g / 2.0 + s;
+    if (state.StyleIsF) h = g / 2.0 - s;
+    state.ArmOffset = h;
+    const double m = state.A0Sin / 2.0 - h / 2.0;
+    const double x = pair ? state.A0Cos : state.A0Cos - Pd / 2.0;
+    if (pair) {
+        y1_ = state.A0Sin - g / 2.0;
+        y2_ = y1_;
+    } else {
+        y1_ = Pd > 0.0 ? squareRoot(A0 * A0 - x * x) : state.A0Sin;
+        y2_ = (state.A0Sin + state.A0Sin) - y1_;
     }
+    // The tilt moves the second row's centres the other way.
+    rest_ = {
+        {x, y1_, m, R, 0.0, 0.0}, {x, y2_, -m, -R, 0.0, 0.0}, A0, R, m, h, state.PitchDiameter, state.Kn};
+    blocks_ = std::make_unique_for_overwrite<ContactBlock[]>(blockCount());
+}
+
+ContactRows CoupledRows::at(const SolverState& state) const {
+    ContactRows rows = rest_;
+    rows.one.y0 = y1_ + state.AxialDisp;
+    rows.two.y0 = y2_ - state.AxialDisp;
+    for (RowLines* const lines : {&rows.one, &rows.two}) {
+        lines->dr = state.RadialDisp;
+        lines->t = state.Tilt;
+    }
+    return rows;
+}
+
+Assembly AssembleRows(SolverState& state, CoupledRows& rows) {
+    const ContactRows here = rows.at(state);
+    const double* const cosines = rows.cosines().data();
+    RowSums sums;
+    for (std::size_t i = 0; i < rows.blockCount(); ++i) {
+        const std::size_t first = i * ContactBlock::kBalls + 1;
+        rows.block(i).take(here, cosines, first, std::min(rows.balls(), first + ContactBlock::kBalls - 1));
+        sums.add(rows.block(i));
+    }
+    const double last = cosines[rows.balls()];
     Assembly assembly;
-    assembly.lastArm1 = divide(rows.h * first.x[balls], first.y[balls]) + state.PitchDiameter;
+    assembly.lastArm1 = divide(here.h * here.one.x(last), here.one.y(last)) + here.dm;
     state.ForceAxialSum = checked(sums.axial);
     state.ForceRadialSum = checked(sums.radial);
     state.MomentSum = checked(sums.moment);
-    assembly.stiffness = stiffness.matrix();
+    assembly.stiffness = sums.matrix();
     return assembly;
 }
 
-void writeBallTables(SolverState& state, const std::vector<double>& cosines) {
-    const RowGeometry rows = rowGeometry(state);
-    const auto balls = static_cast<std::size_t>(state.BallCount);
+void writeBallTables(SolverState& state, CoupledRows& rows) {
+    const ContactRows here = rows.at(state);
     for (int row = 1; row <= 2; ++row) {
-        const ContactLines lines = linesOf(state, row);
-        const RowConstants constants = rowConstants(state, rows, row);
-        for (std::size_t begin = 1; begin <= balls; begin += ContactBlock::kBalls) {
-            const std::size_t end = std::min(balls, begin + ContactBlock::kBalls - 1);
-            const ContactBlock block(lines, cosines.data(), begin, end, constants);
-            for (std::size_t ball = begin; ball <= end; ++ball) {
-                const std::size_t slot = block.slot(ball - begin);
-                state.BallSinAngle.row(row)[ball] = divide(lines.y[ball], lines.length[ball]);
-                state.BallCosAngle.row(row)[ball] = divide(lines.x[ball], lines.length[ball]);
-                state.BallDeflection.row(row)[ball] =
-                    std::max(lines.length[ball] - state.CentreDistance, 0.0);
-                state.BallLoad.row(row)[ball] = block.Q[slot];
-                state.BallRadialForce.row(row)[ball] = block.radialForce[slot];
-                state.BallAxialForce.row(row)[ball] = block.axialForce[slot];
-            }
-        }
+        writeLines(state, row, row == 1 ? here.one : here.two, rows.cosines());
+        for (std::size_t i = 0; i < rows.blockCount(); ++i)
+            writeContacts(state, row, rows.block(i));
     }
 }
 

@@ -154,10 +154,9 @@ void replaceZeroLoads(ProgramState& state) {
 }
 
 /// The assembly under its trap; nothing for an unstable configuration.
-std::optional<Assembly> tryAssembly(ProgramState& state, const std::vector<double>& cosines,
-                                    MessagePort& messages) {
+std::optional<Assembly> tryAssembly(ProgramState& state, CoupledRows& rows, MessagePort& messages) {
     try {
-        return AssembleRows(state.solver, cosines);
+        return AssembleRows(state.solver, rows);
     } catch (const RuntimeError& error) {
         if (error.number() != fault::kDivisionByZero) throw;
     }
@@ -190,11 +189,11 @@ std::optional<SolveResult> SolveCoupledRows(ProgramState& state, const SolveArgu
     solver.ForceZeroAngle = 0;
     ContactConstants(solver);
     startIteration(solver);
-    const std::vector<double> cosines = ballCosines(solver.BallCount, solver.BallSpacing);
+    CoupledRows rows(solver);
     Rounds rounds;
     Patience patience(messages);
     for (;;) {
-        const std::optional<Assembly> assembly = tryAssembly(state, cosines, messages);
+        const std::optional<Assembly> assembly = tryAssembly(state, rows, messages);
         if (!assembly || solver.SolveAborted) return std::nullopt;
         // With tens of thousands of balls ten thousand passes take far longer than anybody waits.
         if (!patience.worked(solver.BallCount)) {
@@ -206,7 +205,7 @@ std::optional<SolveResult> SolveCoupledRows(ProgramState& state, const SolveArgu
         skipRounds(solver, rounds.closedBy(solver));
         if (solver.Iteration == kPassesBeforeTheQuestion && !goesOn(solver, messages)) return std::nullopt;
     }
-    writeBallTables(solver, cosines);
+    writeBallTables(solver, rows);
     return outValues(state);
 }
 

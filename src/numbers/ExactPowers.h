@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <limits>
 
 #include "numbers/Arithmetic.h"
 
@@ -36,9 +37,10 @@ inline Sum product(double a, double b) {
     return {p, ((x.high * y.high - p) + x.high * y.low + x.low * y.high) + x.low * y.low};
 }
 
-/// Outside of this the library's error grows, and in the end the parts of a product over- or underflow.
+/// Whether the base is between 1e-20 and 1e20. Outside, the library's error grows, and in the end the parts of
+/// a product over- or underflow. One comparison: two would be a branch.
 inline bool inRange(double base) {
-    return base > 1e-20 && base < 1e20;
+    return (base - 1e-20) * (1e20 - base) > 0.0;
 }
 
 /// A power worked out, and the same with its error moved outward: equal when the rounding is beyond doubt,
@@ -51,10 +53,6 @@ inline Candidate rounded(const Sum& sum) {
     const double result = sum.high + sum.low;
     const double error = sum.low - (result - sum.high);
     return {result, result + error * 1.04};
-}
-
-inline bool certain(const Candidate& candidate, double base) {
-    return candidate.result == candidate.moved && inRange(base);
 }
 
 /// With `root` the square root of the base.
@@ -74,21 +72,23 @@ inline Candidate cube(double base) {
 }
 
 /// Power after power: first all of them side by side, then the library for those in doubt. `candidateOf(i)`
-/// gives the candidate of bases[i].
+/// gives the candidate of bases[i]. It is inlined, so that it runs as its caller is compiled.
 template <typename Power>
-void fill(const double* bases, double* results, std::size_t count, double exponent, Power candidateOf) {
+[[gnu::always_inline]] inline void fill(const double* bases, double* results, std::size_t count,
+                                        double exponent, Power candidateOf) {
     constexpr std::size_t kBlock = 64;
+    constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
     std::array<double, kBlock> moved;
     for (std::size_t first = 0; first < count; first += kBlock) {
         const std::size_t size = std::min(kBlock, count - first);
         for (std::size_t i = 0; i < size; ++i) {
             const Candidate candidate = candidateOf(first + i);
             results[first + i] = candidate.result;
-            moved[i] = candidate.moved;
+            moved[i] = candidate.moved + (inRange(bases[first + i]) ? 0.0 : kNothing);
         }
-        for (std::size_t i = first; i < first + size; ++i) {
-            if (!certain({results[i], moved[i - first]}, bases[i])) [[unlikely]]
-                results[i] = power(bases[i], exponent);
+        for (std::size_t i = 0; i < size; ++i) {
+            if (!(results[first + i] == moved[i])) [[unlikely]]
+                results[first + i] = power(bases[first + i], exponent);
         }
     }
 }
@@ -98,18 +98,20 @@ void fill(const double* bases, double* results, std::size_t count, double expone
 /// base^(3/2). Errors as those of `power`.
 inline double powerThreeHalves(double base) {
     const exact::Candidate candidate = exact::threeHalves(base, std::sqrt(base));
-    return exact::certain(candidate, base) ? candidate.result : power(base, 3.0 / 2.0);
+    const bool certain = candidate.result == candidate.moved && exact::inRange(base);
+    return certain ? candidate.result : power(base, 3.0 / 2.0);
 }
 
 /// bases[i]^(3/2) into results[i] for i below `count`, with the square roots of the bases in `roots`; the
 /// arrays don't overlap. Errors as those of `power`.
-inline void powersThreeHalves(const double* bases, const double* roots, double* results, std::size_t count) {
+[[gnu::always_inline]] inline void powersThreeHalves(const double* bases, const double* roots,
+                                                     double* results, std::size_t count) {
     exact::fill(bases, results, count, 3.0 / 2.0,
                 [=](std::size_t i) { return exact::threeHalves(bases[i], roots[i]); });
 }
 
 /// bases[i]^3 into results[i] for i below `count`; the arrays don't overlap. Errors as those of `power`.
-inline void cubesOf(const double* bases, double* results, std::size_t count) {
+[[gnu::always_inline]] inline void cubesOf(const double* bases, double* results, std::size_t count) {
     exact::fill(bases, results, count, 3.0, [=](std::size_t i) { return exact::cube(bases[i]); });
 }
 

@@ -263,14 +263,19 @@ SolverState oneBall() {
     return solver;
 }
 
+int faultOfAssembly(SolverState& solver) {
+    CoupledRows rows(solver);
+    return faultOf([&] { AssembleRows(solver, rows); });
+}
+
 TEST(Assembly, GivesABallThatJustTouchesNoDeflectionAndNoLoad) {
     SolverState solver = oneBall();
-    const std::vector<double> cosines = ballCosines(1, plain::kTwoPi);
-    const Assembly assembly = AssembleRows(solver, cosines);
-    ASSERT_EQ(solver.BallDist(1, 1), 1.0);
+    CoupledRows rows(solver);
+    const Assembly assembly = AssembleRows(solver, rows);
     for (double* const cell : {&solver.BallDeflection(1, 1), &solver.BallLoad(1, 1)})
         *cell = 9.0;
-    writeBallTables(solver, cosines);
+    writeBallTables(solver, rows);
+    ASSERT_EQ(solver.BallDist(1, 1), 1.0);
     EXPECT_EQ(solver.BallDeflection(1, 1), 0.0);
     EXPECT_EQ(solver.BallLoad(1, 1), 0.0);
     EXPECT_EQ(assembly.stiffness[1][1], 0.0);
@@ -278,14 +283,47 @@ TEST(Assembly, GivesABallThatJustTouchesNoDeflectionAndNoLoad) {
     EXPECT_EQ(solver.BallAngleText(1, 1), "28.647");  // 0.5 radians
 }
 
+TEST(Assembly, TellsApartBallsThatTouchAndThatDoNotByTheLastRounding) {
+    // Around the place where both rows just touch, in steps that change a line's length by one rounding or
+    // none.
+    int touching = 0, apart = 0;
+    for (int step = -800; step <= 800; ++step) {
+        SolverState solver = oneBall();
+        solver.AxialDisp = step * 2e-17;
+        solver.RadialDisp = step % 7 * 1e-17;
+        CoupledRows rows(solver);
+        const Assembly assembly = AssembleRows(solver, rows);
+        writeBallTables(solver, rows);
+        double axial = 0.0, moment = 0.0;
+        bool free = true;
+        for (int row = 1; row <= 2; ++row) {
+            const double x = solver.BallX(row, 1), y = solver.BallY(row, 1);
+            const double d = std::sqrt(x * x + y * y);
+            const double e = d - 1.0;
+            const double Q = e < 0.0 ? 0.0 : std::pow(e, 1.5) * solver.Kn;
+            ++(e < 0.0 ? apart : touching);
+            free &= e <= 0.0;
+            axial = row == 1 ? axial + Q * (y / d) : axial - Q * (y / d);
+            moment = row == 1 ? moment + Q * (y / d) * 8.0 / 2.0 : moment - Q * (y / d) * 8.0 / 2.0;
+            EXPECT_EQ(solver.BallLoad(row, 1), Q) << step;
+            EXPECT_EQ(solver.BallDeflection(row, 1), e > 0.0 ? e : 0.0) << step;
+        }
+        EXPECT_EQ(solver.ForceAxialSum, axial) << step;
+        EXPECT_EQ(solver.MomentSum, moment) << step;
+        EXPECT_EQ(assembly.stiffness[1][1] == 0.0, free) << step;
+    }
+    EXPECT_GT(touching, 100);
+    EXPECT_GT(apart, 100);
+}
+
 TEST(Assembly, OfALoadedContactLineAlongTheAxisIsADivisionByZero) {
     SolverState solver = oneBall();
     solver.RadialDisp = -std::cos(solver.ContactAngle);
     solver.AxialDisp = 1.0;
-    EXPECT_EQ(faultOf([&] { AssembleRows(solver, ballCosines(1, plain::kTwoPi)); }), fault::kDivisionByZero);
+    EXPECT_EQ(faultOfAssembly(solver), fault::kDivisionByZero);
     // Out of touch the same line has no angle to show, and no fault.
     solver.AxialDisp = 0.25;
-    EXPECT_EQ(faultOf([&] { AssembleRows(solver, ballCosines(1, plain::kTwoPi)); }), 0);
+    EXPECT_EQ(faultOfAssembly(solver), 0);
 }
 
 TEST(Solver, EndsInAFaultForABearingWithoutBallsOrWithFewer) {

@@ -168,7 +168,8 @@ TEST(Assembly, OfAContactLineWithoutAxialPartIsADivisionByZero) {
     solver.AxialDisp = solver.A0Sin;
     solver.Tilt = 0.0;
     try {
-        AssembleRows(solver, ballCosines(solver.BallCount, solver.BallSpacing));
+        CoupledRows rows(solver);
+        AssembleRows(solver, rows);
         FAIL() << "a contact line without an axial part has no moment arm";
     } catch (const RuntimeError& error) {
         EXPECT_EQ(error.number(), fault::kDivisionByZero);
@@ -183,8 +184,8 @@ TEST(Stiffness, IsTheDerivativeOfTheForcesByEachDisplacement) {
         bearing.moment = 100.0F;
         ASSERT_TRUE(SolveCoupledRows(state, argumentsOf(bearing), messages).has_value());
         SolverState& solver = state.solver;
-        const std::vector<double> cosines = ballCosines(solver.BallCount, solver.BallSpacing);
-        const Assembly here = AssembleRows(solver, cosines);
+        CoupledRows rows(solver);
+        const Assembly here = AssembleRows(solver, rows);
         double SolverState::*const unknowns[] = {&SolverState::AxialDisp, &SolverState::RadialDisp,
                                                  &SolverState::Tilt};
         for (std::size_t j = 0; j < 3; ++j) {
@@ -193,7 +194,7 @@ TEST(Stiffness, IsTheDerivativeOfTheForcesByEachDisplacement) {
             const double before = solver.*unknowns[j];
             for (int side = 0; side < 2; ++side) {
                 solver.*unknowns[j] = before + (side == 0 ? -step : step);
-                AssembleRows(solver, cosines);
+                AssembleRows(solver, rows);
                 sums[side][0] = solver.ForceAxialSum;
                 sums[side][1] = solver.ForceRadialSum;
             }
