@@ -22,7 +22,7 @@ constexpr std::size_t kLongestField = 65535;
 constexpr std::size_t kMostTableBytes = 64U << 20U;
 
 bool endsField(int c) {
-    return c == kEnd || c == ',' || c == '\n' || c == '\r';
+    return c == ',' || c == '\n' || c == '\r' || c == kEnd;
 }
 
 }  // namespace
@@ -30,15 +30,10 @@ bool endsField(int c) {
 CatalogueTable::CatalogueTable(const ProgramFolder& folder, std::string_view name)
     : path_(folder.find("\\Data Tables\\" + std::string(name))), name_(name) {
     // A pipe in a table's place must not be waited for.
-    const int descriptor = ::open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (descriptor < 0) raiseSystem(errno, path_, fault::kFileNotFound);
-    file_.reset(::fdopen(descriptor, "rb"));
-    if (!file_) {
-        ::close(descriptor);
-        raiseFile(fault::kDeviceIo, path_);
-    }
+    file_ = Descriptor(::open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    if (file_.number() < 0) raiseSystem(errno, path_, fault::kFileNotFound);
     struct stat status {};
-    if (::fstat(::fileno(file_.get()), &status) != 0 || !S_ISREG(status.st_mode))
+    if (::fstat(file_.number(), &status) != 0 || !S_ISREG(status.st_mode))
         raiseFile(fault::kPathAccess, path_);
     size_ = static_cast<double>(status.st_size);
     if (size_ > kMostTableBytes) raiseTooLarge(path_, kMostTableBytes);
@@ -53,7 +48,7 @@ void CatalogueTable::skipByteOrderMark() {
 
 void CatalogueTable::skipFields(int count) {
     for (int i = 0; i < count; ++i)
-        readField(field_);
+        nextField();
 }
 
 bool CatalogueTable::AtEnd() {
@@ -65,8 +60,7 @@ double CatalogueTable::partRead() const {
 }
 
 void CatalogueTable::take(std::string& target) {
-    readField(target);
-    target = utf8Text(target);
+    target = utf8Text(nextField());
 }
 
 void CatalogueTable::take(Single& target) {
@@ -84,41 +78,51 @@ void CatalogueTable::take(Int16& target) {
 double CatalogueTable::number() {
     const int row = row_;
     const int column = column_;
-    readField(field_);
-    const NumberAtStart read = numberAtStart(field_);
+    const std::string_view field = nextField();
+    const NumberAtStart read = numberAtStart(field);
     if (!read.whole) {
-        faults_.push_back({name_, row, column, utf8Text(field_),
-                           "is not a number and is read as " + plainText(read.value)});
+        faults_.push_back(
+            {name_, row, column, utf8Text(field), "is not a number and is read as " + plainText(read.value)});
     }
     return read.value;
 }
 
-void CatalogueTable::readField(std::string& field) {
+std::string_view CatalogueTable::nextField() {
     if (AtEnd()) raiseFile(fault::kPastEnd, path_);
-    field.clear();
     while (peek() == ' ' || peek() == '\t')
         get();
-    if (peek() == '"') {
-        readQuoted(field);
-    } else {
-        while (!endsField(peek()))
-            keep(field);
-    }
+    const std::string_view field = peek() == '"' ? quotedField() : plainField();
     endField();
+    return field;
 }
 
-void CatalogueTable::readQuoted(std::string& field) {
+std::string_view CatalogueTable::plainField() {
+    const std::size_t begin = at_;
+    while (at_ != filled_ && !endsField(static_cast<unsigned char>(block_[at_])))
+        ++at_;
+    const std::string_view piece(block_.data() + begin, at_ - begin);
+    // A field whose end stands in the block, with one more character for a line end of two, stays there.
+    if (filled_ - at_ > 1) return piece;
+    field_ = piece;
+    while (!endsField(peek()))
+        keep();
+    return field_;
+}
+
+std::string_view CatalogueTable::quotedField() {
+    field_.clear();
     get();
     while (peek() != '"' && peek() != kEnd)
-        keep(field);
+        keep();
     // What stands between the closing quote and the field's end belongs to nothing.
     while (!endsField(peek()))
         get();
+    return field_;
 }
 
-void CatalogueTable::keep(std::string& field) {
-    if (field.size() == kLongestField) raiseFile(fault::kOverflow, path_);
-    field += static_cast<char>(get());
+void CatalogueTable::keep() {
+    if (field_.size() == kLongestField) raiseFile(fault::kOverflow, path_);
+    field_ += static_cast<char>(get());
 }
 
 void CatalogueTable::endField() {
@@ -129,22 +133,29 @@ void CatalogueTable::endField() {
 }
 
 int CatalogueTable::peek() {
-    if (at_ == filled_) {
-        filled_ = std::fread(block_.data(), 1, block_.size(), file_.get());
-        at_ = 0;
-        read_ += static_cast<double>(filled_);
-        if (filled_ == 0) {
-            if (std::ferror(file_.get()) != 0) raiseFile(fault::kDeviceIo, path_);
-            return kEnd;
-        }
-    }
-    return static_cast<unsigned char>(block_[at_]);
+    if (at_ == filled_) readBlock();
+    return at_ == filled_ ? kEnd : static_cast<unsigned char>(block_[at_]);
 }
 
 int CatalogueTable::get() {
     const int c = peek();
     if (c != kEnd) ++at_;
     return c;
+}
+
+/// Reads on: a whole block, or what is left of the file; nothing at its end.
+void CatalogueTable::readBlock() {
+    at_ = 0;
+    filled_ = 0;
+    do {
+        const ssize_t count = ::read(file_.number(), block_.data() + filled_, block_.size() - filled_);
+        if (count < 0 && errno != EINTR) raiseFile(fault::kDeviceIo, path_);
+        if (count == 0) return;
+        if (count > 0) {
+            filled_ += static_cast<std::size_t>(count);
+            read_ += static_cast<double>(count);
+        }
+    } while (filled_ < block_.size() && read_ < size_);
 }
 
 }  // namespace norlaplan

@@ -1,9 +1,7 @@
 #pragma once
 
 #include <array>
-#include <cstdio>
 #include <filesystem>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -12,6 +10,7 @@
 #include "catalogue/TableFaults.h"
 #include "numbers/Int16.h"
 #include "numbers/Single.h"
+#include "state/Descriptor.h"
 #include "state/ProgramFolder.h"
 
 namespace norlaplan {
@@ -52,10 +51,6 @@ class CatalogueTable {
     double partRead() const;
 
   private:
-    struct Closer {
-        void operator()(std::FILE* file) const { std::fclose(file); }
-    };
-
     void take(std::string& target);
     void take(Single& target);
     void take(double& target);
@@ -67,21 +62,24 @@ class CatalogueTable {
     }
     /// The next field as a number; what is none is noted.
     double number();
-    void readField(std::string& field);
-    void readQuoted(std::string& field);
-    void keep(std::string& field);
+    /// The text of the next field, good until something else is read.
+    std::string_view nextField();
+    std::string_view plainField();
+    std::string_view quotedField();
+    void keep();
     void endField();
     /// Passes over the mark that spreadsheets write at the head of a UTF-8 text.
     void skipByteOrderMark();
     /// The next character without taking it; -1 at the end.
     int peek();
     int get();
+    void readBlock();
 
-    std::unique_ptr<std::FILE, Closer> file_;
-    std::array<char, 16384> block_{};
+    Descriptor file_;
+    std::array<char, 16384> block_;
     std::size_t at_ = 0, filled_ = 0;
     double size_ = 0.0, read_ = 0.0;
-    std::string field_;
+    std::string field_;  ///< what doesn't stand in the block in one piece
     std::filesystem::path path_;
     std::string name_;
     int row_ = 1, column_ = 1;  ///< of the next field

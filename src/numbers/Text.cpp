@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 
 #include "numbers/RuntimeError.h"
 
@@ -51,6 +52,23 @@ std::size_t exponentLength(std::string_view text) {
     return at == first ? 0 : at;
 }
 
+/// The value of a mantissa of 15 digits at most; nothing for a longer one. The digits and the power of ten
+/// are whole numbers that 64 bits hold, so their quotient, rounded once, is the number nearest to the text
+/// (W. D. Clinger, How to read floating point numbers accurately, 1990).
+std::optional<double> shortValue(std::string_view mantissa) {
+    constexpr std::array kPowersOfTen = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                         1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    if (mantissa.size() > kPowersOfTen.size()) return std::nullopt;
+    const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
+    if (point == mantissa.size() && mantissa.size() == kPowersOfTen.size()) return std::nullopt;
+    std::int64_t digits = 0;
+    for (const char c : mantissa) {
+        if (c != '.') digits = digits * 10 + (c - '0');
+    }
+    const std::size_t decimals = point == mantissa.size() ? 0 : mantissa.size() - point - 1;
+    return static_cast<double>(digits) / kPowersOfTen[decimals];
+}
+
 struct ScannedNumber {
     double value = 0.0;
     std::size_t length = 0;  ///< characters that belong to the number; 0 when there is none
@@ -65,6 +83,10 @@ ScannedNumber scanNumber(std::string_view text) {
     const std::size_t mantissa = mantissaLength(text.substr(at));
     if (mantissa == 0) return scanned;
     const std::size_t length = mantissa + exponentLength(text.substr(at + mantissa));
+    if (length == mantissa) {
+        if (const std::optional<double> value = shortValue(text.substr(at, mantissa)))
+            return {negative ? -*value : *value, at + length, false};
+    }
     const char* first = text.data() + at;
     double value = 0.0;
     const auto result = std::from_chars(first, first + length, value);

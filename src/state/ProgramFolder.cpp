@@ -25,14 +25,31 @@ fs::path entryCalled(const fs::path& folder, const std::string& name) {
     return folder / name;
 }
 
-fs::path under(const fs::path& root, std::string_view name) {
-    fs::path path = root;
+/// The parts of a name between its separators.
+std::vector<std::string> partsOf(std::string_view name) {
+    std::vector<std::string> parts;
     std::size_t at = 0;
     while (at < name.size()) {
         const std::size_t end = std::min(name.find_first_of("\\/", at), name.size());
-        if (end > at) path = entryCalled(path, std::string(name.substr(at, end - at)));
+        if (end > at) parts.emplace_back(name.substr(at, end - at));
         at = end + 1;
     }
+    return parts;
+}
+
+fs::path under(const fs::path& root, std::string_view name) {
+    const std::vector<std::string> parts = partsOf(name);
+    // As exact names win, one that leads somewhere needs no look into the folders on its way.
+    std::string exact = root.native();
+    for (const std::string& part : parts) {
+        if (!exact.empty() && exact.back() != '/') exact += '/';
+        exact += part;
+    }
+    std::error_code failure;
+    if (fs::exists(exact, failure)) return exact;
+    fs::path path = root;
+    for (const std::string& part : parts)
+        path = entryCalled(path, part);
     return path;
 }
 

@@ -1,6 +1,7 @@
 #include <array>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -142,6 +143,33 @@ TEST_F(ATable, ReadsLinesThatEndInCrLfLfOrCr) {
     EXPECT_EQ(values[2], 3.0);
     EXPECT_EQ(values[3], 4.0);
     EXPECT_TRUE(table.AtEnd());
+}
+
+TEST_F(ATable, GivesFieldsOfAnyLengthWhereverThePiecesItIsReadByEnd) {
+    // Fields of 0 to 40 characters, plain and quoted, behind one that moves all of them: each stands once in
+    // every place around the ends of the pieces of 16 KB.
+    for (const char* const end : {",", "\n", "\r\n", "\r"}) {
+        for (std::size_t shift = 0; shift < 42; ++shift) {
+            std::string content = std::string(16384 - 30 - shift, 'a') + end;
+            std::vector<std::string> expected;
+            for (std::size_t i = 0; i < 1200; ++i) {
+                const std::string field(i % 41, static_cast<char>('b' + i % 20));
+                expected.push_back(field);
+                content += i % 7 == 0 ? '"' + field + "\" " + end : field + end;
+            }
+            CatalogueTable table = open(content + "9.5");
+            table.skipFields(1);
+            for (const std::string& field : expected) {
+                std::string text;
+                table.NextFields(text);
+                ASSERT_EQ(text, field) << shift;
+            }
+            double last = 0.0;
+            table.NextFields(last);
+            ASSERT_EQ(last, 9.5);
+            ASSERT_TRUE(table.AtEnd());
+        }
+    }
 }
 
 TEST_F(ATable, CountsAnEmptyLineAsAnEmptyField) {

@@ -1,4 +1,9 @@
+#include <bit>
+#include <cstdint>
+#include <cstdlib>
 #include <limits>
+#include <random>
+#include <string>
 
 #include <gtest/gtest.h>
 
@@ -22,6 +27,23 @@ TEST(LeadingNumber, IsTheNumberAtTheStartAndZeroForNone) {
     EXPECT_EQ(leadingNumber("nan"), 0.0);
     EXPECT_EQ(leadingNumber("1e-999"), 0.0);
     EXPECT_THROW(leadingNumber("1e999"), RuntimeError);
+}
+
+TEST(LeadingNumber, IsTheNumberOfSixtyFourBitsThatIsNearestToTheText) {
+    // With 1 to 17 digits and the point anywhere: those of 15 digits and less are worked out in place.
+    std::mt19937_64 generator(20261122);
+    for (int i = 0; i < 300000; ++i) {
+        const std::size_t size = 1 + generator() % 17;
+        std::string text;
+        for (std::size_t digit = 0; digit < size; ++digit)
+            text += static_cast<char>('0' + generator() % 10);
+        const std::size_t point = generator() % (size + 2);
+        if (point <= size) text.insert(point, ".");
+        if (generator() % 2 == 0) text.insert(0, "-");
+        const double expected = std::strtod(text.c_str(), nullptr);
+        ASSERT_EQ(std::bit_cast<std::uint64_t>(leadingNumber(text)), std::bit_cast<std::uint64_t>(expected))
+            << text;
+    }
 }
 
 TEST(WholeNumberText, TakesTheWholeTextOrNothing) {
