@@ -25,20 +25,42 @@ char asciiLower(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-/// How many characters of `text` make up digits, a point and more digits; 0 when no digit is among them.
-std::size_t mantissaLength(std::string_view text) {
+/// Digits, a point and more digits at the start of a text, as the whole number that they are without the
+/// point.
+struct Mantissa {
+    static constexpr int kMostDigits = 15;
+
+    std::size_t length = 0;  ///< characters; 0 when no digit is among them
+    int digits = 0, decimals = 0;
+    std::int64_t number = 0;  ///< of the first `kMostDigits` digits
+
+    /// The value of up to `kMostDigits` digits; nothing for more of them. The number and the power of ten are
+    /// whole numbers that 64 bits hold, so their quotient, rounded once, is the value nearest to the text
+    /// (W. D. Clinger, How to read floating point numbers accurately, 1990).
+    std::optional<double> value() const {
+        constexpr std::array kPowersOfTen = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                             1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+        if (digits > kMostDigits) return std::nullopt;
+        return static_cast<double>(number) / kPowersOfTen[static_cast<std::size_t>(decimals)];
+    }
+};
+
+Mantissa mantissaOf(std::string_view text) {
+    Mantissa mantissa;
     std::size_t at = 0;
-    std::size_t digits = 0;
     bool point = false;
-    while (at < text.size() && (isDigit(text[at]) || (text[at] == '.' && !point))) {
+    for (; at < text.size() && (isDigit(text[at]) || (text[at] == '.' && !point)); ++at) {
         if (text[at] == '.') {
             point = true;
-        } else {
-            ++digits;
+            continue;
         }
-        ++at;
+        if (mantissa.digits < Mantissa::kMostDigits)
+            mantissa.number = mantissa.number * 10 + (text[at] - '0');
+        ++mantissa.digits;
+        if (point) ++mantissa.decimals;
     }
-    return digits == 0 ? 0 : at;
+    if (mantissa.digits > 0) mantissa.length = at;
+    return mantissa;
 }
 
 /// How many characters behind a mantissa make up an exponent such as "E+06"; 0 when they are none.
@@ -52,23 +74,6 @@ std::size_t exponentLength(std::string_view text) {
     return at == first ? 0 : at;
 }
 
-/// The value of a mantissa of 15 digits at most; nothing for a longer one. The digits and the power of ten
-/// are whole numbers that 64 bits hold, so their quotient, rounded once, is the number nearest to the text
-/// (W. D. Clinger, How to read floating point numbers accurately, 1990).
-std::optional<double> shortValue(std::string_view mantissa) {
-    constexpr std::array kPowersOfTen = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                         1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-    if (mantissa.size() > kPowersOfTen.size()) return std::nullopt;
-    const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
-    if (point == mantissa.size() && mantissa.size() == kPowersOfTen.size()) return std::nullopt;
-    std::int64_t digits = 0;
-    for (const char c : mantissa) {
-        if (c != '.') digits = digits * 10 + (c - '0');
-    }
-    const std::size_t decimals = point == mantissa.size() ? 0 : mantissa.size() - point - 1;
-    return static_cast<double>(digits) / kPowersOfTen[decimals];
-}
-
 struct ScannedNumber {
     double value = 0.0;
     std::size_t length = 0;  ///< characters that belong to the number; 0 when there is none
@@ -80,11 +85,11 @@ ScannedNumber scanNumber(std::string_view text) {
     std::size_t at = 0;
     const bool negative = !text.empty() && text[0] == '-';
     if (!text.empty() && (text[0] == '-' || text[0] == '+')) at = 1;
-    const std::size_t mantissa = mantissaLength(text.substr(at));
-    if (mantissa == 0) return scanned;
-    const std::size_t length = mantissa + exponentLength(text.substr(at + mantissa));
-    if (length == mantissa) {
-        if (const std::optional<double> value = shortValue(text.substr(at, mantissa)))
+    const Mantissa mantissa = mantissaOf(text.substr(at));
+    if (mantissa.length == 0) return scanned;
+    const std::size_t length = mantissa.length + exponentLength(text.substr(at + mantissa.length));
+    if (length == mantissa.length) {
+        if (const std::optional<double> value = mantissa.value())
             return {negative ? -*value : *value, at + length, false};
     }
     const char* first = text.data() + at;
