@@ -37,8 +37,8 @@ inline Sum product(double a, double b) {
     return {p, ((x.high * y.high - p) + x.high * y.low + x.low * y.high) + x.low * y.low};
 }
 
-/// Whether the base is between 1e-20 and 1e20. Outside, the library's error grows, and in the end the parts of
-/// a product over- or underflow. One comparison: two would be a branch.
+/// Whether the base is between 1e-20 and 1e20. Outside, the library's error grows, and in the end the parts
+/// of a product over- or underflow. One comparison: two would be a branch.
 inline bool inRange(double base) {
     return (base - 1e-20) * (1e20 - base) > 0.0;
 }
