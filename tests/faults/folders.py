@@ -53,10 +53,10 @@ class Places:
         """The files that are neither of before nor of after: what waits to be put in place."""
         return sorted(set(files_below(self.folder)) - set(self.old) - set(self.new))
 
-    def is_new(self):
-        """Whether every file of the save is the new one."""
+    def is_new(self, only=None):
+        """Whether every file of the save, or each of these, is the new one."""
         now = files_below(self.folder)
-        return all(now.get(name) == self.new.get(name) for name in self.changed)
+        return all(now.get(name) == self.new.get(name) for name in only or self.changed)
 
     def complaint(self, together=True):
         """What is wrong in the folder; empty when all of it is old or new and whole. With `together` the files of one
