@@ -64,6 +64,11 @@ TEST(ThePageOfDeflectionConstants, HasItsRowsInTheirOrder) {
         above = page.heightOf(row);
     }
     EXPECT_TRUE(page.canvas.hasText("Printed: 3/14/26 9:26 AM"));
+    for (const RecordingCanvas::Text& text : page.canvas.texts) {
+        const bool head = text.text == "Load" || text.text == "Contact Angle" || text.text == "Deflection";
+        EXPECT_TRUE(text.look.bold || !head) << text.text;
+        EXPECT_GE(text.look.points, 7.0) << text.text;
+    }
     EXPECT_TRUE(page.canvas.hasText("Contact Angle"));
 }
 

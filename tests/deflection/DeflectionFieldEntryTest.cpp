@@ -35,6 +35,19 @@ TEST(TheDeflectionFields, BeginWithNoPreloadAndAFifthOfTheDynamicRatings) {
     EXPECT_EQ(state.deflectionFields.maxMomentLoad, fifth(state.bearing.dynamicMoment));
 }
 
+TEST(TheDeflectionFields, AreLookedAtInTheOrderInWhichTheyStand) {
+    ProgramState state = stateWith("K19013BP0T");
+    DeflectionFields& fields = state.deflectionFields;
+    std::string* const all[] = {&fields.preload, &fields.maxRadialLoad, &fields.maxAxialLoad,
+                                &fields.maxMomentLoad};
+    for (std::string* const field : all)
+        field->clear();
+    for (std::string* const field : all) {
+        EXPECT_EQ(&(fields.*refusalOf(state).field), field);
+        *field = "1";
+    }
+}
+
 TEST(TheDeflectionFields, StayWithTheirBearingAndGoWithAnotherOneOrOtherUnits) {
     ProgramState state = stateWith("K19013BP0T");
     state.deflectionFields.preload = "0.0010";

@@ -168,6 +168,8 @@ TEST(ASavedDeflectionGraph, HasItsNotesAndAFooterThatSaysPrinted) {
           "NORLAPLAN-MM version 1.00  Ada        Printed  3/14/26 9:26 AM"})
         EXPECT_NE(rtf.find(text), std::string::npos) << text;
     EXPECT_TRUE(rtf.ends_with("}{\\par }}\r\n"));
+    const std::size_t head = rtf.find("Notes:}"), first = rtf.find("1.) The curve shown");
+    EXPECT_NE(rtf.substr(head, first - head).find("\\plain\r\n\\par\\pard\\par\r\n"), std::string::npos);
 }
 
 TEST(ADeflectionTable, HasTheAxesTitlesAndALineForEachPoint) {
@@ -264,6 +266,8 @@ TEST(ASavedDeflectionGraph, HasItsTextsInTheStatedBoxes) {
     EXPECT_EQ(graph.x.labelLook.alignment, Alignment::Centre);
     EXPECT_EQ(graph.y.labelLook.alignment, Alignment::Centre);
     EXPECT_LE(graph.y.label.right, 0.05) << "left of its axis";
+    EXPECT_GT(graph.y.label.top, 0.0) << "its line passes through it";
+    EXPECT_LT(graph.y.label.bottom, 0.0);
     EXPECT_EQ(graph.x.labelLook.points, 8.0);
 }
 
@@ -314,7 +318,16 @@ TEST(ADeflectionGraph, HasItsTextsAroundThePlotAndNotesAboveThem) {
     EXPECT_EQ(graph.height, 4.0);
     expectLaidOut(graph);
     ASSERT_EQ(graph.notes.size(), 8U);
-    EXPECT_EQ(graph.notes[0].text, "Notes:");
+    const char* const starts[] = {"Notes:",
+                                  "1.)  The curve shown",
+                                  "2.)  The \"Free Race\" title",
+                                  "      restrained by the shaft or housing.",
+                                  "3.)  Under load, these",
+                                  "      of this deflection shown.",
+                                  "4.)  If actual deflection",
+                                  "      Varden Engineering Department, "};
+    for (std::size_t i = 0; i < graph.notes.size(); ++i)
+        EXPECT_TRUE(graph.notes[i].text.starts_with(starts[i])) << graph.notes[i].text;
     for (std::size_t i = 0; i < graph.notes.size(); ++i) {
         const GraphText& note = graph.notes[i];
         EXPECT_EQ(note.look.bold, i == 0) << note.text;

@@ -184,7 +184,22 @@ TEST_F(AFitsReport, IsADocumentUnderItsProposedName) {
     EXPECT_EQ(playDocument(state, PlayGraph::Tilt, run.clock).fileName, "K19013XP0R tilt");
     EXPECT_EQ(playDocument(state, PlayGraph::Tilt, run.clock).saveTitle, "Save Tilt of Axis Graph As");
     EXPECT_EQ(thermalFitsDocument(state, run.clock).fileName, "K19013XP0R-tempfit.rtf");
-    EXPECT_EQ(thermalFitsDocument(state, run.clock).filters.size(), 1U);
+}
+
+TEST_F(AFitsReport, IsSavedInTheStatedFormats) {
+    take("K19013XP0R");
+    const auto filtersOf = [](const Document& document) {
+        std::string list;
+        for (const FileFilter& filter : document.filters)
+            list += filter.label + "|" + filter.pattern + "|";
+        return list;
+    };
+    EXPECT_EQ(filtersOf(torqueDocument(state, run.clock)),
+              "Rich Text File (*.rtf)|*.RTF|BitMap File(*.bmp)|*.BMP|");
+    for (const PlayGraph which : {PlayGraph::AxialPlay, PlayGraph::Tilt})
+        EXPECT_EQ(filtersOf(playDocument(state, which, run.clock)),
+                  "Rich Text File (*.rtf)|*.rtf|Bitmap File (*.bmp)|*.bmp|");
+    EXPECT_EQ(filtersOf(thermalFitsDocument(state, run.clock)), "Rich Text Files (*.rtf)|*.rtf|");
 }
 
 }  // namespace

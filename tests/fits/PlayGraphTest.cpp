@@ -142,6 +142,10 @@ TEST_P(ThePlayGraph, ReadsThePointUnderThePointerAcrossTheWholePicture) {
 TEST_P(ThePlayGraph, OfASavedDocumentHasRoundAxes) {
     graphOf("K19013XP0");
     RtfGraphPage page = playGraphPage(state, which);
+    EXPECT_EQ(page.origin.x, 0.9);
+    EXPECT_EQ(page.origin.y, 4.5);
+    EXPECT_EQ(page.width, 6.8);
+    EXPECT_EQ(page.height, 4.0);
     EXPECT_EQ(page.xMost, metric() ? 0.15 : static_cast<double>(0.006F));
     EXPECT_EQ(page.xStep, metric() ? 0.015 : 0.0005);
     EXPECT_EQ(page.points.size(), static_cast<std::size_t>(state.play.rowCount));
