@@ -25,7 +25,8 @@ void drawLegend(const PageBox& box, Canvas& canvas) {
     const double column = (box.right - box.left) / static_cast<double>(kColumns);
     for (std::size_t i = 0; i < kFitLegend.size(); ++i) {
         const double x = box.left + kInset + column * static_cast<double>(i % kColumns);
-        const double y = box.top - kRow * (0.75 + static_cast<double>(i / kColumns));
+        const std::size_t row = i / kColumns;
+        const double y = box.top - kRow * (0.75 + static_cast<double>(row));
         canvas.line({x, y}, {x + kSample, y}, {kFitLegend[i].colour, 19050.0, 0});
         canvas.text({x + kSample + 0.1, y + kHalfLine, x + column, y - kHalfLine}, kFitLegend[i].name,
                     timesLook(10.0));
