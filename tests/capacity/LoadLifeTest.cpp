@@ -6,6 +6,7 @@
 #include "capacity/LoadLife.h"
 #include "loaddist/radlodestar2.h"
 #include "numbers/RuntimeError.h"
+#include "numbers/Text.h"
 #include "support/RecordingPorts.h"
 
 namespace norlaplan {
@@ -109,7 +110,23 @@ TEST(LoadLife, JudgesASpeedAtTheLimitAsWithinIt) {
     state.loads.speed = limit + 1.0;
     computeLoadLife(state, messages);
     EXPECT_EQ(state.life.speedVerdictColor, 4);
-    EXPECT_TRUE(state.life.speedVerdict.starts_with("WARNING !!!, the speed of "));
+    EXPECT_EQ(state.life.speedVerdict, "WARNING !!!, the speed of " + plainText(limit + 1.0) +
+                                           " RPM exceeds the maximum recommended limit of " +
+                                           plainText(limit) + " RPM!");
+}
+
+TEST(LoadLife, IsThatOfTheBearingUntilSomethingIsAnother) {
+    RecordingMessages messages;
+    ProgramState state = stateOf("X");
+    EXPECT_FALSE(hasLife(state));
+    ASSERT_TRUE(computeLoadLife(state, messages));
+    EXPECT_TRUE(hasLife(state));
+    ProgramState other = state;
+    other.bearing.partNumber = "K19013XP1";
+    EXPECT_FALSE(hasLife(other));
+    other = state;
+    other.loads.axialLoad = 101.0;
+    EXPECT_FALSE(hasLife(other));
 }
 
 TEST(LoadLife, GivesNothingForOtherStyles) {

@@ -19,7 +19,7 @@ TEST(AnAxialCurve, IsStillLinearAtALoadThatIsReliefItself) {
     computeCurves(result);
     EXPECT_EQ(result.axialCurve.at(5).deflection, 100.0 / 1e6);
     EXPECT_EQ(result.axialCurve.at(6).deflection, 100.0 / 1e6);
-    EXPECT_NEAR(result.axialCurve.at(7).deflection, 100.0 / 1e6 + 4e-5, 1e-12);
+    EXPECT_NEAR(result.axialCurve.at(7).deflection, 100.0 / 1e6 + 4e-5, 1e-11) << "the offset is 32-bit";
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressDialog>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
 #include <QTimer>
@@ -283,6 +284,8 @@ class SearchJourneyTest : public QObject {
         form.show();
         SearchProgress progress(form);
         auto* const bar = form.findChild<QProgressDialog*>("SearchProgress");
+        QCOMPARE(bar->labelText(), QString("Searching the catalog.  Escape stops."));
+        QCOMPARE(bar->findChild<QPushButton*>()->text(), QString("Stop"));
         for (const QTimer* const timer : bar->findChildren<QTimer*>())
             QVERIFY2(!timer->isActive(), "it would come up over a question");
         QVERIFY(progress.goOn(0.1));
