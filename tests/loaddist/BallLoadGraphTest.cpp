@@ -247,6 +247,8 @@ TEST(BallLoadPrint, CarriesTheLoadCaseAndBothRows) {
         EXPECT_LE(text.box.top, 8.25) << text.text;
         EXPECT_GE(text.box.bottom, 0.25) << text.text;
     }
+    for (const auto& rectangle : canvas.rectangles)
+        EXPECT_FALSE(rectangle.fill) << "the paper is the ground";
     state.bearing.styleLetter = "C";
     RecordingCanvas radial;
     printBallLoads(state, clock, openingView(state.solver), radial);

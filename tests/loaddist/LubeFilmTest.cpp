@@ -185,7 +185,7 @@ TEST(LubeFilm, NamesTheBearingInDisplayUnits) {
 TEST(LubeFilm, ShowsItsResultInDisplayUnits) {
     FilmResult result;
     result.maxBallLoad = 10.0;
-    result.innerSpeed = 0.5;
+    result.innerSpeed = Single(0.1);
     result.film = 0.00001704;
     result.lambda = 1.2684;
     result.lifeFactor = 1.2145;
@@ -196,7 +196,7 @@ TEST(LubeFilm, ShowsItsResultInDisplayUnits) {
     const FilmTexts texts = filmTexts(result, units);
     // 10 lb are 10 / 0.2248089 = 44.4822 N; 0.00001704 in are 0.000432816 mm.
     EXPECT_EQ(texts.maxBallLoad, "Maximum Ball Load = 44.482 N");
-    EXPECT_EQ(texts.innerSpeed, "Inner Race Rotation Speed = 0.5 RPM");
+    EXPECT_EQ(texts.innerSpeed, "Inner Race Rotation Speed = 0.1 RPM");
     EXPECT_EQ(texts.outerSpeed, "Outer Race Rotation Speed = 0 RPM");
     EXPECT_EQ(texts.film, "Min. Iso Lube Film = 4.33E-04 mm");
     EXPECT_EQ(texts.lambda, "Film/Finish Ratio 'Lambda' = 1.268");
