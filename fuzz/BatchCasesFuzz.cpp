@@ -1,9 +1,17 @@
+#include <algorithm>
+
 #include "Fuzzing.h"
 #include "cli/BatchCases.h"
 
 using namespace norlaplan;
 
 namespace {
+
+/// A row is a line: where a field breaks one, it is written with a blank.
+std::string onOneLine(std::string field) {
+    std::replace(field.begin(), field.end(), '\r', ' ');
+    return field;
+}
 
 /// Fields that were read are read again as they were once they are written.
 void writeAgain(const cli::Case& row) {
@@ -14,7 +22,7 @@ void writeAgain(const cli::Case& row) {
         line.field(field);
     const std::vector<std::string> fields = cli::csvFields(text);
     fuzz::must(fields.size() == 1 + row.texts.size(), "a line keeps its fields");
-    fuzz::must(fields[0] == row.partNumber, "a field is read as it was written");
+    fuzz::must(fields[0] == onOneLine(row.partNumber), "a field is read as it was written");
 }
 
 }  // namespace

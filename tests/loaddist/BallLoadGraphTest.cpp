@@ -70,6 +70,20 @@ TEST(BallLoadGraph, StandsSpikesOnTheBallCircleRowOneUpRowTwoDown) {
     }
 }
 
+TEST(BallLoadGraph, StepsFromBallToBallIn32Bits) {
+    SolverState solver;
+    solver.BallCount = 7;
+    ResetAnalysis(solver);
+    solver.BallLoad(1, 7) = solver.MaxBallLoad = 10.0;
+    const RecordingCanvas canvas = drawn(solver, openingView(solver));
+    const double angle = 6.0 * static_cast<double>(static_cast<float>(6.28318530718 / 7.0));
+    const PagePoint foot = at(10.0 * std::cos(angle), 10.0 * std::sin(angle) * kCosine80);
+    // With 64 bits of the step the foot would stand 1e-7 inches beside it.
+    EXPECT_TRUE(std::any_of(canvas.lines.begin(), canvas.lines.end(), [&](const auto& line) {
+        return std::hypot(line.from.x - foot.x, line.from.y - foot.y) < 1e-8;
+    }));
+}
+
 TEST(BallLoadGraph, ConnectsTipsUnlessOneOfTheTwoBallsCarriesNothing) {
     const RecordingCanvas canvas = drawn(fourBalls(), openingView(fourBalls()));
     const double depth = 10.0 * kCosine80;

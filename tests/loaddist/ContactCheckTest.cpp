@@ -8,6 +8,7 @@
 #include "loaddist/ContactDrawing.h"
 #include "loaddist/radlodestar2.h"
 #include "numbers/PiValue.h"
+#include "numbers/Text.h"
 #include "support/FaultOf.h"
 #include "support/RecordingPorts.h"
 
@@ -54,6 +55,7 @@ TEST(ContactCheck, SaysTenTextsOfTheHeaviestBalls) {
     EXPECT_EQ(check.rows[0].lines(), first);
     EXPECT_EQ(check.rows[1].lines()[0], "Max. Ball Load = .0 lbs.");
     EXPECT_EQ(check.rows[1].lines()[4], "Contact Angle = -5.25°");
+    EXPECT_EQ(plainText(check.rows[0].stress), "198338.39") << "the shortest text of 32 bits";
     EXPECT_EQ(check.groupCaption(1), "Contact Stress Row 1 Displayed");
     EXPECT_EQ(check.groupCaption(2), "Contact Stress Row 2");
 }
@@ -357,6 +359,10 @@ TEST(ContactPrint, CarriesTheTextsOfBothRows) {
           "Printed: 3/14/26 9:26 AM"}) {
         EXPECT_TRUE(canvas.hasText(text)) << text;
     }
+    EXPECT_TRUE(std::any_of(canvas.texts.begin(), canvas.texts.end(), [](const auto& drawn) {
+        return drawn.text == "Compressive Stress for K19013XP0" && drawn.look.points == 15.0 &&
+               drawn.look.bold;
+    }));
 }
 
 }  // namespace
