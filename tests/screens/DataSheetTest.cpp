@@ -1,4 +1,5 @@
 #include <QImage>
+#include <QScreen>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -56,6 +57,14 @@ class DataSheetTest : public QObject {
         QCOMPARE(sheet.inFront(), std::string(forms::kDataSheet));
         sheet.click(forms::kDataSheet, "Command1");
         QCOMPARE(sheet.inFront(), std::string(forms::kMainMenu));
+    }
+
+    void the_window_takes_nine_tenths_of_a_small_screens_width() {
+        Sheet sheet;
+        const QWidget& window = *sheet.picture().window();
+        const int whole = window.screen()->size().width();
+        QVERIFY2(whole <= 1024, "the tests' screen is a small one");
+        QCOMPARE(window.width(), whole * 9 / 10);
     }
 
     void the_page_is_painted_in_its_own_shape_on_white() {
