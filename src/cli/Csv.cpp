@@ -89,8 +89,7 @@ std::vector<std::string> csvFields(std::string_view line) {
 
 void CsvLine::field(std::string_view field) {
     if (fields_++ > 0) line_ += ',';
-    const bool plain = field.find_first_of(",\"\r\n") == std::string_view::npos && !field.starts_with(' ') &&
-                       !field.starts_with('\t') && !field.ends_with(' ');
+    const bool plain = field.find_first_of(",\"\r\n") == std::string_view::npos && trimmed(field) == field;
     if (plain) {
         line_ += field;
         return;

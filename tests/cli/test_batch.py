@@ -125,6 +125,12 @@ class Cases(Table):
         row = self.batch(HEAD + '"K19013XP0" , "500"\n')[0]
         self.assertEqual((row["partNumber"], row["error"]), ("K19013XP0", ""))
 
+    def test_keep_the_blanks_of_a_quoted_number(self):
+        """As they are read again: outside of quotes they would count for nothing."""
+        for number in ("K19013\t", "\tK19013", " K19013", "K19013 "):
+            self.assertEqual(self.batch(HEAD + f'"{number}",500\n')[0]["partNumber"], number)
+            self.assertIn(f'"{number}",500', self.results.read_text("utf-8"))
+
     def test_that_cannot_be_read_tell_so_in_their_row(self):
         rows = self.batch(HEAD + "K19013XP0,many\nK19013XP0,1,2,3,4,5\n\"K19013XP0,1\nK19013XP0,500\n" + "x" * 50000 +
                           ",1\n,1\nK19013XP0,500\n")
