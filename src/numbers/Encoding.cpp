@@ -70,7 +70,9 @@ std::string utf8Text(std::string_view bytes) {
 }
 
 std::string fileText(std::string_view bytes) {
-    return utf8Text(bytes.starts_with(kMark) ? bytes.substr(kMark.size()) : bytes);
+    while (bytes.starts_with(kMark))
+        bytes.remove_prefix(kMark.size());
+    return utf8Text(bytes);
 }
 
 }  // namespace norlaplan

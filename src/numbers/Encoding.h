@@ -9,7 +9,8 @@ namespace norlaplan {
 /// of which Latin-1 is a part.
 std::string utf8Text(std::string_view bytes);
 
-/// The same for the whole of a file: without the mark that some programs write at its head.
+/// The same for the whole of a file: without the mark that some programs write at its head, however often it
+/// stands there.
 std::string fileText(std::string_view bytes);
 
 }  // namespace norlaplan

@@ -13,6 +13,7 @@ TEST(Utf8Text, KeepsWhatIsUtf8AndOfAFileNotTheMarkAtItsHead) {
                                    "\xED\x9F\xBF", "\xEE\x80\x80", "\xF4\x8F\xBF\xBF"}) {
         EXPECT_EQ(utf8Text(text), text);
         EXPECT_EQ(fileText(std::string("\xEF\xBB\xBF") + text), text);
+        EXPECT_EQ(fileText(std::string("\xEF\xBB\xBF\xEF\xBB\xBF") + text), text) << "as if saved twice";
         EXPECT_EQ(fileText(text), text);
         EXPECT_EQ(utf8Text(std::string(text) + "\xEF\xBB\xBF"), std::string(text) + "\xEF\xBB\xBF");
     }
