@@ -29,9 +29,10 @@ void writeAgain(const cli::Case& row) {
 
 /// Reads any bytes as a table of cases.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const fuzz::ScratchFolder kScratch;
+    static const testing::TemporaryFolder kScratch;
     try {
-        cli::CaseReader cases(kScratch.write("cases.csv", fuzz::textOf(data, size)));
+        kScratch.write("cases.csv", fuzz::textOf(data, size));
+        cli::CaseReader cases(kScratch.path() / "cases.csv");
         cli::Case row;
         while (cases.next(row)) {
             fuzz::must(cases.partRead() <= 1.0 + 1e-9, "no more than the file is read");

@@ -7,6 +7,7 @@
 #include "numbers/RuntimeError.h"
 #include "search/SearchEngine.h"
 #include "state/LoadEntry.h"
+#include "support/Folders.h"
 
 using namespace norlaplan;
 
@@ -35,7 +36,7 @@ constexpr std::array<Row, 13> kRows = {{{"13-X.csv", "K19013XP0K", "X"},
 /// The program folder of a fuzzer: one table is its own, the others are those of the sample catalogue.
 class Tables {
   public:
-    explicit Tables(const Row& row) : folder_(scratch_.path(), NORLAPLAN_DATA) {
+    explicit Tables(const Row& row) : folder_(scratch_.path(), testing::sourceFolder() / "data") {
         place_ = std::filesystem::path("Data Tables") / row.table;
         // Searches of one bearing, or of the own table alone, are short.
         const std::string letter = row.searchLetter;
@@ -53,7 +54,7 @@ class Tables {
     }
 
   private:
-    fuzz::ScratchFolder scratch_;
+    testing::TemporaryFolder scratch_;
     ProgramFolder folder_;
     std::filesystem::path place_;
 };
@@ -71,7 +72,7 @@ void decode(const Row& row, const ProgramFolder& folder) {
     explainPartNumber(row.partNumber, "", state.units, folder);
     std::string number = row.partNumber;
     fuzz::Impatient messages;
-    fuzz::FixedClock clock;
+    testing::FixedClock clock;
     PaintedSheets sheets;
     DecodeServices services{folder, messages, clock, &sheets};
     const DecodeResult result = DecodePartNumber(state, number, services);

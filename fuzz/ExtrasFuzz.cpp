@@ -5,7 +5,7 @@ using namespace norlaplan;
 
 /// Reads any bytes as Extras.txt, at the start of the program.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const fuzz::ScratchFolder kScratch;
+    static const testing::TemporaryFolder kScratch;
     const ProgramFolder folder(kScratch.path());
     const std::string text = fuzz::textOf(data, size);
     kScratch.write("Extras.txt", text);

@@ -2,13 +2,14 @@
 #include "catalogue/PartNumberMeaning.h"
 #include "catalogue/Subroutines.h"
 #include "numbers/Text.h"
+#include "support/Folders.h"
 
 using namespace norlaplan;
 
 /// Decodes any bytes as a part number of the sample catalogue, the first one being the choice for a "Z": what
 /// the entry screen says of it while it is typed is what the decoder then does.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const ProgramFolder kFolder{std::filesystem::path(NORLAPLAN_DATA)};
+    static const ProgramFolder kFolder{testing::sourceFolder() / "data"};
     constexpr const char* kChoices[] = {"", "P", "V", "S", "T"};
     if (size == 0) return 0;
     const std::string choice = kChoices[data[0] % std::size(kChoices)];
@@ -19,7 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const PartNumberMeaning meaning = explainPartNumber(typed, choice, state.units, kFolder);
     std::string number = typed;
     fuzz::Impatient messages;
-    fuzz::FixedClock clock;
+    testing::FixedClock clock;
     DecodeServices services{kFolder, messages, clock, nullptr};
     const DecodeResult result = DecodePartNumber(state, number, services);
     fuzz::must(!result.failed, "the sample catalogue has no fault");

@@ -7,7 +7,7 @@ using namespace norlaplan;
 /// Reads any bytes as SETTINGS.INI: the start ends with units that it knows, and what was read is read again
 /// as it was after it has been written.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const fuzz::ScratchFolder kScratch;
+    static const testing::TemporaryFolder kScratch;
     const ProgramFolder folder(kScratch.path());
     kScratch.write("SETTINGS.INI", fuzz::textOf(data, size));
     ProgramState started;

@@ -77,7 +77,6 @@ class Search {
     /// False when the watch has stopped it.
     bool run() {
         readSpeedNumbers();
-        if (letter_ != "C") state_.bearing.contactAngleDegrees = 30.0;
         for (std::size_t pass = 0; pass < kSections.size(); ++pass) {
             if (!walk(pass)) return false;
         }

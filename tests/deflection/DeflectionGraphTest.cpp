@@ -7,6 +7,7 @@
 #include "deflection/DeflectionReport.h"
 #include "deflection/DeflectionTable.h"
 #include "numbers/RuntimeError.h"
+#include "support/ExpectGraphText.h"
 #include "support/OnPaper.h"
 #include "support/RecordingPorts.h"
 
@@ -226,18 +227,6 @@ struct AxialGraph {
     AxialGraph() { applyAxisRule(settings, data.dataMaxX, data.dataMaxY); }
 };
 
-void expectText(const GraphText& text, const std::string& words, const PageBox& box, double points,
-                Colour colour) {
-    EXPECT_EQ(text.text, words);
-    EXPECT_NEAR(text.box.left, box.left, 1e-9) << words;
-    EXPECT_NEAR(text.box.top, box.top, 1e-9) << words;
-    EXPECT_NEAR(text.box.right, box.right, 1e-9) << words;
-    EXPECT_NEAR(text.box.bottom, box.bottom, 1e-9) << words;
-    EXPECT_EQ(text.look.points, points) << words;
-    EXPECT_EQ(text.look.colour, colour) << words;
-    EXPECT_EQ(text.look.alignment, Alignment::Centre) << words;
-}
-
 void expectBox(const PageBox& box, const PageBox& expected) {
     EXPECT_NEAR(box.left, expected.left, 1e-9);
     EXPECT_NEAR(box.top, expected.top, 1e-9);
@@ -249,11 +238,11 @@ TEST(ASavedDeflectionGraph, HasItsTextsInTheStatedBoxes) {
     const AxialGraph axial;
     const Graph graph = savedDeflectionGraph(axial.data, axial.settings);
     const Colour red = rgb(255, 0, 0), blue = rgb(0, 0, 255);
-    expectText(graph.number, "K19013BP0", {2.0, 9.75, 6.5, 9.0}, 24.0, red);
-    expectText(graph.title, axial.data.title, {1.0, 9.35, 7.5, 9.0}, 14.0, blue);
-    expectText(graph.subtitle, "FREE RACE ANALYSIS", {1.312, 9.0, 7.312, 8.65}, 14.0, blue);
-    expectText(graph.xTitle, "AXIAL LOAD IN POUNDS", {1.0, 4.425, 7.5, 4.125}, 12.0, blue);
-    expectText(graph.yTitle, "DEFLECTION IN INCHES", {0.1, 8.6, 0.5, 5.0}, 10.0, blue);
+    testing::expectGraphText(graph.number, "K19013BP0", {2.0, 9.75, 6.5, 9.0}, 24.0, red);
+    testing::expectGraphText(graph.title, axial.data.title, {1.0, 9.35, 7.5, 9.0}, 14.0, blue);
+    testing::expectGraphText(graph.subtitle, "FREE RACE ANALYSIS", {1.312, 9.0, 7.312, 8.65}, 14.0, blue);
+    testing::expectGraphText(graph.xTitle, "AXIAL LOAD IN POUNDS", {1.0, 4.425, 7.5, 4.125}, 12.0, blue);
+    testing::expectGraphText(graph.yTitle, "DEFLECTION IN INCHES", {0.1, 8.6, 0.5, 5.0}, 10.0, blue);
     EXPECT_TRUE(graph.yTitle.look.vertical);
     EXPECT_FALSE(graph.xTitle.look.vertical);
     EXPECT_EQ(graph.origin.x, 0.9);

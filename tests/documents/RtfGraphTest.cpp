@@ -5,6 +5,7 @@
 #include "documents/RTFroutines.h"
 #include "documents/RtfGraph.h"
 #include "numbers/RuntimeError.h"
+#include "support/ExpectGraphText.h"
 
 namespace norlaplan {
 namespace {
@@ -65,16 +66,9 @@ TEST(RtfGraph, HasItsTitlesInTheirPlaces) {
     const Graph graph = rtfGraph(sample());
     const auto expectText = [](const GraphText& text, const char* words, const PageBox& box, double points,
                                Colour colour, bool vertical) {
-        EXPECT_EQ(text.text, words);
-        EXPECT_NEAR(text.box.left, box.left, 1e-9) << words;
-        EXPECT_NEAR(text.box.top, box.top, 1e-9) << words;
-        EXPECT_NEAR(text.box.right, box.right, 1e-9) << words;
-        EXPECT_NEAR(text.box.bottom, box.bottom, 1e-9) << words;
-        EXPECT_EQ(text.look.points, points) << words;
-        EXPECT_EQ(text.look.colour, colour) << words;
+        testing::expectGraphText(text, words, box, points, colour);
         EXPECT_EQ(text.look.vertical, vertical) << words;
         EXPECT_FALSE(text.look.bold) << words;
-        EXPECT_EQ(text.look.alignment, Alignment::Centre) << words;
     };
     expectText(graph.number, "K19013CP0", {2.05, 9.25, 6.55, 8.5}, 24.0, rgb(255, 0, 0), false);
     expectText(graph.title, "TITLE", {1.05, 8.85, 7.55, 8.5}, 14.0, rgb(0, 0, 255), false);

@@ -27,46 +27,52 @@ class FullDisk {
     rlimit before_{};
 };
 
+/// While it lives the administrator, who may write anywhere, reaches files as nobody does.
+class AsNobody {
+  public:
+    AsNobody() {
+        if (::geteuid() == 0) ::setfsuid(65534);
+    }
+    ~AsNobody() { ::setfsuid(::geteuid()); }
+    AsNobody(const AsNobody&) = delete;
+    AsNobody& operator=(const AsNobody&) = delete;
+};
+
+/// While it lives a file or folder has these rights; its owner's are given back.
+class WithRights {
+  public:
+    WithRights(const std::filesystem::path& path, std::filesystem::perms rights) : path_(path) {
+        std::filesystem::permissions(path_, rights);
+    }
+    ~WithRights() { std::filesystem::permissions(path_, std::filesystem::perms::owner_all); }
+    WithRights(const WithRights&) = delete;
+    WithRights& operator=(const WithRights&) = delete;
+
+  private:
+    std::filesystem::path path_;
+};
+
 /// While it lives the folder can be read only, by the administrator as well.
 class ReadOnlyFolder {
   public:
-    explicit ReadOnlyFolder(const std::filesystem::path& folder) : folder_(folder) {
-        namespace fs = std::filesystem;
-        fs::permissions(folder_, fs::perms::owner_read | fs::perms::owner_exec | fs::perms::group_read |
-                                     fs::perms::group_exec | fs::perms::others_read | fs::perms::others_exec);
-        // The administrator may write anywhere; file access is tried as nobody for the time being.
-        if (::geteuid() == 0) ::setfsuid(65534);
-    }
-    ~ReadOnlyFolder() {
-        ::setfsuid(::geteuid());
-        std::filesystem::permissions(folder_, std::filesystem::perms::owner_all);
-    }
-    ReadOnlyFolder(const ReadOnlyFolder&) = delete;
-    ReadOnlyFolder& operator=(const ReadOnlyFolder&) = delete;
+    explicit ReadOnlyFolder(const std::filesystem::path& folder)
+        : rights_(folder, static_cast<std::filesystem::perms>(0555)) {}
 
   private:
-    std::filesystem::path folder_;
+    WithRights rights_;  // before who has them: they are given back by the owner
+    AsNobody nobody_;
 };
 
 /// While it lives the file can be read only, by the administrator as well; its folder takes new files.
 class ReadOnlyFile {
   public:
-    explicit ReadOnlyFile(const std::filesystem::path& file) : file_(file) {
-        namespace fs = std::filesystem;
-        fs::permissions(file_, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
-        if (::geteuid() != 0) return;
-        fs::permissions(file_.parent_path(), fs::perms::all);
-        ::setfsuid(65534);
-    }
-    ~ReadOnlyFile() {
-        ::setfsuid(::geteuid());
-        std::filesystem::permissions(file_, std::filesystem::perms::owner_all);
-    }
-    ReadOnlyFile(const ReadOnlyFile&) = delete;
-    ReadOnlyFile& operator=(const ReadOnlyFile&) = delete;
+    explicit ReadOnlyFile(const std::filesystem::path& file)
+        : folder_(file.parent_path(), std::filesystem::perms::all),
+          rights_(file, static_cast<std::filesystem::perms>(0444)) {}
 
   private:
-    std::filesystem::path file_;
+    WithRights folder_, rights_;  // before who has them: they are given back by the owner
+    AsNobody nobody_;
 };
 
 }  // namespace norlaplan::testing
