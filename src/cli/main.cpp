@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cerrno>
 #include <iostream>
 #include <string_view>
 #include <utility>
@@ -11,6 +12,7 @@
 #include "cli/VisibleText.h"
 #include "numbers/RuntimeError.h"
 #include "state/FileFault.h"
+#include "state/StandardFiles.h"
 
 namespace norlaplan::cli {
 namespace {
@@ -29,6 +31,12 @@ void warn(const Session& session) {
     }
 }
 
+/// What is printed has arrived, or it is an error: a full disk, or a standard output that is closed.
+void finishOutput() {
+    std::cout.flush();
+    if (!std::cout) raiseSystem(errno, "standard output", fault::kDeviceIo);
+}
+
 void print(const Invocation& invocation, Session& session, CommandResult result) {
     if (invocation.options.json) {
         result.json["warnings"] = warningsJson(session);
@@ -36,6 +44,7 @@ void print(const Invocation& invocation, Session& session, CommandResult result)
     } else {
         std::cout << visibleText(result.text);
     }
+    finishOutput();
 }
 
 void run(const Invocation& invocation) {
@@ -73,11 +82,13 @@ int main(int argc, char** argv) {
     using namespace norlaplan::cli;
     const bool json = std::any_of(argv + 1, argv + argc,
                                   [](const char* word) { return std::string_view(word) == "--json"; });
+    norlaplan::holdClosedStandardFiles();
     try {
         requireStack();
-        if (const auto invocation = parseCommandLine(argc, argv)) run(*invocation);
-        std::cout.flush();
-        if (!std::cout) norlaplan::raiseFile(norlaplan::fault::kDiskFull, "standard output");
+        if (const auto invocation = parseCommandLine(argc, argv))
+            run(*invocation);
+        else
+            finishOutput();
         return 0;
     } catch (const Interrupted& interrupted) {
         interrupted.endProgram();

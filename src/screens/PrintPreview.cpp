@@ -54,6 +54,14 @@ void drawOn(QPrinter& printer, const Drawing& drawing) {
     if (!painter.end() || printer.printerState() == QPrinter::Error) raiseFile(fault::kDeviceIo, name);
 }
 
+/// What the print dialog asks for. Pages that a print server picks from the whole document aren't meant.
+Drawing chosenPages(const QPrinter& printer, const Drawing& drawing, int inView) {
+    if (printer.printRange() == QPrinter::CurrentPage) return onePage(drawing, inView);
+    if (printer.printRange() == QPrinter::PageRange)
+        return somePages(drawing, printer.fromPage(), printer.toPage());
+    return drawing;
+}
+
 /// The document's name as a file's name.
 std::string fileNameOf(std::string name) {
     std::replace_if(
@@ -184,8 +192,11 @@ void PrintPreview::print() {
     printer.setFullPage(true);
     printer.setPageLayout(pageLayoutOf(drawing_.paper));
     QPrintDialog dialog(&printer, this);
+    dialog.setMinMax(1, pages_);
+    dialog.setOption(QPrintDialog::PrintPageRange, pages_ > 1);
+    dialog.setOption(QPrintDialog::PrintCurrentPage, pages_ > 1);
     if (dialog.exec() != QDialog::Accepted) return;
-    drawOn(printer, drawing_);
+    drawOn(printer, chosenPages(printer, drawing_, page_));
     done_ = true;
     accept();
 }

@@ -9,9 +9,11 @@
 #include "screens/StartOptions.h"
 #include "screens/Theme.h"
 #include "screens/platform/QtServices.h"
+#include "state/StandardFiles.h"
 
 int main(int count, char** arguments) {
     using namespace norlaplan;
+    holdClosedStandardFiles();
     nameProgram();
     if (asksForText(count, arguments)) {
         const QCoreApplication application(count, arguments);

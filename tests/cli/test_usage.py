@@ -1,6 +1,8 @@
 """What norlaplan-cli says of its own words, of damaged settings and of a result that nobody can take."""
 
+import os
 import subprocess
+import tempfile
 import unittest
 from pathlib import Path
 
@@ -38,6 +40,24 @@ class Usage(unittest.TestCase):
         with open("/dev/full", "w", encoding="ascii") as full:
             done = run("decode", "K19013XP0", capture_output=False, stdout=full, stderr=subprocess.PIPE)
         self.assertEqual((done.returncode, done.stderr), (3, "Run-time error '61': Disk full: standard output\n"))
+
+    def test_a_standard_output_that_is_closed_is_told(self):
+        for words in (("decode", "K19013XP0"), ("decode", "K19013XP0", "--json"), ("--help",)):
+            done = run(*words, capture_output=False, stderr=subprocess.PIPE, preexec_fn=lambda: os.close(1))
+            self.assertEqual((done.returncode, done.stderr),
+                             (3, "Run-time error '57': Device I/O error: standard output\n"), words)
+
+    def test_messages_to_a_closed_standard_error_do_not_land_in_a_file_that_is_written(self):
+        with tempfile.TemporaryDirectory() as folder:
+            cases = Path(folder, "cases.csv")
+            cases.write_text("partNumber,radial,axial,moment,speed\nK19013XP0,500,0,0,100\nnothing,1,0,0,1\n")
+            written = []
+            for closed in ((), (2,), (0, 1, 2)):
+                results = Path(folder, f"results{len(closed)}.csv")
+                run("batch", cases, "--output", results, preexec_fn=lambda: [os.close(one) for one in closed])
+                written.append(results.read_text())
+            self.assertEqual(written[0].count("\n"), 3)
+            self.assertEqual(written[1:], written[:1] * 2)
 
     def test_wrong_words_are_status_2(self):
         for words in ((), ("nonsense",), ("decode",), ("decode", "K19013XP0", "--nonsense"),

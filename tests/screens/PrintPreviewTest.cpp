@@ -5,8 +5,11 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
 #include <QStandardPaths>
 #include <QTimer>
+#include <functional>
 
 #include "screens/DrawingView.h"
 #include "screens/PrintPreview.h"
@@ -41,10 +44,12 @@ struct Preview {
     PrintPreview dialog;
 };
 
-/// Once the preview runs: presses Print, in the system's dialog takes the printer that is a file, and says
-/// yes when it asks whether to write over it.
-void printTo(Preview& preview, const QString& file) {
-    QTimer::singleShot(0, &preview.dialog, [&preview, file] {
+/// Once the preview runs: presses Print, in the system's dialog takes the printer that is a file, chooses
+/// pages, and says yes when it asks whether to write over it.
+void printTo(
+    Preview& preview, const QString& file,
+    const std::function<void(QPrintDialog&)>& choose = [](QPrintDialog&) {}) {
+    QTimer::singleShot(0, &preview.dialog, [&preview, file, choose] {
         bool chosen = false;
         QTimer soon;
         QObject::connect(&soon, &QTimer::timeout, [&] {
@@ -57,6 +62,7 @@ void printTo(Preview& preview, const QString& file) {
                 auto* const printers = dialog->findChild<QComboBox*>("printers");
                 printers->setCurrentIndex(printers->count() - 1);
                 dialog->findChild<QLineEdit*>("filename")->setText(file);
+                choose(*dialog);
                 // Later: this timer doesn't tick while one of its ticks waits for an answer.
                 QTimer::singleShot(0, dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok),
                                    &QPushButton::click);
@@ -65,6 +71,18 @@ void printTo(Preview& preview, const QString& file) {
         soon.start(1);
         preview.control("Print").click();
     });
+}
+
+/// What the preview of the second page prints to a file, without the time.
+std::string printedFromTheSecondPage(const TemporaryFolder& files,
+                                     const std::function<void(QPrintDialog&)>& choose) {
+    Preview preview;
+    preview.control("NextPage").click();
+    printTo(preview, QString::fromStdString((files.path() / "list.pdf").string()), choose);
+    preview.dialog.run();
+    std::string pdf = files.read("list.pdf");
+    const std::size_t time = pdf.find("/CreationDate");
+    return pdf.erase(time, pdf.find('\n', time) - time);
 }
 
 }  // namespace
@@ -210,6 +228,27 @@ class PrintPreviewTest : public QObject {
         QVERIFY(preview.dialog.run());
         const std::string pdf = files.read("list.pdf");
         QVERIFY(pdf.starts_with("%PDF") && pdf.find("/Count 2") != std::string::npos);
+    }
+
+    void of_a_page_range_or_the_page_in_view_no_other_page_is_printed_to_a_file() {
+        TemporaryFolder files;
+        const auto range = [](int page) {
+            return [page](QPrintDialog& dialog) {
+                dialog.findChild<QRadioButton*>("printRange")->setChecked(true);
+                QCOMPARE(dialog.findChild<QSpinBox*>("to")->maximum(), 2);
+                dialog.findChild<QSpinBox*>("from")->setValue(page);
+                dialog.findChild<QSpinBox*>("to")->setValue(page);
+            };
+        };
+        const std::string first = printedFromTheSecondPage(files, range(1));
+        const std::string second = printedFromTheSecondPage(files, range(2));
+        QVERIFY(first.find("/Count 1") != std::string::npos);
+        QVERIFY(second.find("/Count 1") != std::string::npos);
+        QVERIFY(first != second);
+        const std::string inView = printedFromTheSecondPage(files, [](QPrintDialog& dialog) {
+            dialog.findChild<QRadioButton*>("printCurrentPage")->setChecked(true);
+        });
+        QVERIFY(inView == second);
     }
 
     void escape_leaves_it() {

@@ -44,6 +44,27 @@ TEST(Pages, OneByOneHoldWhatStandsOnThem) {
     }
 }
 
+TEST(Pages, ThatAreChosenStandOnPagesOfTheirOwn) {
+    const auto textsOf = [](int first, int last, int& pages) {
+        testing::RecordingCanvas canvas;
+        somePages(threePages(), first, last).draw(canvas);
+        pages = canvas.pages;
+        std::string all;
+        for (const auto& text : canvas.texts)
+            all += text.text + ";";
+        return all;
+    };
+    int pages = 0;
+    EXPECT_EQ(textsOf(2, 3, pages), "page 2;page 3;");
+    EXPECT_EQ(pages, 2);
+    EXPECT_EQ(textsOf(1, 2, pages), "page 1;page 2;");
+    EXPECT_EQ(pages, 2);
+    EXPECT_EQ(textsOf(1, 3, pages), "page 1;page 2;page 3;");
+    EXPECT_EQ(pages, 3);
+    EXPECT_EQ(textsOf(3, 9, pages), "page 3;");
+    EXPECT_EQ(pages, 1);
+}
+
 TEST(Pages, MeasureTextsAsTheCanvasBelowDoes) {
     testing::RecordingCanvas canvas;
     double width = 0.0;
