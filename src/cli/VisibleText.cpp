@@ -31,9 +31,7 @@ std::string visibleText(std::string_view bytes, LineEnds lineEnds) {
     visible.reserve(text.size());
     for (std::size_t at = 0; at < text.size(); ++at) {
         const char c = text[at];
-        if (c == '\n' && lineEnds == LineEnds::Kept) {
-            visible += c;
-        } else if (isControl(c)) {
+        if (isControl(c) && !(c == '\n' && lineEnds == LineEnds::Kept)) {
             // The character that is typed with the control key: 64 further on.
             visible += {'^', static_cast<char>(c ^ 0x40)};
         } else if (beginsWithHighControl(text.substr(at))) {

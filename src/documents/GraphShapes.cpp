@@ -1,6 +1,7 @@
 #include "documents/GraphShapes.h"
 
 #include <cmath>
+#include <vector>
 
 #include "numbers/Arithmetic.h"
 #include "numbers/FormatNumber.h"
@@ -35,10 +36,20 @@ void layOutLabel(const GraphAxis& axis, double value, PagePoint foot, GraphShape
                  zero ? "0" : FormatNumber(value * axis.shownFactor, axis.picture), axis.labelLook});
 }
 
+/// The values that have a line of the grid. They add up step by step: that decides whether the last one has
+/// one.
+std::vector<double> gridValues(const GraphAxis& axis) {
+    std::vector<double> values;
+    // NOLINTNEXTLINE(clang-analyzer-security.FloatLoopCounter)
+    for (double value = axis.first; value <= axis.last; value += axis.step)
+        values.push_back(value);
+    return values;
+}
+
 void layOutXGrid(const Graph& graph, GraphShapes& shapes) {
     const double top = graph.origin.y + graph.height;
     int line = 0;
-    for (double v = graph.x.first; v <= graph.x.last; v += graph.x.step) {
+    for (const double v : gridValues(graph.x)) {
         const PagePoint foot = graph.place({v, 0.0});
         const bool tick = graph.frame && isOnFrame(graph.x, v);
         shapes.line({foot.x, foot.y - graph.x.tick}, {foot.x, tick ? foot.y : top}, *graph.grid);
@@ -49,7 +60,7 @@ void layOutXGrid(const Graph& graph, GraphShapes& shapes) {
 void layOutYGrid(const Graph& graph, GraphShapes& shapes) {
     const double right = graph.origin.x + graph.width;
     int line = 0;
-    for (double v = graph.y.first; v <= graph.y.last; v += graph.y.step) {
+    for (const double v : gridValues(graph.y)) {
         const PagePoint foot = graph.place({0.0, v});
         const bool tick = graph.frame && isOnFrame(graph.y, v);
         shapes.line({foot.x - graph.y.tick, foot.y}, {tick ? foot.x : right, foot.y}, *graph.grid);

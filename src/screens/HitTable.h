@@ -17,6 +17,9 @@ class HitTable : public CopyTable {
     void showOrder(const SearchResults& results);
 
     QSize sizeHint() const override;
+
+  private:
+    int headWidth(int column) const;
 };
 
 }  // namespace norlaplan

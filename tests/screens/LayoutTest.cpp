@@ -1,8 +1,11 @@
 #include <QLabel>
 #include <QLayout>
+#include <QScrollBar>
 #include <QTabWidget>
 
 #include "screens/Everything.h"
+#include "screens/HitModel.h"
+#include "screens/HitTable.h"
 #include "screens/Theme.h"
 
 namespace norlaplan::testing {
@@ -81,6 +84,25 @@ class LayoutTest : public QObject {
             QCOMPARE(overlap(form), QString());
             QCOMPARE(labelAstray(form), QString());
         }
+    }
+
+    void everyColumnOfTheListHasRoomInTheUsualWindow() {
+        Program program;
+        program.useUnits("METRIC");
+        program.state.style = {"FACE-TO-FACE SET WITH SPACERS", "A"};
+        program.state.styleChosen = true;
+        program.state.entries = {"13", "100", "2.5", "76", "44", "", "", "100"};
+        enterSizes(program.state);
+        enterLoads(program.state);
+        program.screens.showAlone(forms::kMainMenu);
+        program.click(forms::kMainMenu, "Command7");
+        program.screens.current()->prepareToShow(QRect(0, 0, 1600, 1000));
+        QApplication::processEvents();
+        const auto& table = program.control<HitTable>(forms::kResults, "List1");
+        for (const int column : {kHoursColumn, kMarkColumn, kCheckColumn})
+            QVERIFY(!table.isColumnHidden(column));
+        QVERIFY(table.viewport()->width() > 0);
+        QCOMPARE(table.horizontalScrollBar()->maximum(), 0);
     }
 };
 
