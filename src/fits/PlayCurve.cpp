@@ -29,6 +29,8 @@ void addRows(const BearingSpec& bearing, const UnitMode& units, PlayCurve& curve
     const double A = 2.0 * bearing.raceRadius - bearing.ballDiameter;
     const Single twoA = 2.0 * A;
     curve.rowCount = 1;
+    // The clearance adds up step by step: its last bits are those of the curve.
+    // NOLINTNEXTLINE(clang-analyzer-security.FloatLoopCounter)
     for (double P = kClearanceStep; P <= curve.curveClearanceMax; P += kClearanceStep) {
         // The cosine goes through its text, and so keeps 15 digits.
         curve.cosineText = fifteenDigits(std::cos(bearing.contactAngle) - divide(P, twoA));

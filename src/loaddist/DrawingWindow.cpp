@@ -38,6 +38,11 @@ bool overlap(const PageBox& a, const PageBox& b) {
     return a.left < b.right && b.left < a.right && a.bottom < b.top && b.bottom < a.top;
 }
 
+/// How many lines stand for a curve or an area: as many as wanted, from 2 to `most`.
+int countOf(double wanted, int most) {
+    return wanted > 2.0 ? static_cast<int>(std::min(std::ceil(wanted), static_cast<double>(most))) : 2;
+}
+
 double heightOf(const TextLook& look) {
     return kLineHeight * look.points / kPointsPerInch;
 }
@@ -77,25 +82,25 @@ void DrawingWindow::line(PagePoint from, PagePoint to, const PagePen& pen) {
 void DrawingWindow::arc(PagePoint centre, double radius, double from, double to, const PagePen& pen) {
     // Chords that leave the arc by less than a printer's dot, at every scale.
     constexpr double kSagitta = 0.0005;
-    constexpr double kMostChords = 20000.0;
+    constexpr int kMostChords = 20000;
     const double onPage = std::max(radius * inchesPerUnit(), 2.0 * kSagitta);
     const double chord = 2.0 * std::acos(1.0 - kSagitta / onPage);
-    const double chords = std::clamp(std::ceil(std::fabs(to - from) / chord), 2.0, kMostChords);
-    const auto at = [&](double i) {
+    const int chords = countOf(std::fabs(to - from) / chord, kMostChords);
+    const auto at = [&](int i) {
         const double angle = from + (to - from) * i / chords;
         return PagePoint{centre.x + radius * std::cos(angle), centre.y + radius * std::sin(angle)};
     };
-    for (double i = 0.0; i < chords; i += 1.0)
-        line(at(i), at(i + 1.0), pen);
+    for (int i = 0; i < chords; ++i)
+        line(at(i), at(i + 1), pen);
 }
 
 void DrawingWindow::arrow(PagePoint tip, PagePoint direction, double length, double halfWidth,
                           const PagePen& pen) {
     // Filled by lines from the tip to its base, side by side.
-    constexpr double kMostLines = 400.0;
-    const double lines = std::clamp(
-        std::ceil(2.0 * halfWidth * inchesPerUnit() / (0.7 * pen.width / kEmuPerInch)), 2.0, kMostLines);
-    for (double i = 0.0; i <= lines; i += 1.0) {
+    constexpr int kMostLines = 400;
+    const int lines =
+        countOf(2.0 * halfWidth * inchesPerUnit() / (0.7 * pen.width / kEmuPerInch), kMostLines);
+    for (int i = 0; i <= lines; ++i) {
         const double aside = halfWidth * (2.0 * i / lines - 1.0);
         line(tip,
              {tip.x - length * direction.x - aside * direction.y,
@@ -131,8 +136,9 @@ std::optional<PageBox> DrawingWindow::freePlace(PagePoint wish, double width, do
     constexpr double kStep = 0.04;
     constexpr int kDirections = 24;
     const double farthest = box().right - box().left + box().top - box().bottom;
-    for (double away = 0.0; away < farthest; away += kStep) {
-        for (int i = 0; i < (away == 0.0 ? 1 : kDirections); ++i) {
+    for (int ring = 0; ring * kStep < farthest; ++ring) {
+        const double away = ring * kStep;
+        for (int i = 0; i < (ring == 0 ? 1 : kDirections); ++i) {
             const double angle = TwoPiValue * i / kDirections;
             const double x = wish.x + away * std::cos(angle);
             const double y = wish.y + away * std::sin(angle);
