@@ -1,5 +1,7 @@
 """torque, play and fits of norlaplan-cli: results, refusals, errors."""
 
+import math
+import struct
 import unittest
 
 from program import result, run
@@ -11,6 +13,11 @@ PLAY_FIELDS = ["rowCount", "curve", "clearanceLow", "clearanceHigh", "curveClear
 FITS_FIELDS = ["highTemp", "lowTemp", "shaftExpansion", "housingExpansion", "shaftSize", "housingSize", "shaftLine",
                "housingLine", "comment", "warnings"]
 ROOM = ("--high", "68", "--low", "68", "--shaft", "7e-6", "--housing", "7e-6")
+
+
+def single(value):
+    """The 32-bit value nearest to it."""
+    return struct.unpack("f", struct.pack("f", value))[0]
 
 
 class Torque(unittest.TestCase):
@@ -29,6 +36,20 @@ class Torque(unittest.TestCase):
     def test_points_are_inches_and_inch_pounds_in_both_units(self):
         self.assertEqual(result("torque", "K19013XP0")[1]["curve"],
                          result("--units", "METRIC", "torque", "K19013XP0")[1]["curve"])
+
+    def test_axes_end_at_the_next_unit_of_the_leading_figure(self):
+        for number in ("K19013XP0", "K04008CP0", "K19013BP0R"):
+            for units, step, end, moment in (("US", 0.0005, single(0.005), 1.0), ("METRIC", 0.01 / 25.4, 0.13 / 25.4, 8.850744)):
+                torque = result("--units", units, "torque", number)[1]
+                axes, top = torque["axes"], torque["curve"][-1][1] / moment
+                exponent = math.floor(math.log10(top))
+                leading = math.floor(top / 10.0**exponent) + 1
+                most = leading * 10.0**exponent
+                expected = (end, step, most, most / leading if leading >= 4 else most / (2 * leading), exponent, leading,
+                            7.25 / end, 4 / most)
+                for name, value in zip(AXES, expected):
+                    self.assertAlmostEqual(axes[name] / value if value else 1 + axes[name], 1, places=9,
+                                           msg=f"{number} {units} {name}")
 
     def test_shows_a_table(self):
         lines = run("torque", "K19013XP0").stdout.splitlines()
@@ -66,6 +87,25 @@ class Play(unittest.TestCase):
             self.assertAlmostEqual(us[1] * 25.4, metric[1], places=6)
             self.assertEqual(us[2], metric[2])
 
+    def test_marks_the_range_of_the_bearing_and_fills_the_plot(self):
+        # A clearance letter has its own range; without one, and with a preload letter, it is the standard one.
+        for number, low, high in (("K19013XP0E", "fitLow", "fitHigh"), ("K19013XP0", "stdClearanceLow", "stdClearanceHigh"),
+                                  ("K19013XP0R", "stdClearanceLow", "stdClearanceHigh")):
+            bearing = result("decode", number)[1]
+            for units, length in (("US", 1.0), ("METRIC", 25.4)):
+                play = result("--units", units, "play", number)[1]
+                curve = play["curve"]
+                self.assertEqual((play["clearanceLow"], play["clearanceHigh"]), (bearing[low], bearing[high]))
+                self.assertEqual(play["curveClearanceMax"], 0.006)
+                self.assertAlmostEqual(play["sx"] * length * 0.006, 7.25, places=5)
+                self.assertAlmostEqual(play["sy"] * curve[-1][1], 4, places=5)
+                self.assertAlmostEqual(play["sTilt"] * curve[-1][2], 4, places=5)
+                for limit, at_play, at_tilt in (("clearanceLow", "playAtLow", "tiltAtLow"),
+                                                ("clearanceHigh", "playAtHigh", "tiltAtHigh")):
+                    # The last row that isn't beyond the limit; rows follow each other by a ten thousandth of an inch.
+                    row = curve[int(play[limit] * 10000 + 0.1)]
+                    self.assertEqual((play[at_play], play[at_tilt]), (row[1], row[2]), f"{number} {units} {limit}")
+
     def test_shows_a_table_whose_digits_tell_its_rows_apart(self):
         # From row to row the clearance grows by a ten thousandth of an inch.
         for units, clearances, play in (("US", ["0.0000", "0.0001", "0.0002"], r"^\d\.\d{5}$"),
@@ -93,6 +133,16 @@ class Fits(unittest.TestCase):
             self.assertEqual(list(fits), FITS_FIELDS)
             self.assertTrue(fits["shaftLine"].startswith("Shaft size "))
             self.assertTrue(fits["housingLine"].startswith("Housing size "))
+
+    def test_at_room_temperature_the_shaft_takes_the_whole_clearance(self):
+        for number, clearance in (("K19013XP0", "stdClearanceLow"), ("K19013CP0E", "fitLow")):
+            bearing = result("decode", number)[1]
+            fits = result("fits", number, *ROOM)[1]
+            expected = {"highTemp": 68, "lowTemp": 68, "shaftExpansion": 7e-6, "housingExpansion": 7e-6,
+                        "shaftSize": bearing["bore"] + bearing["boreTolerance"] + bearing[clearance],
+                        "housingSize": bearing["outsideDiameter"]}
+            for name, value in expected.items():
+                self.assertAlmostEqual(fits[name] / value, 1, places=6, msg=f"{number} {name}")
 
     def test_takes_a_material_by_name_through_its_text(self):
         for name, us, metric in (("52100 Steel", 7e-6, 7e-6), ("440C steel", 5.6e-6, 1.01e-5 / 1.8),
