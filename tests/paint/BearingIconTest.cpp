@@ -1,3 +1,4 @@
+#include <QPainter>
 #include <QXmlStreamReader>
 #include <array>
 #include <cmath>
@@ -86,6 +87,30 @@ TEST(BearingIcon, ComesInTheSizesThatDesktopsAskFor) {
         const int pixels = expected.at(static_cast<std::size_t>(i));
         EXPECT_TRUE(sizes.contains(QSize(pixels, pixels))) << pixels;
     }
+}
+
+TEST(BearingIcon, ShowsInEverySizeTheDrawingOfThatSize) {
+    const QIcon icon = bearingIcon();
+    for (const int pixels : {16, 22, 24, 32, 48, 64, 128, 256}) {
+        const QSize size(pixels, pixels);
+        EXPECT_EQ(icon.actualSize(size), size);
+        EXPECT_EQ(icon.pixmap(size).toImage(), bearingIconImage(pixels)) << pixels;
+    }
+    EXPECT_EQ(icon.actualSize(QSize(1000, 1000)), QSize(256, 256)) << "the largest there is";
+    EXPECT_EQ(QIcon(icon).pixmap(QSize(32, 32)).toImage(), bearingIconImage(32));
+}
+
+TEST(BearingIcon, IsPaintedInTheMiddleOfItsPlace) {
+    QImage page(100, 60, QImage::Format_ARGB32_Premultiplied);
+    page.fill(Qt::transparent);
+    {
+        QPainter painter(&page);
+        bearingIcon().paint(&painter, QRect(10, 5, 80, 48));
+    }
+    // The square of 48 stands in the middle of a place that is 80 wide.
+    EXPECT_EQ(page.copy(10 + 16, 5, 48, 48), bearingIconImage(48));
+    EXPECT_EQ(page.pixelColor(12, 29).alpha(), 0);
+    EXPECT_EQ(page.pixelColor(87, 29).alpha(), 0);
 }
 
 /// The elements of the scalable icon, with what they say.

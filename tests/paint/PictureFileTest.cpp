@@ -1,7 +1,11 @@
 #include <QImage>
+#include <QRegularExpression>
+#include <QStringList>
+#include <QTransform>
 #include <functional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -95,7 +99,7 @@ TEST(PictureFiles, SetFurtherPagesBelowTheFirst) {
     expectInk(picture, QRect(0, 3300, 1275, 1650), 750, 3300 + 750, 899, 3300 + 899);
 }
 
-TEST(PdfFiles, HaveLetterPagesAndNameTheProgram) {
+TEST(PdfFiles, HaveAPageForEachOfTheDrawing) {
     const TemporaryFolder files;
     saveLetter(files.path() / "a.pdf", [](Canvas& canvas) {
         canvas.line({1.0, 10.0}, {3.0, 9.0}, kBroad);
@@ -107,6 +111,76 @@ TEST(PdfFiles, HaveLetterPagesAndNameTheProgram) {
     EXPECT_EQ(countOf(pdf, "/MediaBox [0 0 612"), 3) << pdf.substr(0, 2000);
     EXPECT_EQ(countOf(pdf, "792"), 3);
     EXPECT_EQ(countOf(pdf, "/Count 3"), 1);
+}
+
+/// A text as a PDF file holds it: two bytes a letter, behind a mark.
+std::string wide(const std::string& text) {
+    std::string bytes = "\xFE\xFF";
+    for (const char letter : text)
+        bytes += std::string(1, '\0') + letter;
+    return bytes;
+}
+
+TEST(PdfFiles, NameTheProgram) {
+    const TemporaryFolder files;
+    saveLetter(files.path() / "a.pdf", [](Canvas&) {});
+    EXPECT_EQ(countOf(files.read("a.pdf"), "/Creator (" + wide("NORLAPLAN-MM version 1.00") + ")"), 1);
+}
+
+TEST(PdfFiles, LieOnTheirSideWhereThePaperDoes) {
+    const TemporaryFolder files;
+    savePicture(files.path() / "a.pdf", {papers::kLetterLandscape, [](Canvas&) {}});
+    const std::string pdf = files.read("a.pdf");
+    EXPECT_EQ(countOf(pdf, "/MediaBox [0 0 792"), 1);
+    EXPECT_EQ(countOf(pdf, " 612"), 1);
+}
+
+/// The drawing of a PDF file's only page, unpacked.
+QStringList operatorsOf(const std::string& pdf) {
+    for (std::size_t at = pdf.find("\nstream\n"); at != std::string::npos;
+         at = pdf.find("\nstream\n", at + 1)) {
+        const QByteArray packed(pdf.data() + at + 8, static_cast<qsizetype>(pdf.size() - at - 8));
+        // The toolkit wants the size of what comes out in front, and grows it where it is more.
+        const QByteArray page = qUncompress(QByteArray("\0\0\x10\0", 4) + packed);
+        if (page.contains(" cm")) return QString::fromLatin1(page).split(QRegularExpression("\\s+"));
+    }
+    return {};
+}
+
+/// The ends of a drawing's lines, in points from the lower left corner of the page.
+std::vector<QPointF> endsOfLines(const QStringList& operators) {
+    std::vector<QPointF> ends;
+    std::vector<QTransform> kept;
+    QTransform scale;
+    for (qsizetype i = 0; i < operators.size(); ++i) {
+        const auto number = [&](qsizetype back) { return operators.at(i - back).toDouble(); };
+        const QString& word = operators.at(i);
+        if (word == "q") kept.push_back(scale);
+        if (word == "Q") {
+            scale = kept.back();
+            kept.pop_back();
+        }
+        if (word == "cm")
+            scale = QTransform(number(6), number(5), number(4), number(3), number(2), number(1)) * scale;
+        if (word == "m" || word == "l") ends.push_back(scale.map(QPointF(number(2), number(1))));
+    }
+    return ends;
+}
+
+TEST(PdfFiles, HaveTheirLinesWhereTheyStandOnThePaper) {
+    const TemporaryFolder files;
+    for (const Paper& paper : {papers::kLetter, papers::kLetterLandscape}) {
+        savePicture(files.path() / "a.pdf", {paper, [](Canvas& canvas) {
+                                                 canvas.line({1.0, 7.0}, {3.5, 6.0}, kBroad);
+                                             }});
+        const std::vector<QPointF> ends = endsOfLines(operatorsOf(files.read("a.pdf")));
+        ASSERT_EQ(ends.size(), 2U);
+        // 72 points to the inch.
+        EXPECT_NEAR(ends[0].x(), 72.0, 0.1);
+        EXPECT_NEAR(ends[0].y(), 504.0, 0.1);
+        EXPECT_NEAR(ends[1].x(), 252.0, 0.1);
+        EXPECT_NEAR(ends[1].y(), 432.0, 0.1);
+    }
 }
 
 TEST(PictureFiles, OfAnotherExtensionAreFaultFiveAndNoFile) {
