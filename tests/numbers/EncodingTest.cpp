@@ -1,4 +1,5 @@
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include <gtest/gtest.h>
@@ -35,6 +36,22 @@ TEST(Utf8Text, ReadsOtherBytesAsLettersOfWindows1252) {
         {"\xC3\xBC \xFC", "\xC3\xBC \xC3\xBC"}};                               // both in one text
     for (const auto& [bytes, text] : rows)
         EXPECT_EQ(utf8Text(bytes), text);
+}
+
+TEST(Utf8Text, KeepsTheFirstAndTheLastOfEachLengthAndNothingBeyondThem) {
+    // The table of RFC 3629, section 4.
+    for (const char* const character :
+         {"\x7F", "\xC2\x80", "\xDF\xBF", "\xE0\xA0\x80", "\xE0\xBF\xBF", "\xE1\x80\x80", "\xEC\xBF\xBF",
+          "\xED\x80\x80", "\xED\x9F\xBF", "\xEE\x80\x80", "\xEF\xBF\xBF", "\xF0\x90\x80\x80",
+          "\xF0\xBF\xBF\xBF", "\xF1\x80\x80\x80", "\xF3\xBF\xBF\xBF", "\xF4\x80\x80\x80", "\xF4\x8F\xBF\xBF"})
+        EXPECT_EQ(utf8Text(character), character);
+    for (const char* const bytes :
+         {"\x80", "\xBF", "\xC1\xBF", "\xC2\x7F", "\xDF\xC0", "\xE0\x9F\xBF", "\xE0\xC0\x80", "\xE1\x80\xC0",
+          "\xED\xA0\x80", "\xEF\xBF\x7F", "\xF0\x8F\xBF\xBF", "\xF0\x90\x80\x7F", "\xF4\x90\x80\x80",
+          "\xF5\x80\x80\x80"})
+        EXPECT_NE(utf8Text(bytes), bytes) << "these bytes are no character";
+    EXPECT_EQ(utf8Text(std::string_view("\xC3\xBC").substr(0, 1)), "\xC3\x83")
+        << "whatever stands behind the text";
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include <limits>
 #include <ostream>
 #include <string>
+#include <string_view>
 
 #include <gtest/gtest.h>
 
@@ -91,6 +92,15 @@ TEST(FormatNumber, TakesTheThirtyTwoBitValueAsItsSixtyFourBitOne) {
 TEST(FormatNumber, RefusesWhatIsNotFinite) {
     EXPECT_THROW(FormatNumber(std::numeric_limits<double>::quiet_NaN(), "0"), RuntimeError);
     EXPECT_THROW(FormatNumber(std::numeric_limits<double>::infinity(), "0"), RuntimeError);
+}
+
+TEST(FormatNumber, EndsItsPictureWhereItsTextEndsWhateverStandsBehindIt) {
+    const std::string_view picture = "#0.000E+000";
+    EXPECT_EQ(FormatNumber(12.5, picture.substr(0, 2)), "13");
+    EXPECT_EQ(FormatNumber(12.5, picture.substr(0, 3)), "13.");
+    EXPECT_EQ(FormatNumber(12.5, picture.substr(0, 6)), "12.500");
+    EXPECT_EQ(FormatNumber(12.5, picture.substr(0, 9)), "12.500E+0");
+    EXPECT_EQ(FormatNumber(12.5, picture.substr(0, 10)), "12.500E+00");
 }
 
 TEST(FormatNumber, ShowsEveryWholeDigitOfALargeValue) {

@@ -91,18 +91,6 @@ TEST(PlainText, ReadsBackToTheSameBits) {
     }
 }
 
-TEST(UpperCase, ChangesLettersOfTheAlphabetAlone) {
-    EXPECT_EQ(upperCase("k19o13xp0"), "K19O13XP0");
-    EXPECT_EQ(lowerCase("AbC-8"), "abc-8");
-    EXPECT_EQ(trimmed("  a b\t"), "a b");
-}
-
-TEST(UpperCase, EndsWithTheFirstAndTheLastLetter) {
-    // The neighbours of a, z, A and Z in ASCII are no letters.
-    EXPECT_EQ(upperCase("`az{@AZ["), "`AZ{@AZ[");
-    EXPECT_EQ(lowerCase("`az{@AZ["), "`az{@az[");
-}
-
 TEST(Trimmed, TakesBlanksAndTabsFromBothEndsAndNothingElse) {
     EXPECT_EQ(trimmed("\t a\tb \t "), "a\tb");
     EXPECT_EQ(trimmed(" \t"), "");
@@ -161,23 +149,32 @@ TEST(ShortestText, IsTheShortestOfItsOwnWidth) {
     EXPECT_EQ(shortestText(-2.5e-300), "-2.5e-300");
 }
 
-TEST(UpperCase, TakesLettersBeyondAsciiLikeTheOthers) {
-    EXPECT_EQ(upperCase("k190äéøß÷13"), "K190ÄÉØß÷13") << "the sharp s has no capital of one letter";
-    EXPECT_EQ(upperCase("ÿ ā ķ ĺ ň ŋ ž ẁ ỹ"), "Ÿ Ā Ķ Ĺ Ň Ŋ Ž Ẁ Ỹ");
-    EXPECT_EQ(upperCase("άέήίόύώ αβγ ς ρσω ϋ"), "ΆΈΉΊΌΎΏ ΑΒΓ Σ ΡΣΩ Ϋ");
-    EXPECT_EQ(upperCase("жя ѐџ ѡҁ ґ ӂ ӏ ә"), "ЖЯ ЀЏ ѠҀ Ґ Ӂ Ӏ Ә");
-    EXPECT_EQ(upperCase("աֆ"), "ԱՖ");
-}
-
-TEST(UpperCase, LeavesWhatIsUpperCaseOrNoLetter) {
-    for (const char* const text : {"ÄÉØŸĀŽ", "ΑΣΩ", "ЖЯ", "×™€漢字 😀", "µ ı ĸ ŉ"})
-        EXPECT_EQ(upperCase(text), text);
-}
-
-TEST(UpperCase, LeavesBytesThatAreNoUtf8) {
-    for (const char* const text : {"\xE4", "K\xC3", "\xC3\x28", "\xFF\xFE", "\xE1\xBA", "\x80"})
-        EXPECT_EQ(upperCase(text), text);
-    EXPECT_EQ(upperCase("\xC3k\xE4z"), "\xC3K\xE4Z");
+TEST(NumberTexts, EndWhereTheyEndWhateverStandsBehindThem) {
+    // A field of a line that goes on: the digits behind it are another field's.
+    const struct {
+        std::string_view line;
+        std::size_t size;
+        double number;
+    } rows[] = {{"12", 1, 1.0},
+                {"1.5", 2, 1.0},
+                {"-7", 1, 0.0},
+                {"2e+34", 4, 2000.0},
+                {"2E-34", 4, 0.002},
+                {"2e+3", 3, 2.0},
+                {"2e3", 2, 2.0},
+                {"3e2", 1, 3.0},
+                {"  5", 2, 0.0},
+                {"5,250", 1, 5.0},
+                {".25", 1, 0.0},
+                {".25", 2, 0.2},
+                {"1234567890123456", 15, 123456789012345.0}};
+    for (const auto& [line, size, number] : rows)
+        EXPECT_EQ(leadingNumber(line.substr(0, size)), number) << line << ", the first " << size;
+    EXPECT_EQ(wholeNumberText(std::string_view("1,250.75").substr(0, 5)), 1250.0);
+    EXPECT_EQ(trimmed(std::string_view(" a b").substr(0, 2)), "a");
+    EXPECT_EQ(lowerCase(std::string_view("AB").substr(0, 1)), "a");
+    EXPECT_TRUE(numberAtStart(std::string_view("5 x").substr(0, 2)).whole);
+    EXPECT_FALSE(numberAtStart("5 x").whole);
 }
 
 }  // namespace
