@@ -27,6 +27,16 @@ extern "C" int fsync(int descriptor) {
     return -1;
 }
 
+/// What `link` fails with, as on a disk that knows no second name of a file; 0: it does its work.
+static int linkFailure = 0;
+
+/// In place of the system's.
+extern "C" int link(const char* from, const char* to) noexcept {
+    if (linkFailure == 0) return ::linkat(AT_FDCWD, from, AT_FDCWD, to, 0);
+    errno = linkFailure;
+    return -1;
+}
+
 namespace norlaplan {
 namespace {
 
@@ -260,17 +270,35 @@ TEST(TwoFiles, GoIntoPlaceTogether) {
 }
 
 TEST(TwoFiles, TheFirstGoesBackWhenTheSecondCannotBePutInPlace) {
-    for (const bool hadOne : {true, false}) {
-        TemporaryFolder place;
-        if (hadOne) place.write("DATA.RTF", "old sheet");
-        StagedFile sheet(place.path() / "DATA.RTF", "new sheet");
-        StagedFile records(place.path() / "CONDENSED.DAT", "new records");
-        // A folder with something in it can't be replaced.
-        place.write("CONDENSED.DAT/other", "");
-        EXPECT_EQ(faultOf([&] { commitTogether(sheet, records); }), fault::kPathAccess);
-        EXPECT_EQ(fs::exists(place.path() / "DATA.RTF"), hadOne);
-        EXPECT_EQ(hadOne ? place.read("DATA.RTF") : "old sheet", "old sheet");
+    for (const int disk : {0, EPERM}) {
+        for (const bool hadOne : {true, false}) {
+            TemporaryFolder place;
+            if (hadOne) place.write("DATA.RTF", "old sheet");
+            StagedFile sheet(place.path() / "DATA.RTF", "new sheet");
+            StagedFile records(place.path() / "CONDENSED.DAT", "new records");
+            // A folder with something in it can't be replaced.
+            place.write("CONDENSED.DAT/other", "");
+            // A disk without second names is asked for one only where there is a file to keep.
+            linkFailure = hadOne ? disk : 0;
+            EXPECT_EQ(faultOf([&] { commitTogether(sheet, records); }), fault::kPathAccess);
+            linkFailure = 0;
+            EXPECT_EQ(fs::exists(place.path() / "DATA.RTF"), hadOne);
+            EXPECT_EQ(hadOne ? place.read("DATA.RTF") : "old sheet", "old sheet");
+        }
     }
+}
+
+TEST(TwoFiles, GoIntoPlaceTogetherOnADiskThatKnowsNoSecondNames) {
+    TemporaryFolder place;
+    place.write("DATA.RTF", "old sheet");
+    StagedFile sheet(place.path() / "DATA.RTF", "new sheet");
+    StagedFile records(place.path() / "CONDENSED.DAT", "new records");
+    linkFailure = EPERM;
+    commitTogether(sheet, records);
+    linkFailure = 0;
+    EXPECT_EQ(place.read("DATA.RTF"), "new sheet");
+    EXPECT_EQ(place.read("CONDENSED.DAT"), "new records");
+    EXPECT_EQ(filesIn(place.path()), 2);
 }
 
 }  // namespace

@@ -183,5 +183,26 @@ TEST(Files, LeaveNothingOpenAndCloseNothingElse) {
     EXPECT_EQ(openFiles(), before);
 }
 
+TEST(Files, AreReadAndWrittenByAProgramThatWasStartedWithNothingOpen) {
+    TemporaryFolder place;
+    place.write("old", "content");
+    // A process of its own, whose first file gets the number 0.
+    const pid_t child = ::fork();
+    if (child == 0) {
+        for (const int number : {0, 1, 2})
+            ::close(number);
+        std::string read;
+        const int fault = faultOf([&] {
+            read = readWholeFile(place.path() / "old");
+            writeWholeFile(place.path() / "new", read);
+        });
+        ::_exit(fault != 0 ? fault : read == "content" ? 0 : 1);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(place.read("new"), "content");
+}
+
 }  // namespace
 }  // namespace norlaplan
