@@ -57,6 +57,17 @@ TEST(HelpTopics, AScreenOpensTheTopicThatTheIndexCallsByItsName) {
         EXPECT_EQ(topicOfScreen(screen), topic) << screen;
 }
 
+TEST(HelpTopics, AScreenWithoutATopicOfItsNameOpensTheOneOfWhatItShows) {
+    const std::pair<const char*, int> screens[] = {
+        {"Form1", 20}, {"Form2", 20}, {"Form22", 20},                                // how to use the program
+        {"Form4", 7},  {"Form7", 7},  {"Form8", 7},   {"Form21", 7}, {"Form29", 7},  // the maker
+        {"Form25", 4}, {"Form26", 4},                                                // deflection
+        {"Form28", 1},    // opened by the file menu
+        {"Form31", 17}};  // sizes of the data sheet
+    for (const auto& [screen, topic] : screens)
+        EXPECT_EQ(topicOfScreen(screen), topic) << screen;
+}
+
 TEST(HelpTopics, WhatLooksIntoALifeOpensTheTopicOfTheLife) {
     for (const char* const screen : {"Form27", "form30", "DataForm", "lodestarform", "tlodestarballloads"})
         EXPECT_EQ(topicOfScreen(screen), 18) << screen;

@@ -49,6 +49,12 @@ TEST(ProductLines, WithoutANameAreNone) {
     EXPECT_THAT(readProductLines("[]\n[ ]\none.jpg"), IsEmpty());
 }
 
+TEST(ProductLines, EmptyBracketsAreWordsOfTheLineBefore) {
+    EXPECT_THAT(readProductLines("[One]\none.jpg\n[]\nwords\n[x]\nx.jpg"),
+                ElementsAre(ProductLine{"One", "\\bearing pictures\\one.jpg", "[] words"},
+                            ProductLine{"x", "\\bearing pictures\\x.jpg", ""}));
+}
+
 TEST(ProductLines, ANameThatCameBeforeIsPassedOverWithItsText) {
     const auto lines = readProductLines("[One]\none.jpg\nfirst\n[One]\ntwo.jpg\nsecond");
     EXPECT_THAT(lines, ElementsAre(ProductLine{"One", "\\bearing pictures\\one.jpg", "first"}));
