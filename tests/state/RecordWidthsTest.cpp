@@ -67,6 +67,72 @@ TEST(Widths, OfTheSolversWorkingValuesAreTheStatedOnes) {
     expectBits(16, s.Iteration);
 }
 
+TEST(Widths, OfTheRestOfTheBearingAreThirtyTwoBits) {
+    const BearingSpec b;
+    expectBits(32, b.pitchDiameter, b.momentArm, b.ciPlusCo);
+    expectBits(32, b.dynamicRadial, b.dynamicThrust, b.dynamicMoment);
+    expectBits(32, b.staticRadial, b.staticThrust, b.staticMoment);
+    expectBits(32, b.fitShaft1, b.fitShaft2, b.fitShaft3, b.fitShaft4);
+    expectBits(32, b.fitHousing1, b.fitHousing2, b.fitHousing3, b.fitHousing4);
+    expectBits(32, b.preloadBore, b.preloadOd, b.meanClearance, b.contactAngleDegrees);
+    expectBits(32, b.loadPercent, b.speedColumnBase, b.speedFactor);
+    expectBits(32, b.limitSpeedGrease, b.limitSpeedOil, b.limitSpeedMist);
+}
+
+TEST(Widths, OfTheSolversResultsAreThirtyTwoBits) {
+    const SolverState s;
+    expectBits(32, s.InnerEllipseFactor, s.OuterEllipseFactor, s.RmcRow1, s.RmcRow2);
+    expectBits(32, s.RmcRow1Newtons, s.RmcRow2Newtons, s.MeanRow1, s.MeanRow2);
+    expectBits(32, s.DynamicExponent, s.GeometryRatio, s.InnerDynamicCapacity, s.OuterDynamicCapacity);
+    expectBits(32, s.L10InnerRotationRow1, s.L10InnerRotationRow2);
+    expectBits(32, s.L10OuterRotationRow1, s.L10OuterRotationRow2);
+    expectBits(32, s.StressLimit, s.InnerStaticCapacity, s.OuterStaticCapacity);
+    expectBits(32, s.InnerStaticCapacityNewtons, s.OuterStaticCapacityNewtons);
+    expectBits(32, s.MaxBallLoad, s.MaxBallLoadNewtons, s.SafetyInner, s.SafetyOuter);
+    expectBits(16, s.MaxBallRow, s.MaxBallNumber);
+    expectBits(32, s.MaxInnerStress, s.MaxOuterStress, s.MeanInnerStress, s.MeanOuterStress);
+    expectBits(32, s.MaxInnerStressMpa, s.MaxOuterStressMpa, s.MeanInnerStressMpa, s.MeanOuterStressMpa);
+    expectBits(32, s.InnerMajorAxis, s.OuterMajorAxis, s.InnerMinorAxis, s.OuterMinorAxis);
+    expectBits(32, s.InnerMajorAxisMm, s.OuterMajorAxisMm, s.InnerMinorAxisMm, s.OuterMinorAxisMm);
+}
+
+TEST(Widths, OfALifeAndOfTheSearchAreThirtyTwoBits) {
+    const LifeResult l;
+    expectBits(32, l.torqueCoefficient, l.startingTorque, l.l10Revolutions, l.l10Hours);
+    expectBits(32, l.staticSafetyFactor, l.torqueDisplay, l.loadPercent, l.speedLimit);
+    expectBits(16, l.speedVerdictColor);
+    const SearchResults r;
+    expectBits(32, r.lastHours);
+    expectBits(16, r.hitCount, r.sortColumn);
+}
+
+TEST(Widths, OfADeflectionAreSixtyFourBitsButThoseOfTheReliefs) {
+    const DeflectionInput i;
+    expectBits(64, i.preload, i.maxRadialLoad, i.maxAxialLoad, i.maxMomentLoad);
+    const AxialPoint a;
+    expectBits(64, a.load, a.contactAngle, a.deflection);
+    const CurvePoint c;
+    expectBits(64, c.load, c.deflection);
+    DeflectionResult d;
+    expectBits(32, d.curveOffset, d.radialReliefLoad.emplace(), d.axialReliefLoad.emplace(),
+               d.momentReliefLoad.emplace());
+    expectBits(64, d.radialSpringRate.emplace(), d.axialSpringRate.emplace(), d.momentSpringRate.emplace());
+    expectBits(64, d.radialConstant.emplace(), d.momentConstant1.emplace(), d.momentConstant2.emplace());
+    expectBits(64, d.initialTilt.emplace(), d.initialAngle.emplace());
+}
+
+TEST(Widths, OfTorquesPlaysAndThermalFitsAreThirtyTwoBits) {
+    const TorquePoint t;
+    expectBits(32, t.preload, t.torque);
+    const PlayPoint q;
+    expectBits(32, q.clearance, q.axialPlay, q.tilt);
+    const PlayCurve p;
+    expectBits(32, p.clearanceLow, p.clearanceHigh, p.curveClearanceMax);
+    expectBits(32, p.playAtLow, p.playAtHigh, p.tiltAtLow, p.tiltAtHigh);
+    const ThermalFits f;
+    expectBits(32, f.highTemp, f.lowTemp, f.shaftExpansion, f.housingExpansion, f.shaftSize, f.housingSize);
+}
+
 template <typename Value>
 int bitsOfEach(BallTable<Value> table) {
     table.resize(1);
