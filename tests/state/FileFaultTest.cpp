@@ -45,9 +45,9 @@ TEST(FileFault, CutsNoCharacterInTwo) {
 }
 
 TEST(FileFault, HasANumberForEachFailureOfTheSystem) {
-    const std::pair<int, int> failures[] = {{ENOSPC, 61},       {EDQUOT, 61}, {EFBIG, 61},  {EACCES, 70},
-                                            {EPERM, 70},        {EROFS, 70},  {EISDIR, 75}, {ELOOP, 75},
-                                            {ENAMETOOLONG, 52}, {EIO, 57},    {EINVAL, 57}};
+    const std::pair<int, int> failures[] = {
+        {ENOSPC, 61}, {EDQUOT, 61},       {EFBIG, 61}, {EACCES, 70}, {EPERM, 70},  {EROFS, 70},  {EISDIR, 75},
+        {ELOOP, 75},  {ENAMETOOLONG, 52}, {EIO, 57},   {EINVAL, 57}, {EMFILE, 67}, {ENFILE, 67}, {ENOMEM, 7}};
     for (const auto& [failure, number] : failures)
         EXPECT_EQ(faultOfSystem(failure, fault::kFileNotFound), number) << failure;
     for (const int missing : {fault::kFileNotFound, fault::kPathNotFound}) {
