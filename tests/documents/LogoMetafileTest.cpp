@@ -85,6 +85,51 @@ TEST(LogoMetafile, WritesTheNameInBoldNavyBesideTheMark) {
         << "pen, brush and font in use";
 }
 
+TEST(LogoMetafile, SaysWhatAReaderMustKnowBeforeItDraws) {
+    using Records = std::vector<std::vector<int>>;
+    const std::vector<std::uint16_t> words = wordsOf(logoMetafileHex());
+    EXPECT_EQ(words[2], 0x0300) << "of the third version of the format";
+    EXPECT_EQ(words[5], 3) << "pen, brush and font";
+    EXPECT_EQ(words[7], 0);
+    EXPECT_EQ(words[8], 0);
+    EXPECT_EQ(recordsOf(0x0103), (Records{{8}})) << "a window of any shape";
+    EXPECT_EQ(recordsOf(0x020B), (Records{{0, 0}})) << "which begins at its corner";
+    EXPECT_EQ(recordsOf(0x0102), (Records{{1}})) << "no ground behind the name";
+    EXPECT_EQ(recordsOf(0x02FC), (Records{{0, -1, 0xFF, 0}})) << "a solid brush, red, green and blue of 255";
+    const std::vector<int> font = recordsOf(0x02FB).at(0);
+    ASSERT_EQ(font.size(), 25U) << "nine numbers and a name of 32 letters";
+    for (const std::size_t place : {1U, 2U, 3U, 5U, 6U, 7U, 8U})
+        EXPECT_EQ(font[place], 0) << place;
+    EXPECT_EQ(font[10], 'i' | 'a' << 8);
+    EXPECT_EQ(font[11], 'l');
+    for (std::size_t place = 12; place < font.size(); ++place)
+        EXPECT_EQ(font[place], 0) << place;
+}
+
+TEST(LogoMetafile, IsWrittenInLinesOfThirtyTwoWords) {
+    const std::string hex = logoMetafileHex();
+    std::size_t begin = hex.find("\r\n");
+    EXPECT_EQ(begin, 0U) << "behind the words of the picture";
+    for (std::size_t end = hex.find("\r\n", 2); end != std::string::npos; end = hex.find("\r\n", begin + 2)) {
+        EXPECT_EQ(end - begin - 2, 128U);
+        begin = end;
+    }
+    EXPECT_LE(hex.size() - begin - 2, 128U);
+}
+
+TEST(LogoMetafile, LeavesTheBallsFreeOfTheRingsAndOfEachOther) {
+    const std::vector<MarkCircle> circles = markCircles();
+    for (std::size_t i = 2; i < circles.size(); ++i) {
+        const MarkCircle& next = circles[i + 1 < circles.size() ? i + 1 : 2];
+        const auto apart = [&](const MarkCircle& other) {
+            return std::hypot(circles[i].x - other.x, circles[i].y - other.y);
+        };
+        EXPECT_GT(apart(next), circles[i].radius + next.radius);
+        EXPECT_GT(apart(circles[1]), circles[1].radius + circles[i].radius);
+        EXPECT_LT(apart(circles[0]), circles[0].radius - circles[i].radius);
+    }
+}
+
 TEST(LogoMetafile, HasTwelveBallsBetweenItsRings) {
     const std::vector<MarkCircle> circles = markCircles();
     ASSERT_EQ(circles.size(), 14U);
