@@ -10,13 +10,14 @@ void printContactCheck(const ProgramState& state, ClockPort& clock, const Contac
     PageWriter page(canvas, 10.0);
     page.line("Compressive Stress for " + state.bearing.partNumber, timesLook(15.0, true));
     page.skip(0.15);
-    constexpr double kColumns[] = {kPageLeft, 4.4};
+    const auto put = [&](int row, double left, const std::string& text, bool bold) {
+        const bool shown = row == check.row;
+        page.put(left, text, timesLook(12.0, bold, shown ? rgb(0, 0, 128) : colours::kBlack));
+    };
     const auto twice = [&](const std::string& first, const std::string& second, bool bold) {
-        for (const int row : {1, 2}) {
-            const bool shown = row == check.row;
-            page.put(kColumns[row - 1], row == 1 ? first : second,
-                     timesLook(12.0, bold, shown ? rgb(0, 0, 128) : colours::kBlack));
-        }
+        constexpr double kSecondColumn = 4.4;
+        put(1, kPageLeft, first, bold);
+        put(2, kSecondColumn, second, bold);
         page.endLine(12.0);
     };
     twice(check.groupCaption(1), check.groupCaption(2), true);
