@@ -1,96 +1,22 @@
 #include <cmath>
-#include <filesystem>
 #include <string>
-#include <utility>
 
 #include <gtest/gtest.h>
 
 #include "loaddist/radlodestar2.h"
 #include "numbers/FormatNumber.h"
-#include "numbers/RuntimeError.h"
-#include "numbers/Text.h"
 #include "search/HitLine.h"
-#include "search/SearchEngine.h"
-#include "state/LoadEntry.h"
-#include "support/Folders.h"
-#include "support/RecordingPorts.h"
+#include "search/SmallCatalogue.h"
 
 namespace norlaplan {
 namespace {
 
 using testing::RecordingMessages;
-using testing::TemporaryFolder;
-
-/// Stops the search from a given row on; never when none is given.
-class Watch : public SearchWatch {
-  public:
-    explicit Watch(int stopAt = -1) : stopAt_(stopAt) {}
-    bool goOn(double done) override {
-        EXPECT_GE(done, before_);
-        EXPECT_LE(done, 1.0);
-        before_ = done;
-        return ++rows < stopAt_ || stopAt_ < 0;
-    }
-    int rows = 0;
-
-  private:
-    int stopAt_;
-    double before_ = 0.0;
-};
-
-std::string rowOf(const std::string& name, int bore, int stock = 1, int speedIndex = 1) {
-    return name + "," + std::to_string(stock) + "," + std::to_string(bore) + "," + std::to_string(bore + 26) +
-           ",0,0,0,0.5," + std::to_string(speedIndex) + ",60\r\n";
-}
-
-std::string numbers(double first) {
-    std::string text;
-    for (int i = 0; i < 24; ++i)
-        text += "," + plainText(first + i);
-    return text;
-}
-
-/// A small catalogue of the middle section, with empty tables beside it, and the state of a search in it.
-struct Catalogue {
-    Catalogue() {
-        section("");
-        const std::string key = ",,,,,,,,,,,,,,,,,,,,,,,";
-        place.write("Data Tables/SPEEDC.CSV", "P" + key + numbers(9.0) + "\r\n");
-        place.write("Data Tables/SPEEDA.CSV", "R" + key + numbers(13.0) + "\r\n");
-        place.write("Data Tables/SPEEDX.CSV", "Q" + key + numbers(1.0) + ",Q" + key + numbers(1.0) + "\r\n" +
-                                                  "P" + key + numbers(20.0) + ",P" + key + numbers(8.0) +
-                                                  "\r\n");
-        place.write("Data Tables/CLS0.csv",
-                    "head,,,,,,,,,\r\n100,0,0,0,0,0,0,.0006,.0014,0\r\n200,0,0,0,0,0,0,.001,.002,0\r\n");
-        state.criteria = {1.0, 20.0, 0.1, 3.0, 1.0, 20.0, 0.1, 3.0};
-        state.loads.radialLoadDisplay = 500.0;
-        convertLoads(state);
-        style("4-POINT CONTACT", "X");
-    }
-
-    void section(const std::string& rows) {
-        for (const char* const family : {"C", "X", "A"}) {
-            const std::string head = ".6,,,,,,,,,\r\n13,,,,,,,,,\r\n";
-            place.write(std::string("Data Tables/13-") + family + ".csv", head + rows);
-            place.write(std::string("Data Tables/8-") + family + ".csv", head);
-            place.write(std::string("Data Tables/20-") + family + ".csv", head);
-        }
-    }
-
-    void style(const std::string& caption, const std::string& letter) { state.style = {caption, letter}; }
-
-    SearchEnd run(int stopAt = -1) {
-        Watch watch(stopAt);
-        return RunBearingSearch(state, ProgramFolder(place.path()), messages, watch);
-    }
-
-    TemporaryFolder place;
-    ProgramState state;
-    RecordingMessages messages;
-};
+using testing::rowOf;
+using testing::SmallCatalogue;
 
 TEST(Search, ListsEveryRowThatFitsWithItsTexts) {
-    Catalogue catalogue;
+    SmallCatalogue catalogue;
     catalogue.section(rowOf("K10013XP0", 100, 1) + rowOf("K20013XP0", 200, 2));
     catalogue.state.loads.speed = 100.0;
     EXPECT_EQ(catalogue.run(), SearchEnd::Found);
@@ -106,7 +32,7 @@ TEST(Search, ListsEveryRowThatFitsWithItsTexts) {
 }
 
 TEST(Search, GivesTheLifeOfASolveOfItsOwn) {
-    Catalogue catalogue;
+    SmallCatalogue catalogue;
     catalogue.section(rowOf("K10013XP0", 100));
     catalogue.state.loads.speed = 100.0;
     catalogue.run();
@@ -124,7 +50,7 @@ TEST(Search, GivesTheLifeOfASolveOfItsOwn) {
 }
 
 TEST(Search, KeepsOutWhatIsOutsideOfTheEnvelope) {
-    Catalogue catalogue;
+    SmallCatalogue catalogue;
     catalogue.section(rowOf("K10013XP0", 100) + rowOf("K15013XP0", 150) + rowOf("K20013XP0", 200));
     catalogue.state.criteria.minBore = 5.0;
     catalogue.state.criteria.maxOd = 8.0;
@@ -134,7 +60,7 @@ TEST(Search, KeepsOutWhatIsOutsideOfTheEnvelope) {
 }
 
 TEST(Search, TakesTheSetTwiceAsHighAndNamesIt) {
-    Catalogue catalogue;
+    SmallCatalogue catalogue;
     catalogue.section(rowOf("K10013AR0", 100));
     catalogue.style("BACK-TO-BACK SET", "A");
     catalogue.state.criteria.maxHeight = 1.0;
@@ -146,7 +72,7 @@ TEST(Search, TakesTheSetTwiceAsHighAndNamesIt) {
 }
 
 TEST(Search, FillsWhatIsLeftWithSpacersUpToTheMaximumHeight) {
-    Catalogue catalogue;
+    SmallCatalogue catalogue;
     catalogue.section(rowOf("K10013AR0", 100));
     catalogue.style("FACE-TO-FACE SET WITH SPACERS", "A");
     catalogue.state.criteria.maxHeight = 1.2;
@@ -158,7 +84,7 @@ TEST(Search, FillsWhatIsLeftWithSpacersUpToTheMaximumHeight) {
 }
 
 TEST(Search, TakesTheThrustNumbersForAPureThrustLoadAlone) {
-    Catalogue catalogue;
+    SmallCatalogue catalogue;
     catalogue.section(rowOf("K10013XP0", 100));
     catalogue.state.loads = {};
     catalogue.state.loads.axialLoadDisplay = 100.0;
@@ -174,7 +100,7 @@ TEST(Search, TakesTheThrustNumbersForAPureThrustLoadAlone) {
 }
 
 TEST(Search, WithoutAFitSaysSoAndAsksForSizesAgain) {
-    Catalogue catalogue;
+    SmallCatalogue catalogue;
     catalogue.state.sizesChosen = true;
     EXPECT_EQ(catalogue.run(), SearchEnd::NoneFound);
     ASSERT_EQ(catalogue.messages.shown.size(), 1U);
@@ -183,54 +109,6 @@ TEST(Search, WithoutAFitSaysSoAndAsksForSizesAgain) {
               "SORRY, NO BEARINGS WERE FOUND WHICH MET THE SIZE REQUIREMENTS");
     EXPECT_TRUE(catalogue.state.search.noResultFlag);
     EXPECT_FALSE(catalogue.state.sizesChosen);
-}
-
-int faultOf(Catalogue& catalogue) {
-    try {
-        catalogue.run();
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
-
-TEST(Search, HoldsThreeHundredRowsAndFaultsAtTheNext) {
-    Catalogue catalogue;
-    std::string rows;
-    for (int i = 0; i < 300; ++i)
-        rows += rowOf("K10013XP0", 100);
-    catalogue.section(rows);
-    EXPECT_EQ(catalogue.run(), SearchEnd::Found);
-    EXPECT_EQ(catalogue.state.search.rows.size(), 300U);
-    catalogue.section(rows + rowOf("K10013XP0", 100));
-    EXPECT_EQ(faultOf(catalogue), fault::kSubscript);
-    EXPECT_TRUE(catalogue.state.search.rows.empty());
-}
-
-TEST(Search, FaultsForASpeedIndexOutsideOfOneToFour) {
-    for (const int index : {0, 5}) {
-        Catalogue catalogue;
-        catalogue.section(rowOf("K10013XP0", 100, 1, index));
-        EXPECT_EQ(faultOf(catalogue), fault::kSubscript) << index;
-    }
-}
-
-TEST(Search, FaultsForASpeedTableWithoutItsKey) {
-    for (const std::string& table : {std::string(), "J" + std::string(23, ',') + numbers(9.0) + "\r\n"}) {
-        Catalogue catalogue;
-        catalogue.section(rowOf("K10013CP0", 100));
-        catalogue.style("RADIAL CONTACT", "C");
-        catalogue.place.write("Data Tables/SPEEDC.CSV", table);
-        EXPECT_EQ(faultOf(catalogue), fault::kPastEnd);
-    }
-}
-
-TEST(Search, StoppedKeepsNoRows) {
-    Catalogue catalogue;
-    catalogue.section(rowOf("K10013XP0", 100) + rowOf("K15013XP0", 150) + rowOf("K20013XP0", 200));
-    EXPECT_EQ(catalogue.run(3), SearchEnd::Stopped);
-    EXPECT_TRUE(catalogue.state.search.rows.empty());
-    EXPECT_TRUE(catalogue.messages.shown.empty());
 }
 
 /// The life of a bearing of the catalogue above, solved by itself.
@@ -245,7 +123,7 @@ std::string lifeAlone(const char* name, double boreMm, Single clearance) {
 }
 
 TEST(Search, KeepsThePreviousRowsClearanceWhereThePrecisionTableHasNoLine) {
-    Catalogue catalogue;
+    SmallCatalogue catalogue;
     catalogue.section(rowOf("K10013XP0", 100) + rowOf("K15013XP0", 150));
     catalogue.run();
     const Single ofTheFirst = (static_cast<double>(0.0006F) + static_cast<double>(0.0014F)) / 2.0;
@@ -255,7 +133,7 @@ TEST(Search, KeepsThePreviousRowsClearanceWhereThePrecisionTableHasNoLine) {
 
 TEST(Search, LeavesTheBearingInHandAndItsLifeAlone) {
     for (const int stopAt : {-1, 1}) {
-        Catalogue catalogue;
+        SmallCatalogue catalogue;
         catalogue.section(rowOf("K10013XP0", 100) + rowOf("K15013XP0", 150));
         BearingSpec& inHand = catalogue.state.bearing;
         inHand.partNumber = "K19013XP0";
@@ -277,10 +155,10 @@ TEST(Search, LeavesTheBearingInHandAndItsLifeAlone) {
 }
 
 TEST(Search, IsTheSameWhateverBearingIsInHand) {
-    Catalogue first;
+    SmallCatalogue first;
     first.section(rowOf("K15013XP0", 150));
     first.run();
-    Catalogue second;
+    SmallCatalogue second;
     second.section(rowOf("K15013XP0", 150));
     second.state.bearing.meanClearance = 0.01;
     second.state.bearing.momentArm = 3.0;
@@ -289,7 +167,7 @@ TEST(Search, IsTheSameWhateverBearingIsInHand) {
 }
 
 TEST(Search, KeepsStaleHoursWithoutASpeed) {
-    Catalogue catalogue;
+    SmallCatalogue catalogue;
     catalogue.section(rowOf("K10013XP0", 100));
     catalogue.state.loads.speed = 100.0;
     catalogue.run();
@@ -313,14 +191,14 @@ TEST(HitLine, ShowsHoursAndMarkOnlyWithASpeed) {
 
 /// A catalogue with blanks, quotes, empty fields and rows over several lines gives what the tidy one gives.
 TEST(Search, ReadsACatalogueWithOddFields) {
-    Catalogue tidy;
+    SmallCatalogue tidy;
     tidy.section(rowOf("K10013XP0", 100, 0) + rowOf("K20013XP0", 200, 2));
-    Catalogue odd;
+    SmallCatalogue odd;
     odd.section(
         "  \"K10013XP0\" , , 100,\"126\"mm,0,0,0,0.5,1,60\r\n"
         "\"K20013XP0\",2,200\r\n226,0,,\r\n0.5, 1 , 60 balls");
     odd.place.write("Data Tables/cls0.csv", tidy.place.read("Data Tables/CLS0.csv"));
-    for (Catalogue* const catalogue : {&tidy, &odd}) {
+    for (SmallCatalogue* const catalogue : {&tidy, &odd}) {
         catalogue->state.loads.speed = 100.0;
         ASSERT_EQ(catalogue->run(), SearchEnd::Found);
         ASSERT_EQ(catalogue->state.search.rows.size(), 2U);
@@ -332,9 +210,9 @@ TEST(Search, ReadsACatalogueWithOddFields) {
 
 TEST(Search, TakesABoreThatThePrecisionTableLacksWithThePreviousRowsClearance) {
     const std::string rows = rowOf("K10013XP0", 100) + rowOf("K15013XP0", 150) + rowOf("K20013XP0", 200);
-    Catalogue lacking;
+    SmallCatalogue lacking;
     lacking.section(rows);
-    Catalogue whole;
+    SmallCatalogue whole;
     whole.section(rows);
     whole.place.write("Data Tables/CLS0.csv",
                       "head,,,,,,,,,\r\n200,0,0,0,0,0,0,.001,.002,0\r\n150,0,0,0,0,0,0,.0006,.0014,0\r\n"
@@ -342,106 +220,6 @@ TEST(Search, TakesABoreThatThePrecisionTableLacksWithThePreviousRowsClearance) {
     EXPECT_EQ(lacking.run(), SearchEnd::Found);
     EXPECT_EQ(whole.run(), SearchEnd::Found);
     EXPECT_EQ(lacking.state.search.rows, whole.state.search.rows);
-}
-
-/// Radial loads under which a row of the sample catalogue never settles.
-struct Unsettled : Catalogue {
-    Unsettled() {
-        folder = testing::programFolder();
-        style("FACE-TO-FACE SET", "A");
-        state.criteria = {0.0, 4.0, 0.0, 1.2, 0.0, 4.0, 0.0, 1.2};
-    }
-    SearchEnd go(SearchWatch& watch) {
-        return RunBearingSearch(state, ProgramFolder(folder), messages, watch);
-    }
-    std::filesystem::path folder;
-};
-
-TEST(Search, AsksOnceWhetherToGoOnAndListsWhatIsGivenUpWithLifeZero) {
-    Unsettled search;
-    Watch watch;
-    EXPECT_EQ(search.go(watch), SearchEnd::Found);
-    ASSERT_EQ(search.messages.asked.size(), 1U);
-    EXPECT_EQ(search.messages.asked[0].title, "Difficulty in solving this load case");
-    int given = 0;
-    for (const SearchHit& hit : search.state.search.rows)
-        given += hit.l10Revolutions == "0" ? 1 : 0;
-    EXPECT_GT(given, 0);
-    EXPECT_LT(given, static_cast<int>(search.state.search.rows.size()));
-    EXPECT_EQ(search.messages.shown,
-              (std::vector<Message>{{"The calculation does not converge",
-                                     std::to_string(given) +
-                                         " bearings were given up and stand in the list with the life 0."}}));
-    EXPECT_EQ(search.state.loads.radialLoad, 500.0);
-    EXPECT_EQ(search.state.loads.axialLoad, 0.0) << "the rows after it have the loads that were entered";
-}
-
-TEST(Search, ThatWasToldToGoOnCanStillBeStoppedInARowThatNeverSettles) {
-    class Impatient : public SearchWatch {
-      public:
-        bool goOn(double) override { return ++looks_ < 60; }
-
-      private:
-        int looks_ = 0;
-    };
-    Unsettled search;
-    search.messages.answers = {Answer::Yes};
-    Impatient watch;
-    EXPECT_EQ(search.go(watch), SearchEnd::Stopped);
-    EXPECT_TRUE(search.state.search.rows.empty());
-    EXPECT_EQ(search.messages.asked.size(), 1U);
-}
-
-TEST(Search, CanBeStoppedWithinARowOfTensOfThousandsOfBalls) {
-    Catalogue catalogue;
-    catalogue.section("K10013XP0,1,100,126,0,0,0,.5,1,30000\r\n");
-    catalogue.style("4-POINT CONTACT", "X");
-    catalogue.state.loads.radialLoadDisplay = 500.0;
-    convertLoads(catalogue.state);
-    Watch all;
-    EXPECT_EQ(
-        RunBearingSearch(catalogue.state, ProgramFolder(catalogue.place.path()), catalogue.messages, all),
-        SearchEnd::Found);
-    EXPECT_GT(all.rows, 3) << "a look for the row, and one for each of its passes";
-    EXPECT_EQ(catalogue.run(3), SearchEnd::Stopped);
-    EXPECT_TRUE(catalogue.state.search.rows.empty());
-}
-
-TEST(Search, TellsWhatToEnterInsteadOfALoadOfTheWrongSign) {
-    for (const auto& [letter, word] : {std::pair{"C", "radial"}, std::pair{"X", "axial"}}) {
-        Catalogue catalogue;
-        catalogue.section(rowOf(std::string("K10013") + letter + "P0", 100));
-        catalogue.style(letter == std::string("C") ? "RADIAL CONTACT" : "4-POINT CONTACT", letter);
-        catalogue.state.loads.radialLoadDisplay = letter == std::string("C") ? -5.0 : 5.0;
-        catalogue.state.loads.axialLoadDisplay = -5.0;
-        convertLoads(catalogue.state);
-        try {
-            catalogue.run();
-            FAIL() << letter;
-        } catch (const RuntimeError& error) {
-            EXPECT_EQ(error.number(), fault::kInvalidCall);
-            EXPECT_NE(std::string(error.what()).find(std::string("Enter the ") + word), std::string::npos);
-        }
-    }
-}
-
-TEST(Search, FaultsForARowThatCountsFewerBallsThanNone) {
-    for (const char* const count : {"0", "-1", "-2"}) {
-        Catalogue catalogue;
-        catalogue.section(std::string("K10013XP0,1,100,126,0,0,0,.5,1,") + count + "\r\n");
-        EXPECT_NE(faultOf(catalogue), 0) << count;
-        EXPECT_TRUE(catalogue.state.search.rows.empty());
-    }
-}
-
-TEST(Search, StopsInALongPrecisionTable) {
-    Catalogue catalogue;
-    catalogue.section(rowOf("K30013XP0", 300));
-    std::string table = "head,,,,,,,,,\r\n";
-    for (int i = 0; i < 5000; ++i)
-        table += std::to_string(1000 + i) + ",0,0,0,0,0,0,.001,.002,0\r\n";
-    catalogue.place.write("Data Tables/CLS0.csv", table);
-    EXPECT_EQ(catalogue.run(500), SearchEnd::Stopped);
 }
 
 }  // namespace
