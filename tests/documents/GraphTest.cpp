@@ -204,6 +204,55 @@ TEST(GraphReadout, HasNothingFarFromTheCurveNorBesideIt) {
     EXPECT_FALSE(pointReadout(pictureGraph(), {4.0, 2.0}));
 }
 
+TEST(GraphReadout, ReachesHalfAnInchAndNoFurther) {
+    const Graph graph = torqueGraph();
+    // Point 20, above which the pointer stands.
+    const PagePoint on20{0.75 + 0.0020 * 1450.0, 0.5 + 4.0 * 0.4};
+    const double column = on20.x - 0.0001 * 1450.0;
+    const double aside = on20.x - column;
+    EXPECT_TRUE(pointReadout(graph, {column, on20.y + std::sqrt(0.499 * 0.499 - aside * aside)}));
+    EXPECT_FALSE(pointReadout(graph, {column, on20.y + std::sqrt(0.501 * 0.501 - aside * aside)}));
+    EXPECT_TRUE(pointReadout(graph, {column, on20.y - std::sqrt(0.499 * 0.499 - aside * aside)}));
+    EXPECT_FALSE(pointReadout(graph, {column, on20.y - std::sqrt(0.501 * 0.501 - aside * aside)}));
+}
+
+TEST(GraphReadout, CrossIsThinAndBlackWithArmsSixtyDegreesApart) {
+    const auto mark = pointReadout(torqueGraph(), {2.2, 1.3});
+    ASSERT_TRUE(mark);
+    RecordingCanvas canvas;
+    drawMark(*mark, canvas);
+    for (std::size_t i = 0; i < canvas.lines.size(); ++i) {
+        const auto& arm = canvas.lines[i];
+        const double angle = static_cast<double>(i) * M_PI / 3.0;
+        EXPECT_TRUE(near(arm.from, {mark->at.x + 0.1 * std::cos(angle), mark->at.y + 0.1 * std::sin(angle)}))
+            << i;
+        const double outer = std::hypot(arm.to.x - mark->at.x, arm.to.y - mark->at.y);
+        EXPECT_TRUE(
+            near(arm.to, {mark->at.x + outer * std::cos(angle), mark->at.y + outer * std::sin(angle)}))
+            << i;
+        EXPECT_LT(outer, 0.5) << "within the reach of the pointer";
+        EXPECT_EQ(arm.pen.colour, colours::kBlack);
+        EXPECT_EQ(arm.pen.width, 9525.0);
+        EXPECT_EQ(arm.pen.dash, 0);
+    }
+}
+
+TEST(GraphReadout, LabelIsInItsBoxClearOfThePoint) {
+    const Graph graph = torqueGraph();
+    for (const double x : {2.2, 7.2}) {
+        const auto mark = pointReadout(graph, {x, 0.5 + (x - 0.75) / 1450.0 * 2000.0 * 0.4});
+        ASSERT_TRUE(mark) << x;
+        const PageBox& box = mark->label.box;
+        EXPECT_GT(box.right - box.left, 1.0) << "room for the widest label";
+        // A line of text is 1.15 times as high as its type.
+        EXPECT_GT(box.top - box.bottom, 1.15 * mark->label.look.points / 72.0);
+        EXPECT_LT(box.top - box.bottom, 2.0 * mark->label.look.points / 72.0);
+        const double aside = box.left > mark->at.x ? box.left - mark->at.x : mark->at.x - box.right;
+        EXPECT_NEAR(aside, 0.2, 1e-9) << x;
+        EXPECT_EQ(mark->label.look.colour, colours::kBlack);
+    }
+}
+
 TEST(GraphReadout, CrossHasSixArmsThatLeaveTheirMiddleFree) {
     const auto mark = pointReadout(torqueGraph(), {2.2, 1.3});
     ASSERT_TRUE(mark);
