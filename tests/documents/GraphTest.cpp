@@ -151,6 +151,68 @@ TEST(Graph, ShrinksAsAWholeTowardsItsCorner) {
         EXPECT_NEAR(after.box.bottom, 2.0 + before.box.bottom / 2.0, 1e-9) << before.text;
         EXPECT_DOUBLE_EQ(after.look.points, before.look.points / 2.0) << before.text;
     }
+    const auto half = [](PagePoint point) { return PagePoint{1.0 + point.x / 2.0, 2.0 + point.y / 2.0}; };
+    ASSERT_EQ(canvas.lines.size(), whole.lines.size());
+    for (std::size_t i = 0; i < whole.lines.size(); ++i) {
+        EXPECT_TRUE(near(canvas.lines[i].from, half(whole.lines[i].from))) << "line " << i;
+        EXPECT_TRUE(near(canvas.lines[i].to, half(whole.lines[i].to))) << "line " << i;
+        EXPECT_EQ(canvas.lines[i].pen.width, whole.lines[i].pen.width) << "a thin line stays as thin";
+    }
+    ASSERT_EQ(canvas.rectangles.size(), whole.rectangles.size());
+    for (std::size_t i = 0; i < whole.rectangles.size(); ++i) {
+        const PageBox &before = whole.rectangles[i].box, &after = canvas.rectangles[i].box;
+        EXPECT_TRUE(near({after.left, after.top}, half({before.left, before.top}))) << "band " << i;
+        EXPECT_TRUE(near({after.right, after.bottom}, half({before.right, before.bottom}))) << "band " << i;
+    }
+}
+
+TEST(GraphText, BeginsAtItsPlaceStandsInItsMiddleOrRunsDown) {
+    const auto expectBox = [](const GraphText& text, const PageBox& box) {
+        EXPECT_TRUE(near({text.box.left, text.box.top}, {box.left, box.top})) << text.text;
+        EXPECT_TRUE(near({text.box.right, text.box.bottom}, {box.right, box.bottom})) << text.text;
+        EXPECT_EQ(text.look.colour, colours::kRed) << text.text;
+        EXPECT_EQ(text.look.typeface, Typeface::Times) << text.text;
+        EXPECT_FALSE(text.look.bold || text.look.vertical) << text.text;
+    };
+    // Six inches of room, and a fifth of the type for what hangs below.
+    const GraphText plain = graphText({1.0, 2.0}, "plain", 36.0, colours::kRed);
+    expectBox(plain, {1.0, 2.0, 7.0, 1.4});
+    EXPECT_EQ(plain.look.alignment, Alignment::Left);
+    EXPECT_EQ(plain.look.points, 36.0);
+    EXPECT_FALSE(plain.stacked);
+    const GraphText centred = centredGraphText({1.0, 4.0, 3.0, 2.0}, "centred", 12.0, colours::kRed);
+    expectBox(centred, {1.0, 4.0, 3.0, 2.0});
+    EXPECT_EQ(centred.look.alignment, Alignment::Centre);
+    EXPECT_EQ(centred.look.points, 12.0);
+    EXPECT_FALSE(centred.stacked);
+    // Four lines of half an inch, each 1.15 times as high as its type; as wide as the type.
+    const GraphText down = stackedGraphText({1.0, 4.0}, "down", 36.0, colours::kRed);
+    expectBox(down, {1.0, 4.0, 1.5, 4.0 - 4.0 * 1.15 * 0.5});
+    EXPECT_EQ(down.look.alignment, Alignment::Centre);
+    EXPECT_TRUE(down.stacked);
+}
+
+TEST(Graph, LabelsEveryFewLinesFromTheFirst) {
+    Graph graph = torqueGraph();
+    graph.x.labelEvery = 2;
+    graph.y.labelEvery = 5;
+    const RecordingCanvas canvas = drawn(graph);
+    for (const char* const there : {"0.0010", "0.0020", "0.0050", "5.0", "10.0"})
+        EXPECT_TRUE(canvas.hasText(there)) << there;
+    for (const char* const none : {"0.0005", "0.0015", "0.0045", "1.0", "4.0", "9.0"})
+        EXPECT_FALSE(canvas.hasText(none)) << none;
+}
+
+TEST(Graph, HasLinesAcrossItsEndsWithoutAFrame) {
+    Graph graph = torqueGraph();
+    graph.frame.reset();
+    const RecordingCanvas canvas = drawn(graph);
+    constexpr Colour kGrey = rgb(128, 128, 128);
+    EXPECT_TRUE(hasLine(canvas, {0.75, 0.45}, {0.75, 4.5}, kGrey, 9525.0));
+    EXPECT_TRUE(hasLine(canvas, {8.0, 0.45}, {8.0, 4.5}, kGrey, 9525.0));
+    EXPECT_TRUE(hasLine(canvas, {0.7, 0.5}, {8.0, 0.5}, kGrey, 9525.0));
+    EXPECT_TRUE(hasLine(canvas, {0.7, 4.5}, {8.0, 4.5}, kGrey, 9525.0));
+    EXPECT_EQ(canvas.lines.size(), 72U) << "no frame";
 }
 
 TEST(Graph, PreviewIsItsCurvesAloneOverTheWholePage) {
