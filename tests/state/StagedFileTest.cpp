@@ -183,6 +183,16 @@ TEST(WriteWholeFile, ALinkThatLeadsToItselfIsSeventyFive) {
     EXPECT_TRUE(fs::is_symlink(place.path() / "a"));
 }
 
+TEST(WriteWholeFile, FollowsFortyLinksAndNoMore) {
+    TemporaryFolder place;
+    for (int link = 1; link <= 41; ++link)
+        fs::create_symlink(std::to_string(link - 1), place.path() / std::to_string(link));
+    writeWholeFile(place.path() / "40", "new");
+    EXPECT_EQ(place.read("0"), "new");
+    EXPECT_EQ(faultOf([&] { writeWholeFile(place.path() / "41", "newer"); }), fault::kPathAccess);
+    EXPECT_EQ(place.read("0"), "new");
+}
+
 TEST(WriteWholeFile, WritesThroughAPipeAndLeavesIt) {
     TemporaryFolder place;
     const fs::path pipe = place.path() / "report.rtf";
