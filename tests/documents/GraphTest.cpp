@@ -6,6 +6,7 @@
 #include "documents/RTFroutines.h"
 #include "documents/SampleGraphs.h"
 #include "numbers/RuntimeError.h"
+#include "support/OnPaper.h"
 #include "support/RecordingPorts.h"
 
 namespace norlaplan {
@@ -56,6 +57,20 @@ TEST(Graph, DrawsItsGridInsideTheFrameAndTicksOnIt) {
     }
     // 11 lines for x, 11 for y, 50 of the curve, 4 of the frame.
     EXPECT_EQ(canvas.lines.size(), 76U);
+}
+
+TEST(Graph, OfAPictureHasItsLabelsInBoxesBesideTheAxes) {
+    const RecordingCanvas canvas = drawn(torqueGraph());
+    EXPECT_EQ(testing::offPaper(canvas, papers::kGraphPicture), "");
+    for (const auto& label : canvas.texts) {
+        if (label.text != "0.0010" && label.text != "3.0" && label.text != "0") continue;
+        EXPECT_EQ(label.look.points, 8.0);
+        // A line of writing is 1.15 times as high as its type; the axes are at 0.75 and 0.5.
+        EXPECT_GE(label.box.top - label.box.bottom, 1.15 * 8.0 / 72.0) << label.text;
+        EXPECT_LT(label.box.top - label.box.bottom, 0.2) << label.text;
+        EXPECT_GT(label.box.right - label.box.left, 0.1) << label.text;
+        EXPECT_TRUE(label.box.top <= 0.4 + 1e-9 || label.box.right <= 0.7 + 1e-9) << label.text;
+    }
 }
 
 TEST(Graph, LabelsZeroAsThePlainDigitAndTheRestByThePicture) {

@@ -6,6 +6,7 @@
 #include "documents/RtfGraph.h"
 #include "numbers/RuntimeError.h"
 #include "support/ExpectGraphText.h"
+#include "support/RecordingPorts.h"
 
 namespace norlaplan {
 namespace {
@@ -119,6 +120,38 @@ TEST(RtfGraph, LabelsYByThePowerOfTenOfItsScale) {
         graph.yStep = row.most / 2.0;
         EXPECT_TRUE(has(documentOf(graph), row.half)) << row.most;
     }
+}
+
+// The labels' boxes are told as seen from the plot's corner at (1, 4), 2 inches a unit along x.
+TEST(RtfGraph, HasItsLabelsInTheirPlaces) {
+    const auto boxOf = [](const RtfGraphPage& page, const std::string& label) {
+        testing::RecordingCanvas canvas;
+        drawGraph(rtfGraph(page), canvas);
+        for (const auto& text : canvas.texts) {
+            if (text.text != label) continue;
+            EXPECT_EQ(text.look.points, 8.0) << label;
+            EXPECT_EQ(text.look.colour, colours::kBlack) << label;
+            EXPECT_EQ(text.look.alignment, Alignment::Centre) << label;
+            return text.box;
+        }
+        ADD_FAILURE() << label;
+        return PageBox{};
+    };
+    const auto expectBox = [&](const RtfGraphPage& page, const std::string& label, const PageBox& box) {
+        const PageBox found = boxOf(page, label);
+        EXPECT_NEAR(found.left, box.left, 1e-9) << label;
+        EXPECT_NEAR(found.top, box.top, 1e-9) << label;
+        EXPECT_NEAR(found.right, box.right, 1e-9) << label;
+        EXPECT_NEAR(found.bottom, box.bottom, 1e-9) << label;
+    };
+    RtfGraphPage page = sample();
+    expectBox(page, "0", {0.84, 4.0, 1.14, 3.7});
+    expectBox(page, "2.0000", {4.65, 4.0, 5.4, 3.7});
+    // 10 is half of the height of 4.
+    expectBox(page, "10", {0.5, 6.11, 1.05, 5.81});
+    page.yMost = 0.0002;
+    page.yStep = 0.0001;
+    expectBox(page, "0.00010", {0.4, 6.11, 1.05, 5.81});
 }
 
 TEST(RtfGraph, NeedsStepsThatAPageCanHold) {
