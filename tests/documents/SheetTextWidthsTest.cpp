@@ -90,6 +90,27 @@ TEST(SheetTexts, AreCutWithRoomForTheSignOfOmission) {
     EXPECT_TRUE(sheet.draw().hasText(std::string(50, '0') + "\u2026"));
 }
 
+TEST(SheetTexts, OfTheDetailAreEquallyFarApartAlsoBehindTheirStackedDigits) {
+    Sheet sheet;
+    const auto canvas = sheet.draw();
+    std::vector<double> tops;  // of K, 1 9 0, 1 3, X, P, 0: the codes in bold at the left of the detail
+    for (const auto& text : canvas.texts) {
+        if (text.look.bold && text.look.points == 8.0 && text.box.left == 0.5) tops.push_back(text.box.top);
+    }
+    ASSERT_EQ(tops.size(), 9U);
+    const auto below = [&](std::size_t i) { return tops[i - 1] - tops[i]; };
+    const double line = below(7);
+    EXPECT_GT(line, 8.0 / 72.0) << "as high as the type and more";
+    EXPECT_NEAR(below(8), line, 1e-9);
+    EXPECT_NEAR(below(1), line, 1e-9) << "from the material to the bore";
+    for (const std::size_t behind : {4U, 6U})
+        EXPECT_NEAR(below(behind), line, 0.005) << behind;
+    for (const std::size_t digit : {2U, 3U, 5U}) {
+        EXPECT_LT(below(digit), line) << "stacked digits stand closer";
+        EXPECT_GT(below(digit), 0.676 * 8.0 / 72.0) << "and clear of each other";
+    }
+}
+
 TEST(SpeedPanelTexts, StandInTheirPlacesWithoutSpeeds) {
     Sheet sheet;
     sheet.state.bearing.separatorCode = "F";
