@@ -109,6 +109,7 @@ TEST(SectionDrawing, ThatIsTooLargeSaysSoAboveTheSectionInRed) {
     EXPECT_EQ(note->text, "The drawing is not whole: its overlay draws too much.");
     EXPECT_EQ(note->colour, "RED");
     EXPECT_EQ(note->font, "TNR");
+    EXPECT_FALSE(note->vertical || note->italic || note->bold);
     EXPECT_GT(note->box.bottom, 8.8) << "above the section";
     EXPECT_LT(note->box.top, 9.502) << "below the title";
     EXPECT_GT(note->size, 8.0);
