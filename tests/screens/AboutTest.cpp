@@ -3,6 +3,8 @@
 #include <QTextEdit>
 
 #include "screens/Information.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/InformationControls.h"
 
 namespace norlaplan::testing {
 namespace {
@@ -23,6 +25,12 @@ class AboutTest : public QObject {
     Q_OBJECT
 
   private slots:
+    void itsControlsAreAsTheirRowsSay() {
+        QCOMPARE(controlsThatDiffer(forms::kAbout, {kInformationRows, informationScenes()}), QStringList());
+        QCOMPARE(controlsThatDiffer(forms::kCatalogPages, {kInformationRows, informationScenes()}),
+                 QStringList());
+    }
+
     void theAboutBoxTellsTheReleaseUnderAPicture() {
         Menu menu;
         menu.pick("About");

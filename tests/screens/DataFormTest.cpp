@@ -4,6 +4,8 @@
 
 #include "numbers/Text.h"
 #include "screens/AnalysisProgram.h"
+#include "screens/controls/AnalysisControls.h"
+#include "screens/controls/ControlsOfAForm.h"
 #include "support/HandPictures.h"
 
 namespace norlaplan::testing {
@@ -64,6 +66,10 @@ class DataFormTest : public QObject {
     Q_OBJECT
 
   private slots:
+    void itsControlsAreAsTheirRowsSay() {
+        QCOMPARE(controlsThatDiffer(forms::kAnalysis, {kAnalysisRows, analysisScenes()}), QStringList());
+    }
+
     void opensFromTheLifeScreenWithItsKeywords_data() {
         QTest::addColumn<QString>("keyword");
         QTest::addColumn<bool>("opens");

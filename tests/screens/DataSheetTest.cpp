@@ -8,6 +8,8 @@
 #include "documents/SheetRecords.h"
 #include "screens/DrawingView.h"
 #include "screens/Program.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/DataSheetControls.h"
 
 using namespace norlaplan;
 using namespace norlaplan::testing;
@@ -52,6 +54,10 @@ class DataSheetTest : public QObject {
     Q_OBJECT
 
   private slots:
+    void its_controls_are_as_their_rows_say() {
+        QCOMPARE(controlsThatDiffer(forms::kDataSheet, {kDataSheetRows, dataSheetScenes()}), QStringList());
+    }
+
     void the_main_menu_button_leaves_the_sheet() {
         Sheet sheet;
         QCOMPARE(sheet.inFront(), std::string(forms::kDataSheet));

@@ -1,7 +1,8 @@
 #include <QLabel>
 #include <QToolButton>
 #include <array>
-#include <set>
+#include <map>
+#include <utility>
 
 #include "screens/SearchingUser.h"
 #include "screens/controls/ControlsOfAForm.h"

@@ -10,6 +10,8 @@
 #include <set>
 
 #include "screens/Program.h"
+#include "screens/controls/ApplicationControls.h"
+#include "screens/controls/ControlsOfAForm.h"
 
 using namespace norlaplan;
 using namespace norlaplan::testing;
@@ -100,6 +102,11 @@ class Form10Test : public QObject {
     Q_OBJECT
 
   private slots:
+    void its_controls_are_as_their_rows_say() {
+        QCOMPARE(controlsThatDiffer(forms::kApplication, {kApplicationRows, applicationScenes()}),
+                 QStringList());
+    }
+
     void captions_and_tips_are_as_stated() {
         Application program;
         QCOMPARE(program.inFront(), std::string(kForm));

@@ -2,6 +2,8 @@
 #include <QLabel>
 
 #include "screens/Program.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/CorrespondenceControls.h"
 
 using namespace norlaplan;
 using namespace norlaplan::testing;
@@ -24,6 +26,11 @@ class Form11Test : public QObject {
     Q_OBJECT
 
   private slots:
+    void its_controls_are_as_their_rows_say() {
+        QCOMPARE(controlsThatDiffer(forms::kUserInfo, {kCorrespondenceRows, correspondenceScenes()}),
+                 QStringList());
+    }
+
     void labels_and_tips_are_as_stated() {
         UserInformation program;
         QCOMPARE(program.screens.current()->windowTitle(), QString("User Information"));

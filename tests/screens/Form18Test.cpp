@@ -7,6 +7,8 @@
 #include <set>
 
 #include "screens/GraphScreen.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/FitsControls.h"
 #include "support/DiskTroubles.h"
 #include "support/PlainPlay.h"
 
@@ -58,6 +60,10 @@ class Form18Test : public QObject {
     Q_OBJECT
 
   private slots:
+    void itsControlsAreAsTheirRowsSay() {
+        QCOMPARE(controlsThatDiffer(forms::kAxialPlay, {kFitsRows, fitsScenes()}), QStringList());
+    }
+
     void itOpensForRadialAndFourPointContact_data() {
         QTest::addColumn<QString>("units");
         QTest::newRow("US") << "US";

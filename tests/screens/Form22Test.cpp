@@ -10,6 +10,8 @@
 #include "help/HelpTopics.h"
 #include "screens/Everything.h"
 #include "screens/Form20.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/InformationControls.h"
 
 namespace norlaplan::testing {
 namespace {
@@ -71,6 +73,13 @@ class Form22Test : public QObject {
     Q_OBJECT
 
   private slots:
+    void itsControlsAreAsTheirRowsSay() {
+        QCOMPARE(controlsThatDiffer(forms::kHelpIndex, {kInformationRows, informationScenes()}),
+                 QStringList());
+        QCOMPARE(controlsThatDiffer(forms::kHelpTopic, {kInformationRows, informationScenes()}),
+                 QStringList());
+    }
+
     void everyTopicOpensItsPageAndEscapeComesBackToTheIndex() {
         Help help;
         QCOMPARE(help.screens.current()->windowTitle(), QString("Help Index"));

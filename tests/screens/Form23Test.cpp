@@ -3,6 +3,8 @@
 #include <cstdio>
 
 #include "screens/GraphScreen.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/FitsControls.h"
 #include "support/DiskTroubles.h"
 #include "support/PlainTorque.h"
 
@@ -56,6 +58,10 @@ class Form23Test : public QObject {
     Q_OBJECT
 
   private slots:
+    void itsControlsAreAsTheirRowsSay() {
+        QCOMPARE(controlsThatDiffer(forms::kPreloadTorque, {kFitsRows, fitsScenes()}), QStringList());
+    }
+
     void itOpensForEveryStyleThatItIsMeantFor_data() {
         QTest::addColumn<QString>("units");
         QTest::newRow("US") << "US";

@@ -8,6 +8,8 @@
 #include "screens/GraphPicture.h"
 #include "screens/Program.h"
 #include "screens/Theme.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/DeflectionControls.h"
 #include "support/DeflectionCases.h"
 
 namespace norlaplan::testing {
@@ -67,6 +69,11 @@ class Form24Test : public QObject {
 
   private slots:
     void initTestCase() { theme::apply(); }
+
+    void itsControlsAreAsTheirRowsSay() {
+        QCOMPARE(controlsThatDiffer(forms::kDeflection, {kDeflectionRows, deflectionScenes()}),
+                 QStringList());
+    }
 
     void opensFromTheMainMenuWithItsCaptionsAndTips() {
         Deflection program;

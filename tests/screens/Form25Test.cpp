@@ -3,6 +3,8 @@
 
 #include "screens/Program.h"
 #include "screens/Theme.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/DeflectionControls.h"
 
 namespace norlaplan::testing {
 namespace {
@@ -37,6 +39,11 @@ class Form25Test : public QObject {
 
   private slots:
     void initTestCase() { theme::apply(); }
+
+    void itsControlsAreAsTheirRowsSay() {
+        QCOMPARE(controlsThatDiffer(forms::kGraphSettings, {kDeflectionRows, deflectionScenes()}),
+                 QStringList());
+    }
 
     void opensWithTheAxesOfTheGraphAndItsTexts() {
         Adjustment program;

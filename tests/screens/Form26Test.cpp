@@ -7,6 +7,8 @@
 #include "screens/GraphView.h"
 #include "screens/Program.h"
 #include "screens/Theme.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/DeflectionControls.h"
 
 namespace norlaplan::testing {
 namespace {
@@ -59,6 +61,11 @@ class Form26Test : public QObject {
 
   private slots:
     void initTestCase() { theme::apply(); }
+
+    void itsControlsAreAsTheirRowsSay() {
+        QCOMPARE(controlsThatDiffer(forms::kDeflectionGraph, {kDeflectionRows, deflectionScenes()}),
+                 QStringList());
+    }
 
     void opensWithItsCaptionsAndTips() {
         DeflectionGraph program;

@@ -2,6 +2,8 @@
 #include <QRadioButton>
 
 #include "screens/SolvedBearing.h"
+#include "screens/controls/ContactControls.h"
+#include "screens/controls/ControlsOfAForm.h"
 #include "support/PlainFilm.h"
 
 namespace norlaplan::testing {
@@ -52,6 +54,10 @@ class Form27Test : public QObject {
     Q_OBJECT
 
   private slots:
+    void itsControlsAreAsTheirRowsSay() {
+        QCOMPARE(controlsThatDiffer(forms::kLubeFilm, {kContactRows, contactScenes()}), QStringList());
+    }
+
     void opensWithTheBearingAndWithoutResults() {
         Film film;
         QCOMPARE(film.inFront(), std::string(forms::kLubeFilm));

@@ -2,6 +2,8 @@
 #include <QPlainTextEdit>
 
 #include "screens/Program.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/CorrespondenceControls.h"
 
 using namespace norlaplan;
 using namespace norlaplan::testing;
@@ -24,6 +26,11 @@ class Form28Test : public QObject {
     Q_OBJECT
 
   private slots:
+    void its_controls_are_as_their_rows_say() {
+        QCOMPARE(controlsThatDiffer(forms::kFaxCover, {kCorrespondenceRows, correspondenceScenes()}),
+                 QStringList());
+    }
+
     void captions_and_tips_are_as_stated() {
         Cover program;
         QCOMPARE(program.screens.current()->windowTitle(), QString("Fax Cover Sheet"));

@@ -4,6 +4,8 @@
 #include <QScrollBar>
 
 #include "screens/Information.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/InformationControls.h"
 
 namespace norlaplan::testing {
 namespace {
@@ -53,6 +55,11 @@ class Form29Test : public QObject {
     Q_OBJECT
 
   private slots:
+    void itsControlsAreAsTheirRowsSay() {
+        QCOMPARE(controlsThatDiffer(forms::kPictureBrowser, {kInformationRows, informationScenes()}),
+                 QStringList());
+    }
+
     void itListsTheFilesOfItsFolderAndBeginsWithStart() {
         Browser browser;
         QCOMPARE(browser.inFront(), std::string(forms::kPictureBrowser));

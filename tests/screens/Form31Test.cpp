@@ -4,6 +4,8 @@
 #include <cstdio>
 
 #include "screens/GraphScreen.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/FitsControls.h"
 #include "support/DiskTroubles.h"
 #include "support/PlainFits.h"
 
@@ -58,6 +60,10 @@ class Form31Test : public QObject {
     Q_OBJECT
 
   private slots:
+    void itsControlsAreAsTheirRowsSay() {
+        QCOMPARE(controlsThatDiffer(forms::kThermalFits, {kFitsRows, fitsScenes()}), QStringList());
+    }
+
     void itsButtonShowsWithItsOptionOnly() {
         FitsScreen screen;
         screen.state.options.tempFitsOption = false;

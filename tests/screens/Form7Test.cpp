@@ -3,6 +3,8 @@
 #include <QPushButton>
 
 #include "screens/Information.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/InformationControls.h"
 
 namespace norlaplan::testing {
 namespace {
@@ -45,6 +47,13 @@ class Form7Test : public QObject {
     Q_OBJECT
 
   private slots:
+    void itsControlsAreAsTheirRowsSay() {
+        QCOMPARE(controlsThatDiffer(forms::kProductPage, {kInformationRows, informationScenes()}),
+                 QStringList());
+        QCOMPARE(controlsThatDiffer(forms::kProductTable, {kInformationRows, informationScenes()}),
+                 QStringList());
+    }
+
     void aLineOfTheMenuShowsItsTextAndPicture() {
         Shop shop;
         shop.pick("Stainless");

@@ -3,6 +3,9 @@
 #include <cmath>
 
 #include "screens/Program.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/LifeControls.h"
+#include "screens/controls/LoadControls.h"
 
 namespace norlaplan::testing {
 namespace {
@@ -17,6 +20,11 @@ class KnownBearingJourneyTest : public QObject {
     }
 
   private slots:
+    void itsControlsAreAsTheirRowsSay() {
+        QCOMPARE(controlsThatDiffer(forms::kLoads, {kLoadRows, loadScenes()}), QStringList());
+        QCOMPARE(controlsThatDiffer(forms::kLife, {kLifeRows, lifeScenes()}), QStringList());
+    }
+
     void showsLifeSafetyTorqueAndVerdict() {
         Program program;
         program.state.unitSystem = "US";

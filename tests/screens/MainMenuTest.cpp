@@ -2,6 +2,8 @@
 #include <QLabel>
 
 #include "screens/Program.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/MainMenuControls.h"
 
 using namespace norlaplan;
 using namespace norlaplan::testing;
@@ -31,6 +33,10 @@ class MainMenuTest : public QObject {
     Q_OBJECT
 
   private slots:
+    void its_controls_are_as_their_rows_say() {
+        QCOMPARE(controlsThatDiffer(forms::kMainMenu, {kMainMenuRows, mainMenuScenes()}), QStringList());
+    }
+
     void part_number_buttons_without_a_part_number_ask_for_it_data() {
         QTest::addColumn<QString>("name");
         for (const int n : {9, 10, 11, 12, 13, 14})

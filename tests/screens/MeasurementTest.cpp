@@ -1,4 +1,6 @@
 #include "screens/Program.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/StartControls.h"
 
 using namespace norlaplan;
 using namespace norlaplan::testing;
@@ -20,6 +22,10 @@ class MeasurementTest : public QObject {
     Q_OBJECT
 
   private slots:
+    void its_controls_are_as_their_rows_say() {
+        QCOMPARE(controlsThatDiffer(forms::kUnits, {kStartRows, startScenes()}), QStringList());
+    }
+
     void cancel_changes_nothing() {
         Measurement screen("US");
         screen.click(forms::kUnits, "Option2");

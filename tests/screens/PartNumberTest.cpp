@@ -4,6 +4,8 @@
 #include <QRadioButton>
 
 #include "screens/Program.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/PartNumberControls.h"
 
 using namespace norlaplan;
 using namespace norlaplan::testing;
@@ -33,6 +35,11 @@ class PartNumberTest : public QObject {
     Q_OBJECT
 
   private slots:
+    void its_controls_are_as_their_rows_say() {
+        QCOMPARE(controlsThatDiffer(forms::kPartNumber, {kPartNumberRows, partNumberScenes()}),
+                 QStringList());
+    }
+
     void the_cursor_stands_in_the_number_at_once() {
         Entry entry;
         QVERIFY(entry.field().hasFocus() ||

@@ -12,6 +12,8 @@
 #include "screens/HitTable.h"
 #include "screens/Program.h"
 #include "screens/Theme.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/ResultsControls.h"
 #include "state/LoadEntry.h"
 #include "state/SizeEntry.h"
 
@@ -75,6 +77,11 @@ class ResultsListTest : public QObject {
 
   private slots:
     void initTestCase() { theme::apply(); }
+
+    void itsControlsAreAsTheirRowsSay() {
+        QCOMPARE(controlsThatDiffer(forms::kResults, {kResultsRows, resultsScenes()}), QStringList());
+        QCOMPARE(controlsThatDiffer(forms::kSort, {kResultsRows, resultsScenes()}), QStringList());
+    }
 
     void theTableHoldsWhatTheRowsHold() {
         Results program;

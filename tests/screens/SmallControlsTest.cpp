@@ -5,10 +5,10 @@
 #include <QVBoxLayout>
 #include <QtTest>
 #include <array>
+#include <memory>
 
 #include "screens/BallGrid.h"
 #include "screens/ColourButton.h"
-#include "screens/EntryLabel.h"
 #include "screens/EqualSigns.h"
 #include "screens/FitLegend.h"
 #include "screens/FormBuilder.h"

@@ -4,6 +4,8 @@
 #include <sys/stat.h>
 
 #include "screens/Program.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/StartControls.h"
 
 using namespace norlaplan;
 using namespace norlaplan::testing;
@@ -12,6 +14,10 @@ class StartScreenTest : public QObject {
     Q_OBJECT
 
   private slots:
+    void its_controls_are_as_their_rows_say() {
+        QCOMPARE(controlsThatDiffer(forms::kStart, {kStartRows, startScenes()}), QStringList());
+    }
+
     void the_start_screen_waits_four_seconds_and_then_opens_the_main_menu_by_itself() {
         Program program;
         ShowStartScreen(program.screens);

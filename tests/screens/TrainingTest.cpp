@@ -2,6 +2,8 @@
 
 #include "screens/Information.h"
 #include "screens/Training.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/InformationControls.h"
 
 namespace norlaplan::testing {
 namespace {
@@ -29,6 +31,11 @@ class TrainingTest : public QObject {
     Q_OBJECT
 
   private slots:
+    void itsControlsAreAsTheirRowsSay() {
+        QCOMPARE(controlsThatDiffer(forms::kTrainingShow, {kInformationRows, informationScenes()}),
+                 QStringList());
+    }
+
     void theButtonSaysThatTheShowRunsAndGoesBackWhenItEnds() {
         Menu menu;
         QCOMPARE(menu.button().text(), QString("Bearing Training"));

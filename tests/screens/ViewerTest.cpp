@@ -9,6 +9,8 @@
 
 #include "screens/Form2.h"
 #include "screens/Program.h"
+#include "screens/controls/ControlsOfAForm.h"
+#include "screens/controls/StartControls.h"
 #include "support/ProcessorTime.h"
 
 using namespace norlaplan;
@@ -43,6 +45,10 @@ class ViewerTest : public QObject {
     Q_OBJECT
 
   private slots:
+    void its_controls_are_as_their_rows_say() {
+        QCOMPARE(controlsThatDiffer(forms::kTextViewer, {kStartRows, startScenes()}), QStringList());
+    }
+
     void it_shows_the_text_with_the_callers_title_and_button() {
         Viewer viewer;
         QCOMPARE(viewer.inFront(), std::string(forms::kTextViewer));

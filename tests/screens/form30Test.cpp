@@ -6,6 +6,8 @@
 
 #include "screens/ContactView.h"
 #include "screens/SolvedBearing.h"
+#include "screens/controls/ContactControls.h"
+#include "screens/controls/ControlsOfAForm.h"
 
 namespace norlaplan::testing {
 namespace {
@@ -88,6 +90,10 @@ class form30Test : public QObject {
     Q_OBJECT
 
   private slots:
+    void itsControlsAreAsTheirRowsSay() {
+        QCOMPARE(controlsThatDiffer(forms::kContactStress, {kContactRows, contactScenes()}), QStringList());
+    }
+
     void saysWhatItIs() {
         Stress stress;
         QCOMPARE(stress.inFront(), std::string(kForm));

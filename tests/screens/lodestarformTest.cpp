@@ -5,6 +5,8 @@
 
 #include "numbers/Text.h"
 #include "screens/AnalysisProgram.h"
+#include "screens/controls/AnalysisControls.h"
+#include "screens/controls/ControlsOfAForm.h"
 #include "support/HandPictures.h"
 
 namespace norlaplan::testing {
@@ -61,6 +63,10 @@ class lodestarformTest : public QObject {
     Q_OBJECT
 
   private slots:
+    void itsControlsAreAsTheirRowsSay() {
+        QCOMPARE(controlsThatDiffer(forms::kBallResults, {kAnalysisRows, analysisScenes()}), QStringList());
+    }
+
     void showsALineForEveryBallOfBothRows_data() { stylesAndUnits(); }
     void showsALineForEveryBallOfBothRows() {
         QFETCH(QString, number);

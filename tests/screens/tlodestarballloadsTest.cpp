@@ -2,6 +2,8 @@
 #include <QScrollBar>
 
 #include "screens/SolvedBearing.h"
+#include "screens/controls/ContactControls.h"
+#include "screens/controls/ControlsOfAForm.h"
 
 namespace norlaplan::testing {
 namespace {
@@ -58,6 +60,10 @@ class tlodestarballloadsTest : public QObject {
     Q_OBJECT
 
   private slots:
+    void itsControlsAreAsTheirRowsSay() {
+        QCOMPARE(controlsThatDiffer(forms::kBallLoadGraph, {kContactRows, contactScenes()}), QStringList());
+    }
+
     void saysWhatItIs() {
         Graph graph;
         QCOMPARE(graph.inFront(), std::string(kForm));
