@@ -25,6 +25,7 @@ class Limits(unittest.TestCase):
     def setUp(self):
         self.folder = tempfile.TemporaryDirectory()
         self.addCleanup(self.folder.cleanup)
+        self.told_by_its_end = 0
 
     def ends_in_a_file_or_an_error(self, what, value, words, name):
         output = Path(self.folder.name, name)
@@ -39,6 +40,10 @@ class Limits(unittest.TestCase):
         self.assertIn('"error"', done.stdout, told)
         self.assertNotIn("terminate", done.stderr, told)
         self.assertNotIn("Too many files\n", done.stderr, "it is told what could not be opened")
+        if "a picture takes more memory, open files or stack" in done.stderr:
+            self.assertTrue(done.stderr.startswith("Run-time error '7': Out of memory: "), told)
+            self.assertIn('"number": 7,', done.stdout)
+            self.told_by_its_end += 1
         self.assertEqual(left, [], told)
         return "error"
 
@@ -48,6 +53,7 @@ class Limits(unittest.TestCase):
                 for words, name in ((SHEET, "sheet.pdf"), (SHEET, "sheet.png"), (LIFE, "life.pdf"), (SEARCH, "list.bmp"))
                 for megabytes in (16, 72, 80, 88, 96, 104, 400)}
         self.assertEqual(ends, {"file", "error"})
+        self.assertGreater(self.told_by_its_end, 0)
 
     @unittest.skipUnless(WITH_PICTURES, "built without pictures")
     def test_files_that_run_out_in_a_picture_are_an_error(self):

@@ -169,6 +169,7 @@ class OfADeflection(PrintedTable):
             found = result(*words)[1]
             lines = run(*words).stdout.splitlines()
             at = next(i for i, line in enumerate(lines) if line.lstrip().startswith("Radial (") and "Deflection" in line)
+            self.assertEqual((lines[1], lines[at - 1]), ("", ""), "empty lines stand between the parts")
             # Two columns have one head, so that each curve is read by itself.
             starts = [word.start() for word in re.finditer(r"(Radial|Axial|Moment) \(", lines[at])]
             self.assertEqual(len(starts), 3)

@@ -2,12 +2,13 @@
 
 import math
 import shutil
+import subprocess
 import tempfile
 import unittest
 from pathlib import Path
 
 from pictures import Bitmap, papers, png_size
-from program import WITH_PICTURES, result, run
+from program import CLI, PROGRAM_FOLDER, WITH_PICTURES, result, run
 
 LOADS = ("--radial", "1000", "--axial", "300", "--moment", "500")
 TEMPERATURES = ("--high", "250", "--low", "-65", "--shaft", "6061 Aluminum", "--housing", "5.6e-6")
@@ -70,6 +71,24 @@ class EveryReport(Reports):
                 pixels = tuple(150 * length for length in inches)
                 self.assertEqual(png_size(self.written(".png", *words)), pixels)
                 self.assertEqual(self.picture(*words).size, pixels)
+
+    @unittest.skipUnless(WITH_PICTURES, "built without pictures")
+    def test_is_drawn_by_the_module_of_an_installation_or_tells_which_one_is_missing(self):
+        programs = self.folder / "bin"
+        modules = self.folder / "lib" / "norlaplan-mm" / "modules"
+        programs.mkdir()
+        program, picture = programs / "norlaplan-cli", self.folder / "out.png"
+        shutil.copy2(CLI, program)
+        words = [program, "--program-folder", PROGRAM_FOLDER, "report", "torque", "K19013XP0", "--output", picture]
+        missing = subprocess.run(words, capture_output=True, text=True, check=False, timeout=600)
+        self.assertEqual(missing.returncode, 1)
+        self.assertTrue(missing.stderr.startswith(
+            f"No picture: Pictures need the module {programs / 'norlaplan-paint.so'}, which can't be loaded ("), missing.stderr)
+        self.assertFalse(picture.exists())
+        modules.mkdir(parents=True)
+        shutil.copy2(PROGRAM_FOLDER / "norlaplan-paint.so", modules)
+        subprocess.run(words, capture_output=True, check=True, timeout=600)
+        self.assertEqual(png_size(picture.read_bytes()), (1275, 750))
 
     def test_refuses_a_kind_that_it_does_not_have_before_it_calculates(self):
         for words, _, _, text in REPORTS:
