@@ -116,6 +116,41 @@ class EntryScreensTest : public QObject {
         QCOMPARE(program.screens.current()->windowTitle(), "BEARING SIZE SELECTION FOR " + caption);
     }
 
+    void theChosenStyleAloneIsFramedAndTicked() {
+        Typist program;
+        program.screens.show(forms::kStyle);
+        auto& picture = program.control<QToolButton>(forms::kStyle, "Image2");
+        const auto seen = [&] {
+            picture.clearFocus();
+            return picture.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        };
+        const QRgb accent = qRgb(190, 84, 0), green = qRgb(0, 122, 42), white = qRgb(255, 255, 255);
+        const QImage before = seen();
+        program.click(forms::kStyle, "Image2");
+        const QImage after = seen();
+        const int right = after.width() - 1, bottom = after.height() - 1;
+        // A frame of four pixels on all four sides.
+        for (int inset = 0; inset < 4; ++inset) {
+            for (const QPoint place : {QPoint(inset, 100), QPoint(100, inset), QPoint(right - inset, 100),
+                                       QPoint(100, bottom - inset), QPoint(right - inset, bottom - inset)}) {
+                QVERIFY(before.pixel(place) != accent);
+                QCOMPARE(after.pixel(place), accent);
+            }
+        }
+        for (const QPoint place :
+             {QPoint(5, 100), QPoint(100, 5), QPoint(right - 5, 100), QPoint(100, bottom - 5)})
+            QVERIFY(after.pixel(place) != accent);
+        // A disc of 28 pixels with a tick, twice the frame off the right and the upper edge.
+        const QPoint disc(after.width() - 36, 8);
+        QCOMPARE(after.pixel(disc + QPoint(14, 2)), green);
+        QCOMPARE(after.pixel(disc + QPoint(14, 25)), green);
+        QCOMPARE(after.pixel(disc + QPoint(2, 14)), green);
+        QCOMPARE(after.pixel(disc + QPoint(25, 14)), green);
+        QCOMPARE(after.pixel(disc + QPoint(12, 19)), white);
+        program.click(forms::kStyle, "Image5");
+        QCOMPARE(seen(), before);
+    }
+
     void thePicturesOfTheStylesStandInTwoRowsInTheirOrder() {
         Typist program;
         program.screens.show(forms::kStyle);

@@ -140,25 +140,6 @@ class StepsTest : public QObject {
         QVERIFY(left > 400);
     }
 
-    void the_chosen_style_stands_out() {
-        Steps program;
-        program.click(forms::kMainMenu, "Command4");
-        auto& picture = program.control<QToolButton>(forms::kStyle, "Image2");
-        const QImage before = picture.grab().toImage();
-        program.click(forms::kStyle, "Image2");
-        QVERIFY(picture.isChecked());
-        picture.clearFocus();
-        const QImage after = picture.grab().toImage();
-        // A frame on all four sides.
-        for (const QPoint place : {QPoint(2, 100), QPoint(100, 2), QPoint(after.width() - 3, 100),
-                                   QPoint(100, after.height() - 3)}) {
-            QVERIFY(before.pixelColor(place) != QColor(190, 84, 0));
-            QCOMPARE(after.pixelColor(place), QColor(190, 84, 0));
-        }
-        program.click(forms::kStyle, "Image5");
-        QVERIFY(picture.grab().toImage().pixelColor(2, 100) != QColor(190, 84, 0));
-    }
-
     void a_double_click_on_a_style_goes_on() {
         Steps program;
         program.click(forms::kMainMenu, "Command4");
