@@ -148,6 +148,20 @@ class KnownBearingJourneyTest : public QObject {
         QVERIFY(label(program, "Label8").startsWith("L10 LIFE = "));
     }
 
+    void aLifeThatIsGivenUpLeadsBackToTheLoadsAndLeavesNoMark() {
+        Program program;
+        program.enterNumber("K19013BR0A");
+        program.openLife("0", "1e12", "0", "");
+        QVERIFY(!program.messages.asked.empty());
+        QCOMPARE(program.messages.asked.back().prompt, std::string("Do you want to keep trying?"));
+        QCOMPARE(program.inFront(), std::string(forms::kLoads));
+        QVERIFY(!program.state.solver.SolveAborted);
+        program.type(forms::kLoads, "Text2", "100");
+        program.click(forms::kLoads, "Command1");
+        QCOMPARE(program.inFront(), std::string(forms::kLife));
+        QVERIFY(label(program, "Label8").startsWith("L10 LIFE = "));
+    }
+
     void theMainMenuButtonKeepsTheLoadsOrStaysWhenOneIsWrong() {
         Program program;
         program.enterNumber("K19013XP0");
