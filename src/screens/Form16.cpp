@@ -1,6 +1,5 @@
 #include "screens/Form16.h"
 
-#include <QButtonGroup>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -18,7 +17,6 @@
 
 namespace norlaplan {
 Form16::Form16(Screens& screens) : Form(screens, forms::kStyle, "Bearing Style Selection") {
-    auto* const group = new QButtonGroup(this);
     for (std::size_t row = 0; row < pictures_.size(); ++row) {
         const StyleRow& style = kStyles[row];
         pictures_[row] =
@@ -26,7 +24,7 @@ Form16::Form16(Screens& screens) : Form(screens, forms::kStyle, "Bearing Style S
                                  QString::fromUtf8(style.label), QString::fromUtf8(style.description),
                                  pictureOrNone(services().folder.find(stylePicture(style, 'T'))));
         pictures_[row]->installEventFilter(this);
-        group->addButton(pictures_[row]);
+        group_.addButton(pictures_[row]);
     }
     description_ = build::heading("Label1", "");
     description_->setAlignment(Qt::AlignCenter);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QButtonGroup>
 #include <array>
 
 #include "screens/Form.h"
@@ -30,6 +31,7 @@ class Form16 : public Form {
     void refresh();
 
     std::array<QToolButton*, 6> pictures_{};
+    QButtonGroup group_;
     QLabel* description_;
     QPushButton* proceed_;
     QPushButton* mainMenu_;

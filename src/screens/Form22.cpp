@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <algorithm>
+#include <optional>
 
 #include "help/HelpTopics.h"
 #include "screens/Form20.h"
@@ -25,6 +26,22 @@ void setColour(QRadioButton& topic, const QColor& colour) {
     if (palette.color(QPalette::WindowText) == colour) return;
     palette.setColor(QPalette::WindowText, colour);
     topic.setPalette(palette);
+}
+
+/// How far an arrow key goes in the list of topics, which runs down one column after the other.
+std::optional<std::ptrdiff_t> stepOf(int key, std::ptrdiff_t column) {
+    switch (key) {
+        case Qt::Key_Up:
+            return -1;
+        case Qt::Key_Down:
+            return 1;
+        case Qt::Key_Left:
+            return -column;
+        case Qt::Key_Right:
+            return column;
+        default:
+            return std::nullopt;
+    }
 }
 
 }  // namespace
@@ -84,34 +101,18 @@ void Form22::markLastRead() {
 
 void Form22::light(const QObject* pointed) {
     for (QRadioButton* const topic : topics_)
-        setColour(*topic, topic == pointed ? kPointedAt : kAtRest);
+        setColour(*topic, pointed != nullptr && topic == pointed ? kPointedAt : kAtRest);
 }
 
 bool Form22::takesKey(QRadioButton& topic, int key) {
-    const auto at = std::find(topics_.begin(), topics_.end(), &topic) - topics_.begin();
-    const auto count = static_cast<std::ptrdiff_t>(topics_.size());
-    const std::ptrdiff_t column = (count + kColumns - 1) / kColumns;
-    std::ptrdiff_t to = at;
-    switch (key) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            topic.click();
-            return true;
-        case Qt::Key_Up:
-            to = at - 1;
-            break;
-        case Qt::Key_Down:
-            to = at + 1;
-            break;
-        case Qt::Key_Left:
-            to = at - column;
-            break;
-        case Qt::Key_Right:
-            to = at + column;
-            break;
-        default:
-            return false;
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        topic.click();
+        return true;
     }
+    const auto count = static_cast<std::ptrdiff_t>(topics_.size());
+    const auto step = stepOf(key, (count + kColumns - 1) / kColumns);
+    if (!step) return false;
+    const auto to = std::find(topics_.begin(), topics_.end(), &topic) - topics_.begin() + *step;
     if (to >= 0 && to < count) topics_[static_cast<std::size_t>(to)]->setFocus(Qt::TabFocusReason);
     return true;
 }
