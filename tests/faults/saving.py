@@ -92,7 +92,8 @@ class CommandLine:
         done = subprocess.run(self.words, env=environment, capture_output=True, text=True, timeout=120, check=False,
                               preexec_fn=begin)
         reached = self.log.exists() and " fault" in self.log.read_text()
-        killed = done.returncode < 0
+        # Where a process of its own is killed, the program tells it.
+        killed = done.returncode < 0 or (kind.startswith("kill") and done.returncode == 3)
         fits = (done.returncode == 0) == ('"error"' not in done.stdout) and done.returncode in (0, 3)
         return Outcome(reached, done.stderr, killed or fits, killed)
 

@@ -192,17 +192,23 @@ class Faults(unittest.TestCase):
 
     def test_programs_that_are_killed_while_they_save(self):
         for way in every_save(self.addCleanup, FEW):
-            for _ in range(-(-KILLS // len(FEW))):
+            wanted, killed = -(-KILLS // len(FEW)), 0
+            # Some programs have ended before their time has come: others take their turn.
+            for _ in range(4 * wanted):
+                if killed == wanted:
+                    break
                 way.places.reset()
                 at = some_time()
                 where = f"{way.name}, killed {at} microseconds after its first file operation"
                 outcome = way.save("killafter", at)
                 self.check(way, outcome, where, False, False)
                 if outcome.killed:
-                    self.figures["kills"] += 1
+                    killed += 1
                 else:
                     self.assertTrue(way.go_on(), where)
                 self.next_save_clears(way, where)
+            self.assertGreater(killed, 0, way.name)
+            self.figures["kills"] += killed
 
 
 if __name__ == "__main__":
