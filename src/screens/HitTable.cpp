@@ -30,20 +30,12 @@ void HitTable::layOutColumns(bool withSpeed, bool withChecks) {
     // The scroll bar comes and goes with the rows; its room is never given away.
     int spare = width() - 2 * frameWidth() - style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     for (const int column : columns) {
-        widths.append(std::max(sizeHintForColumn(column), headWidth(column)));
+        widths.append(std::max(sizeHintForColumn(column), header()->sectionSizeHint(column)));
         spare -= widths.last();
     }
     const int more = std::clamp(spare / static_cast<int>(columns.size()), 0, kMostBetween);
     for (qsizetype i = 0; i < columns.size(); ++i)
         setColumnWidth(columns[i], widths[i] + (i + 1 < columns.size() ? more : 0));
-}
-
-int HitTable::headWidth(int column) const {
-    // A head keeps a square of its own height free for the mark of the sorting. Of two lines that is twice
-    // what the mark takes.
-    const int kept = header()->sectionSizeHint(column);
-    const bool twoLines = model()->headerData(column, Qt::Horizontal).toString().contains('\n');
-    return twoLines ? kept - header()->sizeHint().height() / 2 : kept;
 }
 
 void HitTable::showOrder(const SearchResults& results) {

@@ -17,9 +17,6 @@ class HitTable : public CopyTable {
     void showOrder(const SearchResults& results);
 
     QSize sizeHint() const override;
-
-  private:
-    int headWidth(int column) const;
 };
 
 }  // namespace norlaplan

@@ -116,6 +116,8 @@ class Panel : public QWidget {
 
 void apply() {
     QApplication::setStyle(new ProgramStyle);
+    // The application owns the style.
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
     QPalette colours;
     setAccent(colours);
     QApplication::setPalette(colours);

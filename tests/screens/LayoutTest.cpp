@@ -1,3 +1,4 @@
+#include <QHeaderView>
 #include <QLabel>
 #include <QLayout>
 #include <QScrollBar>
@@ -102,6 +103,10 @@ class LayoutTest : public QObject {
         for (const int column : {kHoursColumn, kMarkColumn, kCheckColumn})
             QVERIFY(!table.isColumnHidden(column));
         QVERIFY(table.viewport()->width() > 0);
+        const QHeaderView& heads = *table.header();
+        for (int column = 0; column < heads.count(); ++column)
+            QVERIFY(heads.isSectionHidden(column) ||
+                    heads.sectionSize(column) >= heads.sectionSizeHint(column));
         QCOMPARE(table.horizontalScrollBar()->maximum(), 0);
     }
 };
