@@ -1,4 +1,5 @@
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QCompleter>
 #include <QLabel>
 #include <QLineEdit>
@@ -8,6 +9,18 @@
 
 using namespace norlaplan;
 using namespace norlaplan::testing;
+
+namespace {
+
+/// What a screen reader was alerted to.
+QStringList alerts;
+
+}  // namespace
+
+/// The screen reader of the tests: their platform has none, and the toolkit's own function would tell nobody.
+void QAccessible::updateAccessibility(QAccessibleEvent* event) {
+    if (event->type() == QAccessible::Alert) alerts << event->object()->objectName();
+}
 
 namespace {
 
@@ -94,6 +107,20 @@ class NumberEntryTest : public QObject {
         QTest::keyClick(&entry.field(), Qt::Key_Backspace);
         QCOMPARE(entry.line(), QString());
         QCOMPARE(entry.spoken("Place7"), QString("Position 7: nothing yet"));
+    }
+
+    void a_screen_reader_is_alerted_by_what_is_wrong_and_by_nothing_else() {
+        Entry entry;
+        const auto alertsOf = [&](const char* typed) {
+            entry.field().clear();
+            alerts.clear();
+            QTest::keyClicks(&entry.field(), typed);
+            return alerts;
+        };
+        QCOMPARE(alertsOf("K19013XP0"), QStringList());
+        // Wrong at its first place, and at its ninth.
+        QCOMPARE(alertsOf("Q"), QStringList("Explanation"));
+        QCOMPARE(alertsOf("K19013XP3"), QStringList("Explanation"));
     }
 
     void a_z_separator_is_told_once_it_is_chosen() {
