@@ -225,6 +225,42 @@ class Results(Table):
             self.assertEqual(self.files(), ["cases.csv", "results.csv"])
             self.assertEqual(self.results.read_text("ascii"), "earlier")
 
+    def waiting_to_be_read(self, ignored):
+        """A call whose results are written, and whose count nobody reads yet: its process and the pipe's reading end."""
+        self.cases.write_text(HEAD + "K19013XP0,500\n", "ascii")
+        reading, writing = os.pipe()
+        os.set_blocking(writing, False)
+        try:
+            while True:
+                os.write(writing, bytes(4096))
+        except BlockingIOError:
+            os.set_blocking(writing, True)
+        action = signal.SIG_IGN if ignored else signal.SIG_DFL
+        child = subprocess.Popen([CLI, "batch", str(self.cases), "--output", str(self.results)], stdout=writing,
+                                 stderr=subprocess.PIPE, preexec_fn=lambda: signal.signal(signal.SIGINT, action))
+        os.close(writing)
+        while not self.results.exists() and child.poll() is None:
+            time.sleep(0.01)
+        time.sleep(0.2)
+        return child, reading
+
+    def test_are_kept_on_ctrl_c_while_their_count_is_printed(self):
+        for ignored in (False, True):
+            self.results.unlink(missing_ok=True)
+            child, reading = self.waiting_to_be_read(ignored)
+            child.send_signal(signal.SIGINT)
+            try:
+                if ignored:  # as in the background of a shell
+                    self.assertRaises(subprocess.TimeoutExpired, child.wait, 0.3)
+                    with open(reading, "rb", closefd=False) as pipe:
+                        self.assertTrue(pipe.read().endswith(b": 1 cases, 0 failed\n"))
+                self.assertEqual(child.wait(timeout=20), 0 if ignored else -signal.SIGINT)
+            finally:
+                child.kill()
+                child.communicate()
+                os.close(reading)
+            self.assertEqual(self.files(), ["cases.csv", "results.csv"])
+
     def drawn_on_a_terminal(self):
         leader, follower = pty.openpty()
         child = subprocess.Popen([CLI, "batch", str(self.cases), "--output", str(self.results)],

@@ -81,13 +81,13 @@ class Decode(unittest.TestCase):
         with own_tables() as folder:
             path = table(folder, "XSEPARATOR.CSV")
             content = path.read_bytes()
-            path.write_bytes(content.replace(b"P= Snapover Brass Ribbon", b"P= \x1b[31mK\xe4fig\x07\xc2\x9b2J\x7f", 1))
+            path.write_bytes(content.replace(b"P= Snapover Brass Ribbon", b"P= \x1b[31mK\xe4fig\x07\xc2\x9b2J\xc2\x9f\xc2\xa0x\x7f", 1))
             done = run("--program-folder", str(folder), "decode", "K19013XP0", text=False)
             self.assertEqual(done.returncode, 0)
             line = next(line for line in done.stdout.decode("utf-8").splitlines() if line.startswith("separatorText"))
-            self.assertEqual(line.split(maxsplit=1)[1], "P= ^[[31mKäfig^G<9B>2J^?")
+            self.assertEqual(line.split(maxsplit=1)[1], "P= ^[[31mKäfig^G<9B>2J<9F>\u00a0x^?")
             text = result("--program-folder", str(folder), "decode", "K19013XP0")[1]["separatorText"]
-            self.assertEqual(text, "P= \x1b[31mKäfig\x07\x9b2J\x7f")
+            self.assertEqual(text, "P= \x1b[31mKäfig\x07\x9b2J\x9f\u00a0x\x7f")
 
     def test_keeps_overlays_in_their_folder(self):
         with own_tables() as folder:
