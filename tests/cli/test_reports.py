@@ -9,6 +9,7 @@ from pathlib import Path
 
 from pictures import Bitmap, papers, png_size
 from program import CLI, PROGRAM_FOLDER, WITH_PICTURES, result, run
+from rtf_text import paragraphs
 
 LOADS = ("--radial", "1000", "--axial", "300", "--moment", "500")
 TEMPERATURES = ("--high", "250", "--low", "-65", "--shaft", "6061 Aluminum", "--housing", "5.6e-6")
@@ -57,6 +58,14 @@ class EveryReport(Reports):
                     rtf = self.written(".rtf", *words).decode("ascii")
                     self.assertTrue(rtf.startswith("{\\rtf1"))
                     self.assertIn(text, rtf)
+
+    def test_of_a_search_lists_the_bearings_that_the_search_finds_in_its_order(self):
+        words = ("search", "--style", "4-POINT CONTACT", "--min-bore", "5", "--max-od", "9", "--min-height", ".2",
+                 "--max-height", "1.2", "--radial", "500", "--sort", "life", "--descending")
+        names = [row["name"] for row in result(*words)[1]["rows"]]
+        self.assertGreater(len(names), 5)
+        shown = paragraphs(self.written(".rtf", "report", *words).decode("ascii"))
+        self.assertEqual([text.split()[0] for text in shown if text.split()[0] in names], names)
 
     @unittest.skipUnless(WITH_PICTURES, "built without pictures")
     def test_prints_one_page_on_its_paper(self):

@@ -65,6 +65,15 @@ class Usage(unittest.TestCase):
             self.assertEqual(run(*words).returncode, 2, words)
         self.assertEqual(result("nonsense")[1]["error"]["kind"], "usage")
 
+    def test_an_error_says_its_kind_its_number_its_title_and_its_prompt_in_this_order(self):
+        for words, kind, number in ((("nonsense",), "usage", None), (("decode", "K0"), "message", None),
+                                    (("life", "K19013XP0", "--axial", "-100"), "runtime", 5)):
+            told = result(*words)[1]
+            self.assertEqual(list(told), ["error"])
+            self.assertEqual(list(told["error"]), ["kind", "number", "title", "prompt"])
+            self.assertEqual((told["error"]["kind"], told["error"]["number"]), (kind, number))
+            self.assertEqual(run(*words).stderr, f"{told['error']['title']}: {told['error']['prompt']}\n")
+
     def test_a_style_that_is_none_is_told_with_those_that_are(self):
         status, told = result("search", "--style", "ROLLER", "--min-bore", "5", "--max-od", "9", "--min-height", ".2",
                               "--max-height", "1.2")
