@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 #include "numbers/RuntimeError.h"
 
@@ -80,6 +81,21 @@ struct ScannedNumber {
     bool tooLarge = false;
 };
 
+/// Of a number without sign that 64 bits don't hold: whether it is too large for them, and not too small to
+/// be told from zero. The power of ten of its first digit says which; it is far from 0 either way.
+bool isTooLarge(std::string_view mantissa, std::string_view exponent) {
+    double power = 0.0;
+    if (!exponent.empty()) {
+        const bool negative = exponent[1] == '-';
+        exponent.remove_prefix(negative || exponent[1] == '+' ? 2 : 1);
+        power = std::numeric_limits<double>::max();  // stays for an exponent that 64 bits don't hold either
+        std::from_chars(exponent.data(), exponent.data() + exponent.size(), power);
+        if (negative) power = -power;
+    }
+    const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
+    return power + static_cast<double>(point) > static_cast<double>(mantissa.find_first_not_of("0."));
+}
+
 ScannedNumber scanNumber(std::string_view text) {
     ScannedNumber scanned;
     std::size_t at = 0;
@@ -96,10 +112,8 @@ ScannedNumber scanNumber(std::string_view text) {
     double value = 0.0;
     const auto result = std::from_chars(first, first + length, value);
     if (result.ec == std::errc::result_out_of_range) {
-        // Either far too large or too small to be told from zero: the exponent's sign says which.
         const std::string_view number(first, length);
-        scanned.tooLarge =
-            number.find("e-") == std::string_view::npos && number.find("E-") == std::string_view::npos;
+        scanned.tooLarge = isTooLarge(number.substr(0, mantissa.length), number.substr(mantissa.length));
         value = 0.0;
     }
     scanned.value = negative ? -value : value;

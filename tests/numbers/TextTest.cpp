@@ -118,6 +118,19 @@ TEST(LeadingNumber, TooSmallForSixtyFourBitsIsZeroAndTooLargeAnOverflow) {
     EXPECT_EQ(leadingNumber("3e-400 mm"), 0.0);
     EXPECT_THROW(leadingNumber("-1E+999"), RuntimeError);
     EXPECT_EQ(wholeNumberText("1e-999"), 0.0);
+    // The zeros of the digits count as the exponent does.
+    const std::string zeros(400, '0');
+    EXPECT_EQ(leadingNumber("0." + zeros + "1"), 0.0);
+    EXPECT_EQ(leadingNumber("-." + zeros + "25e+50"), 0.0);
+    EXPECT_THROW(leadingNumber("1" + zeros), RuntimeError);
+    EXPECT_THROW(leadingNumber("1" + zeros + ".5e-50"), RuntimeError);
+    EXPECT_EQ(leadingNumber("1" + zeros + "e-400"), 1.0);
+    EXPECT_EQ(leadingNumber("." + zeros + "1e+401"), 1.0);
+    EXPECT_EQ(leadingNumber("1e-1" + zeros), 0.0);
+    EXPECT_THROW(leadingNumber("1e1" + zeros), RuntimeError);
+    EXPECT_EQ(leadingNumber("0e999"), 0.0);
+    EXPECT_FALSE(wholeNumberText("1" + zeros + "e-50").has_value());
+    EXPECT_EQ(wholeNumberText("0." + zeros + "1"), 0.0);
 }
 
 TEST(WholeNumberText, PassesOverCommasBetweenTheSignAndThePointAlone) {
