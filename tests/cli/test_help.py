@@ -110,6 +110,10 @@ class Help(unittest.TestCase):
                     self.assertNotEqual(told, "", name)
                     self.assertEqual("isplay units" in told, name in IN_DISPLAY_UNITS, name)
 
+    def test_lists_the_reports_as_their_calculations_follow_each_other(self):
+        self.assertEqual(list(self.shown("report")[1]["Subcommands"]), [
+            "life", "search", "ballloads", "contact", "deflection", "torque", "play", "tilt", "fits"])
+
     def test_says_in_the_list_what_a_command_says_of_itself(self):
         for parent, names in (((), COMMANDS), (("report",), REPORTS)):
             listed = self.shown(*parent)[1]["Subcommands"]
