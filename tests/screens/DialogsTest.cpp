@@ -9,14 +9,20 @@
 namespace norlaplan::testing {
 namespace {
 
-/// Does `answer` to the dialog that the next call opens.
+/// Does `answer` to the dialog that the next call opens, as soon as it is there.
 template <typename Dialog>
 void whenOpen(std::function<void(Dialog&)> answer) {
-    QTimer::singleShot(50, qApp, [answer = std::move(answer)] {
+    auto* const soon = new QTimer(qApp);
+    QObject::connect(soon, &QTimer::timeout, soon, [soon, answer = std::move(answer)] {
         auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-        QVERIFY(dialog != nullptr);
+        if (dialog == nullptr) return;
+        soon->deleteLater();
+        soon->stop();
         answer(*dialog);
+        // A check that fails in the answer leaves the dialog open.
+        if (dialog->isVisible()) dialog->reject();
     });
+    soon->start(1);
 }
 
 /// The toolkit's dialogs behind the ports QtOpenDialog and QtColourDialog.

@@ -6,17 +6,17 @@
 #include "loaddist/radlodestar2.h"
 #include "numbers/FormatNumber.h"
 #include "search/HitLine.h"
-#include "search/SmallCatalogue.h"
+#include "search/SearchCatalogue.h"
 
 namespace norlaplan {
 namespace {
 
 using testing::RecordingMessages;
 using testing::rowOf;
-using testing::SmallCatalogue;
+using testing::SearchCatalogue;
 
 TEST(Search, ListsEveryRowThatFitsWithItsTexts) {
-    SmallCatalogue catalogue;
+    SearchCatalogue catalogue;
     catalogue.section(rowOf("K10013XP0", 100, 1) + rowOf("K20013XP0", 200, 2));
     catalogue.state.loads.speed = 100.0;
     EXPECT_EQ(catalogue.run(), SearchEnd::Found);
@@ -32,7 +32,7 @@ TEST(Search, ListsEveryRowThatFitsWithItsTexts) {
 }
 
 TEST(Search, GivesTheLifeOfASolveOfItsOwn) {
-    SmallCatalogue catalogue;
+    SearchCatalogue catalogue;
     catalogue.section(rowOf("K10013XP0", 100));
     catalogue.state.loads.speed = 100.0;
     catalogue.run();
@@ -50,7 +50,7 @@ TEST(Search, GivesTheLifeOfASolveOfItsOwn) {
 }
 
 TEST(Search, KeepsOutWhatIsOutsideOfTheEnvelope) {
-    SmallCatalogue catalogue;
+    SearchCatalogue catalogue;
     catalogue.section(rowOf("K10013XP0", 100) + rowOf("K15013XP0", 150) + rowOf("K20013XP0", 200));
     catalogue.state.criteria.minBore = 5.0;
     catalogue.state.criteria.maxOd = 8.0;
@@ -60,7 +60,7 @@ TEST(Search, KeepsOutWhatIsOutsideOfTheEnvelope) {
 }
 
 TEST(Search, TakesTheSetTwiceAsHighAndNamesIt) {
-    SmallCatalogue catalogue;
+    SearchCatalogue catalogue;
     catalogue.section(rowOf("K10013AR0", 100));
     catalogue.style("BACK-TO-BACK SET", "A");
     catalogue.state.criteria.maxHeight = 1.0;
@@ -72,7 +72,7 @@ TEST(Search, TakesTheSetTwiceAsHighAndNamesIt) {
 }
 
 TEST(Search, FillsWhatIsLeftWithSpacersUpToTheMaximumHeight) {
-    SmallCatalogue catalogue;
+    SearchCatalogue catalogue;
     catalogue.section(rowOf("K10013AR0", 100));
     catalogue.style("FACE-TO-FACE SET WITH SPACERS", "A");
     catalogue.state.criteria.maxHeight = 1.2;
@@ -84,7 +84,7 @@ TEST(Search, FillsWhatIsLeftWithSpacersUpToTheMaximumHeight) {
 }
 
 TEST(Search, TakesTheThrustNumbersForAPureThrustLoadAlone) {
-    SmallCatalogue catalogue;
+    SearchCatalogue catalogue;
     catalogue.section(rowOf("K10013XP0", 100));
     catalogue.state.loads = {};
     catalogue.state.loads.axialLoadDisplay = 100.0;
@@ -100,7 +100,7 @@ TEST(Search, TakesTheThrustNumbersForAPureThrustLoadAlone) {
 }
 
 TEST(Search, WithoutAFitSaysSoAndAsksForSizesAgain) {
-    SmallCatalogue catalogue;
+    SearchCatalogue catalogue;
     catalogue.state.sizesChosen = true;
     EXPECT_EQ(catalogue.run(), SearchEnd::NoneFound);
     ASSERT_EQ(catalogue.messages.shown.size(), 1U);
@@ -123,7 +123,7 @@ std::string lifeAlone(const char* name, double boreMm, Single clearance) {
 }
 
 TEST(Search, KeepsThePreviousRowsClearanceWhereThePrecisionTableHasNoLine) {
-    SmallCatalogue catalogue;
+    SearchCatalogue catalogue;
     catalogue.section(rowOf("K10013XP0", 100) + rowOf("K15013XP0", 150));
     catalogue.run();
     const Single ofTheFirst = (static_cast<double>(0.0006F) + static_cast<double>(0.0014F)) / 2.0;
@@ -133,7 +133,7 @@ TEST(Search, KeepsThePreviousRowsClearanceWhereThePrecisionTableHasNoLine) {
 
 TEST(Search, LeavesTheBearingInHandAndItsLifeAlone) {
     for (const int stopAt : {-1, 1}) {
-        SmallCatalogue catalogue;
+        SearchCatalogue catalogue;
         catalogue.section(rowOf("K10013XP0", 100) + rowOf("K15013XP0", 150));
         BearingSpec& inHand = catalogue.state.bearing;
         inHand.partNumber = "K19013XP0";
@@ -155,10 +155,10 @@ TEST(Search, LeavesTheBearingInHandAndItsLifeAlone) {
 }
 
 TEST(Search, IsTheSameWhateverBearingIsInHand) {
-    SmallCatalogue first;
+    SearchCatalogue first;
     first.section(rowOf("K15013XP0", 150));
     first.run();
-    SmallCatalogue second;
+    SearchCatalogue second;
     second.section(rowOf("K15013XP0", 150));
     second.state.bearing.meanClearance = 0.01;
     second.state.bearing.momentArm = 3.0;
@@ -167,7 +167,7 @@ TEST(Search, IsTheSameWhateverBearingIsInHand) {
 }
 
 TEST(Search, KeepsStaleHoursWithoutASpeed) {
-    SmallCatalogue catalogue;
+    SearchCatalogue catalogue;
     catalogue.section(rowOf("K10013XP0", 100));
     catalogue.state.loads.speed = 100.0;
     catalogue.run();
@@ -191,14 +191,14 @@ TEST(HitLine, ShowsHoursAndMarkOnlyWithASpeed) {
 
 /// A catalogue with blanks, quotes, empty fields and rows over several lines gives what the tidy one gives.
 TEST(Search, ReadsACatalogueWithOddFields) {
-    SmallCatalogue tidy;
+    SearchCatalogue tidy;
     tidy.section(rowOf("K10013XP0", 100, 0) + rowOf("K20013XP0", 200, 2));
-    SmallCatalogue odd;
+    SearchCatalogue odd;
     odd.section(
         "  \"K10013XP0\" , , 100,\"126\"mm,0,0,0,0.5,1,60\r\n"
         "\"K20013XP0\",2,200\r\n226,0,,\r\n0.5, 1 , 60 balls");
     odd.place.write("Data Tables/cls0.csv", tidy.place.read("Data Tables/CLS0.csv"));
-    for (SmallCatalogue* const catalogue : {&tidy, &odd}) {
+    for (SearchCatalogue* const catalogue : {&tidy, &odd}) {
         catalogue->state.loads.speed = 100.0;
         ASSERT_EQ(catalogue->run(), SearchEnd::Found);
         ASSERT_EQ(catalogue->state.search.rows.size(), 2U);
@@ -210,9 +210,9 @@ TEST(Search, ReadsACatalogueWithOddFields) {
 
 TEST(Search, TakesABoreThatThePrecisionTableLacksWithThePreviousRowsClearance) {
     const std::string rows = rowOf("K10013XP0", 100) + rowOf("K15013XP0", 150) + rowOf("K20013XP0", 200);
-    SmallCatalogue lacking;
+    SearchCatalogue lacking;
     lacking.section(rows);
-    SmallCatalogue whole;
+    SearchCatalogue whole;
     whole.section(rows);
     whole.place.write("Data Tables/CLS0.csv",
                       "head,,,,,,,,,\r\n200,0,0,0,0,0,0,.001,.002,0\r\n150,0,0,0,0,0,0,.0006,.0014,0\r\n"

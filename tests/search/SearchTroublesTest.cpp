@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "numbers/RuntimeError.h"
-#include "search/SmallCatalogue.h"
+#include "search/SearchCatalogue.h"
 
 /// Searches that fault, are stopped or hold rows that never settle.
 namespace norlaplan {
@@ -13,10 +13,10 @@ namespace {
 
 using testing::numbers;
 using testing::rowOf;
-using testing::SmallCatalogue;
+using testing::SearchCatalogue;
 using testing::Watch;
 
-int faultOf(SmallCatalogue& catalogue) {
+int faultOf(SearchCatalogue& catalogue) {
     try {
         catalogue.run();
     } catch (const RuntimeError& error) {
@@ -26,7 +26,7 @@ int faultOf(SmallCatalogue& catalogue) {
 }
 
 TEST(Search, HoldsThreeHundredRowsAndFaultsAtTheNext) {
-    SmallCatalogue catalogue;
+    SearchCatalogue catalogue;
     std::string rows;
     for (int i = 0; i < 300; ++i)
         rows += rowOf("K10013XP0", 100);
@@ -40,7 +40,7 @@ TEST(Search, HoldsThreeHundredRowsAndFaultsAtTheNext) {
 
 TEST(Search, FaultsForASpeedIndexOutsideOfOneToFour) {
     for (const int index : {0, 5}) {
-        SmallCatalogue catalogue;
+        SearchCatalogue catalogue;
         catalogue.section(rowOf("K10013XP0", 100, 1, index));
         EXPECT_EQ(faultOf(catalogue), fault::kSubscript) << index;
     }
@@ -48,7 +48,7 @@ TEST(Search, FaultsForASpeedIndexOutsideOfOneToFour) {
 
 TEST(Search, FaultsForASpeedTableWithoutItsKey) {
     for (const std::string& table : {std::string(), "J" + std::string(23, ',') + numbers(9.0) + "\r\n"}) {
-        SmallCatalogue catalogue;
+        SearchCatalogue catalogue;
         catalogue.section(rowOf("K10013CP0", 100));
         catalogue.style("RADIAL CONTACT", "C");
         catalogue.place.write("Data Tables/SPEEDC.CSV", table);
@@ -57,7 +57,7 @@ TEST(Search, FaultsForASpeedTableWithoutItsKey) {
 }
 
 TEST(Search, StoppedKeepsNoRows) {
-    SmallCatalogue catalogue;
+    SearchCatalogue catalogue;
     catalogue.section(rowOf("K10013XP0", 100) + rowOf("K15013XP0", 150) + rowOf("K20013XP0", 200));
     EXPECT_EQ(catalogue.run(3), SearchEnd::Stopped);
     EXPECT_TRUE(catalogue.state.search.rows.empty());
@@ -65,7 +65,7 @@ TEST(Search, StoppedKeepsNoRows) {
 }
 
 /// Radial loads under which a row of the sample catalogue never settles.
-struct Unsettled : SmallCatalogue {
+struct Unsettled : SearchCatalogue {
     Unsettled() {
         folder = testing::programFolder();
         style("FACE-TO-FACE SET", "A");
@@ -113,7 +113,7 @@ TEST(Search, ThatWasToldToGoOnCanStillBeStoppedInARowThatNeverSettles) {
 }
 
 TEST(Search, CanBeStoppedWithinARowOfTensOfThousandsOfBalls) {
-    SmallCatalogue catalogue;
+    SearchCatalogue catalogue;
     catalogue.section("K10013XP0,1,100,126,0,0,0,.5,1,30000\r\n");
     catalogue.style("4-POINT CONTACT", "X");
     catalogue.state.loads.radialLoadDisplay = 500.0;
@@ -129,7 +129,7 @@ TEST(Search, CanBeStoppedWithinARowOfTensOfThousandsOfBalls) {
 
 TEST(Search, TellsWhatToEnterInsteadOfALoadOfTheWrongSign) {
     for (const auto& [letter, word] : {std::pair{"C", "radial"}, std::pair{"X", "axial"}}) {
-        SmallCatalogue catalogue;
+        SearchCatalogue catalogue;
         catalogue.section(rowOf(std::string("K10013") + letter + "P0", 100));
         catalogue.style(letter == std::string("C") ? "RADIAL CONTACT" : "4-POINT CONTACT", letter);
         catalogue.state.loads.radialLoadDisplay = letter == std::string("C") ? -5.0 : 5.0;
@@ -147,7 +147,7 @@ TEST(Search, TellsWhatToEnterInsteadOfALoadOfTheWrongSign) {
 
 TEST(Search, FaultsForARowThatCountsFewerBallsThanNone) {
     for (const char* const count : {"0", "-1", "-2"}) {
-        SmallCatalogue catalogue;
+        SearchCatalogue catalogue;
         catalogue.section(std::string("K10013XP0,1,100,126,0,0,0,.5,1,") + count + "\r\n");
         EXPECT_NE(faultOf(catalogue), 0) << count;
         EXPECT_TRUE(catalogue.state.search.rows.empty());
@@ -155,7 +155,7 @@ TEST(Search, FaultsForARowThatCountsFewerBallsThanNone) {
 }
 
 TEST(Search, StopsInALongPrecisionTable) {
-    SmallCatalogue catalogue;
+    SearchCatalogue catalogue;
     catalogue.section(rowOf("K30013XP0", 300));
     std::string table = "head,,,,,,,,,\r\n";
     for (int i = 0; i < 5000; ++i)

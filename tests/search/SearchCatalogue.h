@@ -42,8 +42,8 @@ inline std::string numbers(double first) {
 }
 
 /// A small catalogue of the middle section, with empty tables beside it, and the state of a search in it.
-struct SmallCatalogue {
-    SmallCatalogue() {
+struct SearchCatalogue {
+    SearchCatalogue() {
         section("");
         const std::string key = ",,,,,,,,,,,,,,,,,,,,,,,";
         place.write("Data Tables/SPEEDC.CSV", "P" + key + numbers(9.0) + "\r\n");
