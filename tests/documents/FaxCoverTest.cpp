@@ -106,6 +106,10 @@ TEST(FaxCover, StandsAtTheStatedPlacesInTheStatedSizes) {
     EXPECT_EQ(textOf(canvas, "*********************").look.points, 16.0);
     EXPECT_EQ(textOf(canvas, "FACSIMILE MESSAGE").look.points, 14.0);
     EXPECT_EQ(textOf(canvas, "MESSAGE:").look.points, 14.0);
+    for (const char* const head : {"*********************", "FACSIMILE MESSAGE", "MESSAGE:"})
+        EXPECT_TRUE(textOf(canvas, head).look.bold) << head;
+    for (const char* const body : {"To:", "Bob", "Hello", "NORLAPLAN-MM version 1.00"})
+        EXPECT_FALSE(textOf(canvas, body).look.bold) << body;
     EXPECT_EQ(textOf(canvas, "NORLAPLAN-MM version 1.00").look.points, 8.0);
     EXPECT_NEAR(textOf(canvas, "NORLAPLAN-MM version 1.00").box.top, 11.0 - 8600.0 / 1440.0, 1e-9);
     for (const auto& text : canvas.texts) {

@@ -369,6 +369,18 @@ TEST(GraphInRtf, WritesBandsTextsAndPiecesAsShapes) {
     EXPECT_EQ(blue, 3);
 }
 
+TEST(GraphInRtf, DrawsADashedCurveDashedAndOthersSolid) {
+    Graph graph = deflectionGraph(colours::kRed, colours::kBlue);
+    graph.curves[0].pen.dash = 6;
+    RtfDocument document;
+    writeGraph(graph, document);
+    for (const SheetRecord& record : readSheetRecords(document.records())) {
+        const auto& line = std::get<SheetLine>(record);
+        EXPECT_EQ(line.dash, line.colour == colours::kRed ? 6 : 0);
+        EXPECT_EQ(line.dataSheet, line.colour == colours::kRed) << "only these tell a dash";
+    }
+}
+
 TEST(TenSteps, EndAtFiveTimesAWholeNumberOfAPowerOfTen) {
     const struct {
         double top, most;

@@ -250,6 +250,20 @@ TEST(SearchLooks, SetTheSizesAndLoadsInColumnsWithTheirUnits) {
     EXPECT_FALSE(textOf(canvas, "RESULTS OF BEARING SEARCH FOR : ").look.underline);
 }
 
+TEST(ReportLooks, BeginAtTheSameHeightOnEveryPage) {
+    const double title = textOf(printed(loadLife()), "RESULTS OF LOAD-LIFE CALCULATION FOR : ").box.top;
+    EXPECT_NEAR(title, 10.0, 1e-9) << "an inch below the edge";
+    ProgramState state = searched();
+    while (state.search.rows.size() < 70)
+        state.search.rows.push_back(state.search.rows[0]);
+    const RecordingCanvas list = listed(state);
+    EXPECT_NEAR(textOf(list, "RESULTS OF BEARING SEARCH FOR : ").box.top, title, 1e-9);
+    int heads = 0;
+    for (const Text& text : list.texts)
+        heads += text.text == "BEARING" && std::abs(text.box.top - title) < 1e-9 ? 1 : 0;
+    EXPECT_EQ(heads, 2) << "the second and the third page begin with the head of the list";
+}
+
 TEST(SearchLooks, TakeASmallerTypeForATitleThatWouldRunOffThePage) {
     ProgramState state = searched();
     const double usual = textOf(listed(state), "4-POINT CONTACT").look.points;

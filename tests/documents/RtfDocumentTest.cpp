@@ -30,6 +30,9 @@ TEST(RtfText, EscapesWhatRtfWouldTakeForItsOwn) {
     EXPECT_EQ(rtfText("a\\b{c}"), "a\\\\b\\{c\\}");
     EXPECT_EQ(rtfText("Ø"), "\\'d8");
     EXPECT_EQ(rtfText("™"), "\\u8482?");
+    // The last of one byte, the first and the last of two, and their neighbours.
+    EXPECT_EQ(rtfText("\x7F\u0080\u00FF\u0100"), "\x7F\\'80\\'ff\\u256?");
+    EXPECT_EQ(rtfText("\u7FFF\u8000\uFFFD"), "\\u32767?\\u-32768?\\u-3?");
     EXPECT_EQ(rtfText("a\nb"), "a b");
 }
 

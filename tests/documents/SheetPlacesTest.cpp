@@ -251,7 +251,11 @@ TEST(SheetPlaces, OfTheSpeedChart) {
     EXPECT_EQ(heading.colour, "BLUE");
     EXPECT_EQ(heading.size, 9.0);
     EXPECT_TRUE(find("Speed in RPM").vertical);
-    EXPECT_LT(find("Speed in RPM").box.right, 4.15) << "left of the scale";
+    const PageBox upright = find("Speed in RPM").box;
+    EXPECT_LT(upright.right, 4.15) << "left of the scale";
+    EXPECT_GT(upright.left, 3.4) << "and right of the ratings";
+    EXPECT_NEAR((upright.top + upright.bottom) / 2.0, (3.08 + 1.43) / 2.0, 0.05)
+        << "at half of the chart's height";
     EXPECT_LT(find("Percent of Dynamic Capacity").box.top, 1.28) << "below the percents";
     for (int percent = 25; percent <= 200; percent += 25) {
         const Placed label = find(" " + std::to_string(percent) + "%");
