@@ -21,13 +21,20 @@ struct SampleBearings : Decoding {
 /// "K04013" and the like: every size of the catalogue, as a part number begins.
 inline std::vector<std::string> sampleSizes() {
     std::vector<std::string> sizes;
+    // Watched by the sanitizers a fifth of them shows as much: the lines are the same for each.
+#ifdef NORLAPLAN_SANITIZE
+    constexpr std::size_t kEach = 5;
+#else
+    constexpr std::size_t kEach = 1;
+#endif
+    std::size_t count = 0;
     for (const std::string section : {"8", "13", "20"}) {
         std::ifstream table(shippedFolder() / "Data Tables" / (section + "-X.csv"));
         std::string line;
         std::getline(table, line);
         std::getline(table, line);
         while (std::getline(table, line)) {
-            if (line.size() > 6) sizes.push_back(line.substr(0, 6));
+            if (line.size() > 6 && count++ % kEach == 0) sizes.push_back(line.substr(0, 6));
         }
     }
     return sizes;

