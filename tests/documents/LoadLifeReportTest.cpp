@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "documents/LoadLifeReport.h"
+#include "documents/ReportSamples.h"
 #include "numbers/RuntimeError.h"
 #include "support/FaultOf.h"
 #include "support/RecordingPorts.h"
@@ -15,23 +16,10 @@ using testing::FixedClock;
 using testing::RecordingCanvas;
 
 ProgramState resultOf(double speed) {
-    ProgramState state;
-    state.user.userName = "Ann";
-    state.bearing.partNumber = "K19013FR0A";
-    state.bearing.styleLetter = "F";
-    state.bearing.separatorOverlay = "RIBBON";
-    state.bearing.bore = 7.5;
-    state.bearing.outsideDiameter = 8.5;
-    state.bearing.height = 1.0;
-    state.loads.radialLoadDisplay = 1200.0;
-    state.loads.speed = speed;
-    state.life.l10Revolutions = 1162182300.0;
+    ProgramState state = testing::sampleLife(speed);
     state.life.l10Hours = 48424.3;
-    state.life.staticSafetyFactor = 2.5;
-    state.life.torqueLabel = "Estimated Starting Torque = ";
     state.life.torqueDisplay = 0.4;
     state.life.speedVerdict = "The speed of 400 RPM is below the recommended limit of 873 RPM.";
-    state.life.speedVerdictColor = 2;
     return state;
 }
 

@@ -7,6 +7,7 @@
 #include "documents/ApplicationReport.h"
 #include "documents/LoadLifeReport.h"
 #include "documents/PrintedPage.h"
+#include "documents/ReportSamples.h"
 #include "documents/SampleApplication.h"
 #include "documents/SearchReport.h"
 #include "support/RecordingPorts.h"
@@ -56,24 +57,10 @@ void expectRun(const RecordingCanvas& canvas, const Text& first, const Text& sec
 }
 
 ProgramState loadLife() {
-    ProgramState state;
-    state.bearing.partNumber = "K19013FR0A";
-    state.bearing.styleLetter = "F";
-    state.bearing.separatorOverlay = "RIBBON";
-    state.bearing.bore = 7.5;
-    state.bearing.outsideDiameter = 8.5;
-    state.bearing.height = 1.0;
-    state.loads.radialLoadDisplay = 1200.0;
+    ProgramState state = testing::sampleLife(400.0);
+    state.user.userName = "";
     state.loads.axialLoadDisplay = 50.0;
     state.loads.momentLoadDisplay = 3456.0;
-    state.loads.speed = 400.0;
-    state.life.l10Revolutions = 1162182300.0;
-    state.life.l10Hours = 48424.25;
-    state.life.staticSafetyFactor = 2.5;
-    state.life.torqueLabel = "Estimated Starting Torque = ";
-    state.life.torqueDisplay = 1.0;
-    state.life.speedVerdict = "Verdict.";
-    state.life.speedVerdictColor = 2;
     return state;
 }
 
@@ -166,13 +153,8 @@ TEST(LoadLifeLooks, ColourTheVerdictAndTheWarnings) {
 }
 
 ProgramState searched() {
-    ProgramState state;
-    state.style = {"4-POINT CONTACT", "X"};
-    state.criteria = {5.0, 9.0, 0.2, 1.2, 5.0, 9.0, 0.2, 1.2};
-    state.loads.radialLoadDisplay = 1234.0;
-    state.loads.axialLoadDisplay = 50.0;
-    state.loads.momentLoadDisplay = 10.0;
-    state.loads.speed = 100.0;
+    ProgramState state = testing::sampleSearch();
+    state.user.userName = "";
     state.search.rows = {{"K1", "100", "1234567", "2058", "5.0000", "6.0000", "0.5000", "YES "},
                          {"K2", "99", "2234567", "3058", "5.0000", "6.0000", "0.5000", "NO "},
                          {"K3", "900", "3234567", "4058", "5.0000", "6.0000", "0.5000", "CALL "}};

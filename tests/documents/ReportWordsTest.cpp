@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "documents/LoadLifeReport.h"
+#include "documents/ReportSamples.h"
 #include "documents/SearchReport.h"
 #include "support/RecordingPorts.h"
 
@@ -16,35 +17,16 @@ namespace {
 using testing::FixedClock;
 
 ProgramState loadLife(double speed) {
-    ProgramState state;
-    state.user.userName = "Ann";
-    state.bearing.partNumber = "K19013FR0A";
-    state.bearing.bore = 7.5;
-    state.bearing.outsideDiameter = 8.5;
-    state.bearing.height = 1.0;
-    state.loads.radialLoadDisplay = 1200.0;
+    ProgramState state = testing::sampleLife(speed);
     state.loads.axialLoadDisplay = 50.0;
     state.loads.momentLoadDisplay = 3456.0;
-    state.loads.speed = speed;
-    state.life.l10Revolutions = 1162182300.0;
-    state.life.l10Hours = 48424.25;
-    state.life.staticSafetyFactor = 2.5;
-    state.life.torqueLabel = "Estimated Starting Torque = ";
-    state.life.torqueDisplay = 1.0;
     state.life.speedVerdict = "Too fast.";
     state.life.speedVerdictColor = 12;
     return state;
 }
 
 ProgramState searched(const std::string& letter = "X", const std::string& caption = "4-POINT CONTACT") {
-    ProgramState state;
-    state.user.userName = "Ann";
-    state.style = {caption, letter};
-    state.criteria = {5.0, 9.0, 0.2, 1.2, 5.0, 9.0, 0.2, 1.2};
-    state.loads.radialLoadDisplay = 1234.0;
-    state.loads.axialLoadDisplay = 50.0;
-    state.loads.momentLoadDisplay = 10.0;
-    state.loads.speed = 100.0;
+    ProgramState state = testing::sampleSearch(letter, caption);
     state.search.rows = {{"K1", "100", "1234567", "2058", "5.0000", "6.0000", "0.5000", "YES "},
                          {"K2", "99", "2234567", "3058", "5.0000", "6.0000", "0.5000", "NO "}};
     return state;

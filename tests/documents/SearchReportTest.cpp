@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "documents/ReportSamples.h"
 #include "documents/SearchReport.h"
 #include "support/OnPaper.h"
 #include "support/RecordingPorts.h"
@@ -16,14 +17,7 @@ using testing::RecordingCanvas;
 /// The results of a search with so many rows named ROW1, ROW2 ...; every second one is over its limit.
 ProgramState resultsOf(std::size_t rows, const std::string& caption = "4-POINT CONTACT",
                        const std::string& letter = "X") {
-    ProgramState state;
-    state.user.userName = "Ann";
-    state.style = {caption, letter};
-    state.criteria = {5.0, 9.0, 0.2, 1.2, 5.0, 9.0, 0.2, 1.2};
-    state.loads.radialLoadDisplay = 1234.0;
-    state.loads.axialLoadDisplay = 50.0;
-    state.loads.momentLoadDisplay = 10.0;
-    state.loads.speed = 100.0;
+    ProgramState state = testing::sampleSearch(letter, caption);
     for (std::size_t i = 1; i <= rows; ++i) {
         state.search.rows.push_back({"ROW" + std::to_string(i), i % 2 == 0 ? "99" : "100", "1234567", "2058",
                                      "5.0000", "6.0000", "0.5000", "YES "});
