@@ -3,7 +3,7 @@
 import re
 import unittest
 
-from program import WITH_SANITIZERS, run
+from program import run
 
 #: How an option shows the kind of value that it takes.
 NUMBER, TEXT, FLAG = "FLOAT", "TEXT", ""
@@ -78,7 +78,6 @@ def entries(text):
     return found
 
 
-@unittest.skipIf(WITH_SANITIZERS, "other tests run the same commands")
 class Help(unittest.TestCase):
     def shown(self, *words):
         done = run(*words, "--help")

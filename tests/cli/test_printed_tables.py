@@ -5,7 +5,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from program import WITH_SANITIZERS, result, run
+from program import result, run
 
 WORDS = re.compile(r"\S+(?: \S+)*")
 NUMBER = re.compile(r"-?[\d,]*\.?\d+(E[+-]\d\d)?")
@@ -38,7 +38,6 @@ def read(lines):
     return list(columns), rows
 
 
-@unittest.skipIf(WITH_SANITIZERS, "other tests run the same commands")
 class PrintedTable(unittest.TestCase):
     def same(self, printed, value, places, what=""):
         """A printed number has so many places and is the value, rounded."""
